@@ -1,0 +1,32 @@
+#include "base/delay.h"
+
+namespace tonarix {
+
+Waits::Awaitable::~Awaitable() {
+  if (pending_ != 0) waits_.scheduler_.cancel(pending_);
+  waits_.waiting_.erase(this);
+}
+
+void Waits::Awaitable::await_suspend(std::coroutine_handle<> routine) {
+  routine_ = routine;
+  waits_.waiting_.insert(this);
+  arm(span_);
+}
+
+void Waits::Awaitable::arm(Scheduler::Time span) {
+  if (pending_ != 0) waits_.scheduler_.cancel(pending_);
+  pending_ = waits_.scheduler_.post(span, [this] {
+    pending_ = 0;
+    Waits& waits = waits_;  // the awaitable is gone once the routine goes on
+    waits.waiting_.erase(this);
+    routine_.resume();
+    waits.resumed();
+  });
+}
+
+void Waits::close() {
+  closed_ = true;
+  for (Awaitable* waiting : waiting_) waiting->arm(Scheduler::Time::zero());
+}
+
+}  // namespace tonarix

@@ -1,0 +1,100 @@
+#include "base/window.h"
+
+#include <algorithm>
+
+namespace tonarix {
+
+Control::Control(Window& window, std::string name, std::optional<int> index)
+    : name_(std::move(name)), index_(index) {
+  window.controls_.push_back(this);
+}
+
+std::string Control::object_name() const {
+  return index_ ? name_ + "_" + std::to_string(*index_) : name_;
+}
+
+std::string ListControl::selected_text() const {
+  if (selected < 0 || selected >= static_cast<int>(items.size())) return {};
+  return items[static_cast<std::size_t>(selected)].text;
+}
+
+Window::Window(Scheduler& scheduler, std::string name)
+    : scheduler_(scheduler), name_(std::move(name)), waits_(scheduler, [this] { reap(); }) {}
+
+Window::~Window() = default;
+
+Control* Window::find(std::string_view object_name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
+    return control->object_name() == object_name;
+  });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Window::show() {
+  visible = true;
+  changed();
+}
+
+void Window::hide() {
+  visible = false;
+  changed();
+}
+
+void Window::handle(std::string_view tag, const std::function<void()>& work) {
+  try {
+    work();
+  } catch (...) {
+    failed(tag, std::current_exception());
+  }
+  changed();
+}
+
+void Window::run(std::string tag, Sequence sequence) {
+  running_.push_back({std::move(tag), std::move(sequence)});
+  running_.back().sequence.start();
+  reap();
+}
+
+void Window::reap() {
+  std::list<Running> finished;
+  for (auto next = running_.begin(); next != running_.end();) {
+    const auto here = next++;
+    if (here->sequence.done()) finished.splice(finished.end(), running_, here);
+  }
+  for (Running& routine : finished) {
+    if (routine.sequence.error()) failed(routine.tag, routine.sequence.error());
+  }
+  changed();
+}
+
+void Window::changed() {
+  if (on_changed) on_changed();
+}
+
+WindowList::~WindowList() {
+  scheduler_.cancel(release_);
+  leaving_.clear();
+  while (!windows_.empty()) windows_.pop_back();
+}
+
+void WindowList::adopt(std::unique_ptr<Window> window) {
+  windows_.push_back(std::move(window));
+  Window& opened = *windows_.back();
+  opened.visible = true;
+  if (on_opened) on_opened(opened);
+}
+
+void WindowList::unload(Window& window) {
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const auto& owned) { return owned.get() == &window; });
+  if (found == windows_.end()) return;
+  window.visible = false;
+  if (on_unloaded) on_unloaded(window);
+  leaving_.push_back(std::move(*found));
+  windows_.erase(found);
+  scheduler_.cancel(release_);
+  release_ = scheduler_.post([this] { leaving_.clear(); });
+  if (windows_.empty() && on_empty) on_empty();
+}
+
+}  // namespace tonarix

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "base/controls.h"
+#include "base/delay.h"
+#include "base/scheduler.h"
+#include "base/sequence.h"
+
+namespace tonarix {
+
+/// The logic half of a window: the state of its controls and a handler for each event, without a
+/// toolkit. Whoever shows it listens to `on_changed` and reads the state again.
+class Window {
+ public:
+  Window(Scheduler& scheduler, std::string name);
+  virtual ~Window();
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  const std::string& name() const { return name_; }
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// The control with this object name ("st_int_3"), or nullptr.
+  Control* find(std::string_view object_name) const;
+
+  /// What the title bar's close button does.
+  virtual void title_bar_close() = 0;
+
+  void show();
+  void hide();
+
+  std::string caption;
+  bool visible = false;
+  bool enabled = true;
+  bool busy = false;  ///< hourglass
+  std::function<void()> on_changed;
+
+ protected:
+  /// Runs an event's work. An exception goes to `failed` with the tag; then the change is
+  /// announced.
+  void handle(std::string_view tag, const std::function<void()>& work);
+  /// Runs a routine that waits, with the same care as `handle`. The window owns it; closing the
+  /// window's life ends it.
+  void run(std::string tag, Sequence sequence);
+  /// `handle` for plain work, `run` for a routine that waits; nothing when the control is hidden or
+  /// disabled, as when a click comes late.
+  template <typename Work>
+  void press(const Control& control, std::string_view tag, Work&& work) {
+    if (!control.open()) return;
+    if constexpr (std::is_same_v<std::invoke_result_t<Work>, Sequence>) {
+      run(std::string(tag), work());
+    } else {
+      handle(tag, work);
+    }
+  }
+
+  /// A failure of an event with the tag ("cmdOK_click."): log it, tell the user, close or go on.
+  virtual void failed(std::string_view tag, std::exception_ptr error) = 0;
+
+  void changed();
+  Waits::Awaitable Delay(double ms) { return waits_.Delay(ms); }
+  Waits& waits() { return waits_; }
+  Scheduler& scheduler() { return scheduler_; }
+
+ private:
+  friend class Control;
+  struct Running {
+    std::string tag;
+    Sequence sequence;
+  };
+  void reap();
+
+  Scheduler& scheduler_;
+  std::string name_;
+  std::vector<Control*> controls_;
+  Waits waits_;
+  std::list<Running> running_;
+};
+
+/// The open windows in the order of their opening. It owns them; a closed one is released by a
+/// posted task, so that a handler can close its own window.
+class WindowList {
+ public:
+  explicit WindowList(Scheduler& scheduler) : scheduler_(scheduler) {}
+  ~WindowList();
+  WindowList(const WindowList&) = delete;
+  WindowList& operator=(const WindowList&) = delete;
+
+  /// Takes the window, announces and shows it.
+  template <typename Kind>
+  Kind& open(std::unique_ptr<Kind> window) {
+    Kind& opened = *window;
+    adopt(std::move(window));
+    return opened;
+  }
+  void unload(Window& window);
+
+  int count() const { return static_cast<int>(windows_.size()); }
+  /// The most recently opened window, or nullptr.
+  Window* newest() const { return windows_.empty() ? nullptr : windows_.back().get(); }
+  Window* at(int index) const { return windows_.at(static_cast<std::size_t>(index)).get(); }
+
+  std::function<void(Window&)> on_opened;
+  std::function<void(Window&)> on_unloaded;  ///< the window still lives
+  std::function<void()> on_empty;            ///< the last window was unloaded
+
+ private:
+  void adopt(std::unique_ptr<Window> window);
+
+  Scheduler& scheduler_;
+  std::vector<std::unique_ptr<Window>> windows_;
+  std::vector<std::unique_ptr<Window>> leaving_;
+  Scheduler::TaskId release_ = 0;
+};
+
+}  // namespace tonarix

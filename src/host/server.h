@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/runtime_error.h"
+#include "base/window.h"
+#include "host/host.h"
+
+namespace tonarix {
+
+/// The link to the host application: everything the module asks of it. One instance for the
+/// process.
+class Server {
+ public:
+  using HostFactory = std::function<std::unique_ptr<Host>()>;
+
+  struct Application {
+    std::string executable;  ///< name without extension, first half of each record's key
+    std::string title;
+    int major = 1;
+    int minor = 0;
+    int revision = 0;
+    /// major "." minor "." revision as four digits: "1.0.0000"
+    std::string version() const;
+  };
+
+  /// What the start of the link came to.
+  struct Status {
+    bool running = false;
+    int number = 0;  ///< the user's role, or 7 when the link failed
+  };
+
+  static constexpr std::int16_t kNoMidiDevice = -9;
+
+  Server(HostFactory create, Application application)
+      : create_(std::move(create)), application_(std::move(application)) {}
+
+  /// Connects: role, MIDI device, start line in the log. Not running: a role other than 2 and 4, or
+  /// a failure (7).
+  Status ServerInit(const std::string& module);
+  std::int16_t ServerMidi() const { return midi_host_nr_; }
+  bool supervisor() const { return supervisor_; }
+  /// The user's data; "Unbekannt" alone when the call fails, "unbekannt" when nobody is logged on.
+  /// Never empty.
+  std::vector<std::string> ServerLogin();
+  /// True when the first element of the last ServerLogin differs from "unbekannt".
+  bool user_known() const { return user_known_; }
+  std::string ServerLang();
+  void ServerStore(const std::string& short_key, const Variant& data);
+  /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
+  /// read.
+  bool ServerRead(const std::string& short_key, std::vector<std::string>& target);
+  void ServerLogMess(const std::string& text);
+  /// Logs a failure at `place`. A host that fails here too is passed over: there is nobody left to
+  /// tell.
+  void ServerLogErr(const std::string& place, const RuntimeError& error);
+  /// Unloads all windows but the first, newest first, gives control back to the host and lets it
+  /// go.
+  void ServerMenue(WindowList& windows);
+
+  const Application& application() const { return application_; }
+
+ private:
+  HostFactory create_;
+  Application application_;
+  std::unique_ptr<Host> host_;
+  Variant HostLang_ = "Deutsch";
+  Variant stored_;
+  std::int16_t midi_host_nr_ = kNoMidiDevice;
+  bool supervisor_ = false;
+  bool user_known_ = false;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "base/chance.h"
+#include "music/tone.h"
+
+namespace tonarix {
+
+/// The scale table and the key it stands in. One instance for the process.
+struct Key {
+  std::array<Tone, 12> basis;     ///< the table as built, on C
+  std::array<Tone, 12> skala;     ///< the table in the current key; rows 0 to anz_stufen are in use
+  std::int16_t anz_stufen = 0;    ///< last row of the table, the octave of row 0
+  std::int16_t iv_anzahl = 0;     ///< number of answer codes per direction
+  std::int16_t qz_transpos = 0;   ///< offset of the key from C on the line of fifths
+  std::int16_t chr_transpos = 0;  ///< chromatic offset of the key, 0 to 11
+  std::int16_t tonart_offset = 0;  ///< the same folded to -5 to +6
+};
+
+/// Fills the C-based table for Dur (0), moll (1) or Dur-moll (2), copies it to `skala`, and sets
+/// `anz_stufen` and `iv_anzahl`: as many codes as degrees when `abfr_iv` is 0; 13, 17 or 19 when it
+/// is 1.
+void build_scale(Key& key, std::int16_t tongeschl, std::int16_t abfr_iv);
+
+/// Draws a key that is never the one on C and moves `skala` there.
+void choose_key(Key& key, std::int16_t tongeschl, Chance& chance);
+
+}  // namespace tonarix

@@ -1,0 +1,41 @@
+#include "base/arithmetic.h"
+
+#include <gtest/gtest.h>
+
+#include "base/runtime_error.h"
+
+namespace tonarix {
+namespace {
+
+TEST(Arithmetic, FourRoundingsDiffer) {
+  struct Row {
+    double value, down, half_even;
+    int truncated;
+  };
+  const Row rows[] = {{2.5, 2, 2, 2},     {3.5, 3, 4, 3},      {-2.5, -3, -2, -2},
+                      {-3.5, -4, -4, -3}, {0.5, 0, 0, 0},      {-0.5, -1, 0, 0},
+                      {2.51, 2, 3, 2},    {-2.51, -3, -3, -2}, {1.49, 1, 1, 1}};
+  for (const Row& row : rows) {
+    EXPECT_EQ(Int(row.value), row.down) << row.value;
+    EXPECT_EQ(Round(row.value), row.half_even) << row.value;
+    EXPECT_EQ(round_to_int16(row.value), row.half_even) << row.value;
+    EXPECT_EQ(static_cast<int>(row.value), row.truncated) << row.value;
+  }
+}
+
+TEST(Arithmetic, SixteenBitsNeverWrap) {
+  EXPECT_EQ(to_int16(32767), 32767);
+  EXPECT_EQ(round_to_int16(-32768.4), -32768);
+  EXPECT_THROW(to_int16(32768), RuntimeError);
+  EXPECT_THROW(to_int16(-32769), RuntimeError);
+  EXPECT_THROW(round_to_int16(32767.5), RuntimeError);
+  EXPECT_THROW(round_to_int16(0.0 / 0.0), RuntimeError);
+}
+
+TEST(Arithmetic, OddIsToldByTheRemainder) {
+  EXPECT_TRUE(is_odd(-3));
+  EXPECT_FALSE(is_odd(-4));
+}
+
+}  // namespace
+}  // namespace tonarix
