@@ -3,9 +3,1132 @@
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
     <name></name>
+    <message id="1s">
+        <source>Drucken</source>
+        <extracomment>Result sheet: button</extracomment>
+        <translation>Drucken</translation>
+    </message>
+    <message id="8s">
+        <source>Training speichern</source>
+        <extracomment>Title of the yes-or-no box when a training is left</extracomment>
+        <translation>Training speichern</translation>
+    </message>
+    <message id="13s">
+        <source>,,</source>
+        <extracomment>Octave mark: subcontra octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>,,</translation>
+    </message>
+    <message id="14s">
+        <source>-1</source>
+        <extracomment>Octave mark: small octave; never shown, tells the keyboard to print the plain lower-case name</extracomment>
+        <translation>-1</translation>
+    </message>
+    <message id="15s">
+        <source>'</source>
+        <extracomment>Octave mark: one-line octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>'</translation>
+    </message>
+    <message id="16s">
+        <source>''</source>
+        <extracomment>Octave mark: two-line octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>''</translation>
+    </message>
+    <message id="17s">
+        <source>'''</source>
+        <extracomment>Octave mark: three-line octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>'''</translation>
+    </message>
+    <message id="18s">
+        <source>''''</source>
+        <extracomment>Octave mark: four-line octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>''''</translation>
+    </message>
+    <message id="20s">
+        <source>,</source>
+        <extracomment>Octave mark: contra octave. Stands before the tone name in tone names, behind it on the piano keys</extracomment>
+        <translation>,</translation>
+    </message>
+    <message id="21s">
+        <source>-2</source>
+        <extracomment>Octave mark: great octave; never shown, tells the keyboard to print the upper-case name</extracomment>
+        <translation>-2</translation>
+    </message>
+    <message id="46s">
+        <source>Oktave</source>
+        <extracomment>Write exercises: warning that a tone is right but lies in another octave; exclamation marks follow</extracomment>
+        <translation>Oktave</translation>
+    </message>
+    <message id="68s">
+        <source>a</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 18</extracomment>
+        <translation>a</translation>
+    </message>
+    <message id="69s">
+        <source>A</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 18</extracomment>
+        <translation>A</translation>
+    </message>
+    <message id="70s">
+        <source>ais</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 25</extracomment>
+        <translation>ais</translation>
+    </message>
+    <message id="71s">
+        <source>Ais</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 25</extracomment>
+        <translation>Ais</translation>
+    </message>
+    <message id="72s">
+        <source>aisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 32</extracomment>
+        <translation>aisis</translation>
+    </message>
+    <message id="74s">
+        <source>as</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 11</extracomment>
+        <translation>as</translation>
+    </message>
+    <message id="75s">
+        <source>As</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 11</extracomment>
+        <translation>As</translation>
+    </message>
+    <message id="76s">
+        <source>ases</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 4</extracomment>
+        <translation>ases</translation>
+    </message>
+    <message id="82s">
+        <source>abwärts</source>
+        <extracomment>Direction behind an interval name: 'Major third downward'</extracomment>
+        <translation>abwärts</translation>
+    </message>
+    <message id="83s">
+        <source>abwärts</source>
+        <extracomment>Result sheet: head of the column of falling intervals</extracomment>
+        <translation>abwärts</translation>
+    </message>
+    <message id="109s">
+        <source>Anwender</source>
+        <extracomment>Result sheet: label of the user of the computer; a colon follows</extracomment>
+        <translation>Anwender</translation>
+    </message>
+    <message id="129s">
+        <source>nächste Aufgabe</source>
+        <extracomment>Exercise window: button and notice for the next task; a number may follow</extracomment>
+        <translation>nächste Aufgabe</translation>
+    </message>
+    <message id="131s">
+        <source>aufwärts</source>
+        <extracomment>Direction behind an interval name: 'Major third upward'</extracomment>
+        <translation>aufwärts</translation>
+    </message>
+    <message id="132s">
+        <source>aufwärts</source>
+        <extracomment>Result sheet: head of the column of rising intervals</extracomment>
+        <translation>aufwärts</translation>
+    </message>
+    <message id="136s">
+        <source>Freies Üben</source>
+        <extracomment>Settings: exercise level without saving or score</extracomment>
+        <translation>Freies Üben</translation>
+    </message>
+    <message id="144s">
+        <source>b</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 13</extracomment>
+        <translation>b</translation>
+    </message>
+    <message id="145s">
+        <source>B</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 13</extracomment>
+        <translation>B</translation>
+    </message>
+    <message id="154s">
+        <source>bestimmen</source>
+        <extracomment>First window: kind of exercise (name the intervals heard or read)</extracomment>
+        <translation>bestimmen</translation>
+    </message>
+    <message id="159s">
+        <source>Bilde...</source>
+        <extracomment>Build exercise: heading over the interval to form</extracomment>
+        <translation>Bilde...</translation>
+    </message>
+    <message id="160s">
+        <source>bilden</source>
+        <extracomment>First window: kind of exercise (form a tone with the pitch slider)</extracomment>
+        <translation>bilden</translation>
+    </message>
+    <message id="164s">
+        <source>c</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 15</extracomment>
+        <translation>c</translation>
+    </message>
+    <message id="165s">
+        <source>C</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 15</extracomment>
+        <translation>C</translation>
+    </message>
+    <message id="173s">
+        <source>cis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 22</extracomment>
+        <translation>cis</translation>
+    </message>
+    <message id="174s">
+        <source>Cis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 22</extracomment>
+        <translation>Cis</translation>
+    </message>
+    <message id="175s">
+        <source>cisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 29</extracomment>
+        <translation>cisis</translation>
+    </message>
+    <message id="180s">
+        <source>Ces</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 8</extracomment>
+        <translation>Ces</translation>
+    </message>
+    <message id="181s">
+        <source>ces</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 8</extracomment>
+        <translation>ces</translation>
+    </message>
+    <message id="182s">
+        <source>ceses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 1</extracomment>
+        <translation>ceses</translation>
+    </message>
+    <message id="183s">
+        <source>d</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 17</extracomment>
+        <translation>d</translation>
+    </message>
+    <message id="184s">
+        <source>D</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 17</extracomment>
+        <translation>D</translation>
+    </message>
+    <message id="185s">
+        <source>dis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 24</extracomment>
+        <translation>dis</translation>
+    </message>
+    <message id="186s">
+        <source>Dis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 24</extracomment>
+        <translation>Dis</translation>
+    </message>
+    <message id="187s">
+        <source>disis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 31</extracomment>
+        <translation>disis</translation>
+    </message>
+    <message id="189s">
+        <source>Datum</source>
+        <extracomment>Result sheet: label of the date; a colon follows</extracomment>
+        <translation>Datum</translation>
+    </message>
+    <message id="190s">
+        <source>des</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 10</extracomment>
+        <translation>des</translation>
+    </message>
+    <message id="191s">
+        <source>Des</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 10</extracomment>
+        <translation>Des</translation>
+    </message>
+    <message id="192s">
+        <source>deses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 3</extracomment>
+        <translation>deses</translation>
+    </message>
+    <message id="196s">
+        <source>Der gespeicherte Stand kann nicht geladen werden:</source>
+        <extracomment>Warning when a saved training cannot be restored; the name of the level follows behind a blank</extracomment>
+        <translation>Der gespeicherte Stand kann nicht geladen werden:</translation>
+    </message>
+    <message id="211s">
+        <source>e</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 19</extracomment>
+        <translation>e</translation>
+    </message>
+    <message id="212s">
+        <source>E</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 19</extracomment>
+        <translation>E</translation>
+    </message>
+    <message id="213s">
+        <source>eis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 26</extracomment>
+        <translation>eis</translation>
+    </message>
+    <message id="214s">
+        <source>Eis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 26</extracomment>
+        <translation>Eis</translation>
+    </message>
+    <message id="215s">
+        <source>eisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 33</extracomment>
+        <translation>eisis</translation>
+    </message>
+    <message id="218s">
+        <source>es</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 12</extracomment>
+        <translation>es</translation>
+    </message>
+    <message id="219s">
+        <source>Es</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 12</extracomment>
+        <translation>Es</translation>
+    </message>
+    <message id="220s">
+        <source>eses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 5</extracomment>
+        <translation>eses</translation>
+    </message>
+    <message id="221s">
+        <source>Gehörbildung</source>
+        <extracomment>Kind of study in window titles</extracomment>
+        <translation>Gehörbildung</translation>
+    </message>
+    <message id="223s">
+        <source>ENDE</source>
+        <extracomment>First window: button that ends the program</extracomment>
+        <translation>ENDE</translation>
+    </message>
+    <message id="224s">
+        <source>Musiklehre</source>
+        <extracomment>Kind of study in window titles</extracomment>
+        <translation>Musiklehre</translation>
+    </message>
+    <message id="226s">
+        <source>f</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 14</extracomment>
+        <translation>f</translation>
+    </message>
+    <message id="227s">
+        <source>F</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 14</extracomment>
+        <translation>F</translation>
+    </message>
+    <message id="228s">
+        <source>fis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 21</extracomment>
+        <translation>fis</translation>
+    </message>
+    <message id="229s">
+        <source>Fis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 21</extracomment>
+        <translation>Fis</translation>
+    </message>
+    <message id="230s">
+        <source>fisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 28</extracomment>
+        <translation>fisis</translation>
+    </message>
+    <message id="232s">
+        <source>Falsch</source>
+        <extracomment>Heading of the count of wrong answers, and what an answer field says after a wrong answer</extracomment>
+        <translation>Falsch</translation>
+    </message>
+    <message id="234s">
+        <source>fes</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 7</extracomment>
+        <translation>fes</translation>
+    </message>
+    <message id="235s">
+        <source>Fes</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 7</extracomment>
+        <translation>Fes</translation>
+    </message>
+    <message id="236s">
+        <source>feses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 0</extracomment>
+        <translation>feses</translation>
+    </message>
+    <message id="244s">
+        <source>G</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 16</extracomment>
+        <translation>G</translation>
+    </message>
+    <message id="245s">
+        <source>g</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 16</extracomment>
+        <translation>g</translation>
+    </message>
+    <message id="251s">
+        <source>gis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 23</extracomment>
+        <translation>gis</translation>
+    </message>
+    <message id="252s">
+        <source>Gis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 23</extracomment>
+        <translation>Gis</translation>
+    </message>
+    <message id="253s">
+        <source>gisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 30</extracomment>
+        <translation>gisis</translation>
+    </message>
+    <message id="260s">
+        <source>g2</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>g2</translation>
+    </message>
+    <message id="261s">
+        <source>g3</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>g3</translation>
+    </message>
+    <message id="262s">
+        <source>g6</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>g6</translation>
+    </message>
+    <message id="263s">
+        <source>g7</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>g7</translation>
+    </message>
+    <message id="267s">
+        <source>ges</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 9</extracomment>
+        <translation>ges</translation>
+    </message>
+    <message id="268s">
+        <source>Ges</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 9</extracomment>
+        <translation>Ges</translation>
+    </message>
+    <message id="269s">
+        <source>geses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 2</extracomment>
+        <translation>geses</translation>
+    </message>
+    <message id="271s">
+        <source>gebildete Tonhöhe</source>
+        <extracomment>Build exercise: caption of the pitch the student formed</extracomment>
+        <translation>gebildete Tonhöhe</translation>
+    </message>
+    <message id="275s">
+        <source>Gesamt:</source>
+        <extracomment>Result sheet: label of the total percentage, with its colon</extracomment>
+        <translation>Gesamt:</translation>
+    </message>
+    <message id="281s">
+        <source>große Sekunde</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>große Sekunde</translation>
+    </message>
+    <message id="282s">
+        <source>große Septime</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>große Septime</translation>
+    </message>
+    <message id="283s">
+        <source>große Sexte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>große Sexte</translation>
+    </message>
+    <message id="284s">
+        <source>große Terz</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>große Terz</translation>
+    </message>
+    <message id="287s">
+        <source>Übungsart</source>
+        <extracomment>Start of the title of the first window: 'Exercise type: tonal intervals ...'</extracomment>
+        <translation>Übungsart</translation>
+    </message>
+    <message id="291s">
+        <source>tonale Intervalle (sukzessiv) bestimmen</source>
+        <extracomment>Title of the exercise window, also behind the kind of study in the title of the settings</extracomment>
+        <translation>tonale Intervalle (sukzessiv) bestimmen</translation>
+    </message>
+    <message id="292s">
+        <source>tonale Intervalle sukzessiv bilden</source>
+        <extracomment>Title of the exercise window, also behind the kind of study in the title of the settings</extracomment>
+        <translation>tonale Intervalle sukzessiv bilden</translation>
+    </message>
+    <message id="293s">
+        <source>Töne nachspielen</source>
+        <extracomment>Title of the exercise window, also behind the kind of study in the title of the settings</extracomment>
+        <translation>Töne nachspielen</translation>
+    </message>
+    <message id="297s">
+        <source>Grundton</source>
+        <extracomment>Exercise window: what the first tone is ('Tone: keynote')</extracomment>
+        <translation>Grundton</translation>
+    </message>
+    <message id="300s">
+        <source>Grundton-Kontrolle</source>
+        <extracomment>Exercise window: button, plays the keynote chord</extracomment>
+        <translation>Grundton-Kontrolle</translation>
+    </message>
+    <message id="303s">
+        <source>H</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 20</extracomment>
+        <translation>H</translation>
+    </message>
+    <message id="304s">
+        <source>h</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 20</extracomment>
+        <translation>h</translation>
+    </message>
+    <message id="305s">
+        <source>His</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 27</extracomment>
+        <translation>His</translation>
+    </message>
+    <message id="306s">
+        <source>his</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 27</extracomment>
+        <translation>his</translation>
+    </message>
+    <message id="307s">
+        <source>hisis</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 34</extracomment>
+        <translation>hisis</translation>
+    </message>
+    <message id="316s">
+        <source>heses</source>
+        <extracomment>Tone name, lower-case form (small octave and higher), line of fifths place 6</extracomment>
+        <translation>heses</translation>
+    </message>
+    <message id="319s">
+        <source>hoch</source>
+        <extracomment>Settings: accuracy asked of the tone formed with the pitch slider</extracomment>
+        <translation>hoch</translation>
+    </message>
+    <message id="341s">
+        <source>Töne</source>
+        <extracomment>Settings: whose instrument is being chosen (the tones of the row)</extracomment>
+        <translation>Töne</translation>
+    </message>
+    <message id="345s">
+        <source>Transposition</source>
+        <extracomment>Settings: list of transpositions; a colon and the direction follow</extracomment>
+        <translation>Transposition</translation>
+    </message>
+    <message id="349s">
+        <source>k2</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>k2</translation>
+    </message>
+    <message id="350s">
+        <source>k3</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>k3</translation>
+    </message>
+    <message id="351s">
+        <source>k6</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>k6</translation>
+    </message>
+    <message id="352s">
+        <source>k7</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>k7</translation>
+    </message>
+    <message id="358s">
+        <source>kleine Sekunde</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>kleine Sekunde</translation>
+    </message>
+    <message id="359s">
+        <source>kleine Septime</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>kleine Septime</translation>
+    </message>
+    <message id="360s">
+        <source>kleine Sexte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>kleine Sexte</translation>
+    </message>
+    <message id="361s">
+        <source>kleine Terz</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>kleine Terz</translation>
+    </message>
+    <message id="370s">
+        <source>Kontrollwiedergabe</source>
+        <extracomment>Build exercise: button, plays the student's tone and then the target</extracomment>
+        <translation>Kontrollwiedergabe</translation>
+    </message>
+    <message id="394s">
+        <source>min</source>
+        <extracomment>Test: unit behind the minutes left</extracomment>
+        <translation>min</translation>
+    </message>
+    <message id="400s">
+        <source>mittel</source>
+        <extracomment>Settings: accuracy asked of the tone formed with the pitch slider</extracomment>
+        <translation>mittel</translation>
+    </message>
+    <message id="401s">
+        <source>mitteltönig (Kirnberger)</source>
+        <extracomment>Build exercise: tuning in force</extracomment>
+        <translation>mitteltönig (Kirnberger)</translation>
+    </message>
+    <message id="413s">
+        <source>abwärts</source>
+        <extracomment>Settings: list of transpositions, direction down</extracomment>
+        <translation>abwärts</translation>
+    </message>
+    <message id="416s">
+        <source>Nun den dritten Ton nachbilden</source>
+        <extracomment>Build exercise: what is heard now, two tones, the third is to be formed after them</extracomment>
+        <translation>Nun den dritten Ton nachbilden</translation>
+    </message>
+    <message id="421s">
+        <source>keine Transposition</source>
+        <extracomment>Settings: list of transpositions, none</extracomment>
+        <translation>keine Transposition</translation>
+    </message>
+    <message id="424s">
+        <source>niedrig</source>
+        <extracomment>Settings: accuracy asked of the tone formed with the pitch slider</extracomment>
+        <translation>niedrig</translation>
+    </message>
+    <message id="426s">
+        <source>Prüfung Nr.</source>
+        <extracomment>Settings: list of the exams, a number from 1 to 5 follows</extracomment>
+        <translation>Prüfung Nr.</translation>
+    </message>
+    <message id="432s">
+        <source>OK</source>
+        <extracomment>Button that accepts: first window, settings, and the answer of the build exercise</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="433s">
+        <source>andere Oktave</source>
+        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote an octave or more away); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
+        <translation>andere Oktave</translation>
+    </message>
+    <message id="437s">
+        <source>Prime</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Prime</translation>
+    </message>
+    <message id="438s">
+        <source>Prüfung</source>
+        <extracomment>Settings: exercise level, an exam</extracomment>
+        <translation>Prüfung</translation>
+    </message>
+    <message id="439s">
+        <source>Quarte</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Quarte</translation>
+    </message>
+    <message id="446s">
+        <source>Quinte</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Quinte</translation>
+    </message>
+    <message id="449s">
+        <source>Prime</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>Prime</translation>
+    </message>
+    <message id="450s">
+        <source>Oktave</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>Oktave</translation>
+    </message>
+    <message id="451s">
+        <source>Quarte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>Quarte</translation>
+    </message>
+    <message id="452s">
+        <source>Quinte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>Quinte</translation>
+    </message>
+    <message id="453s">
+        <source>r8</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>r8</translation>
+    </message>
+    <message id="454s">
+        <source>r4</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>r4</translation>
+    </message>
+    <message id="455s">
+        <source>r5</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>r5</translation>
+    </message>
+    <message id="456s">
+        <source>r1</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>r1</translation>
+    </message>
+    <message id="458s">
+        <source>rein (pythag.)</source>
+        <extracomment>Build exercise: tuning in force</extracomment>
+        <translation>rein (pythag.)</translation>
+    </message>
+    <message id="461s">
+        <source>Restzeit:</source>
+        <extracomment>Test: stands before the minutes left ('Time left: 3 min 20 s')</extracomment>
+        <translation>Restzeit:</translation>
+    </message>
+    <message id="462s">
+        <source>Restaufgaben</source>
+        <extracomment>Test: tasks left; the number stands before or behind it with a blank</extracomment>
+        <translation>Restaufgaben</translation>
+    </message>
+    <message id="468s">
+        <source>Richtig</source>
+        <extracomment>Heading of the count of right answers</extracomment>
+        <translation>Richtig</translation>
+    </message>
+    <message id="476s">
+        <source>sehr hoch</source>
+        <extracomment>Settings: accuracy asked of the tone formed with the pitch slider</extracomment>
+        <translation>sehr hoch</translation>
+    </message>
+    <message id="478s">
+        <source>sehr niedrig</source>
+        <extracomment>Settings: accuracy asked of the tone formed with the pitch slider</extracomment>
+        <translation>sehr niedrig</translation>
+    </message>
+    <message id="480s">
+        <source>s</source>
+        <extracomment>Test: unit behind the seconds left</extracomment>
+        <translation>s</translation>
+    </message>
+    <message id="481s">
+        <source>Sekunde</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Sekunde</translation>
+    </message>
+    <message id="483s">
+        <source>Ihre gebildete Tonhöhe</source>
+        <extracomment>Build exercise: what is heard now in the comparison, the student's pitch</extracomment>
+        <translation>Ihre gebildete Tonhöhe</translation>
+    </message>
+    <message id="486s">
+        <source>Septime</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Septime</translation>
+    </message>
+    <message id="488s">
+        <source>Sexte</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Sexte</translation>
+    </message>
+    <message id="495s">
+        <source>Soll der Stand des Trainings gespeichert werden?</source>
+        <extracomment>Question in a yes-or-no box when a training is left</extracomment>
+        <translation>Soll der Stand des Trainings gespeichert werden?</translation>
+    </message>
+    <message id="496s">
+        <source>spielen</source>
+        <extracomment>First window: kind of exercise (play the row on the keyboard)</extracomment>
+        <translation>spielen</translation>
+    </message>
+    <message id="508s">
+        <source>Stufe</source>
+        <extracomment>Settings: group title 'Tone 2: degree(n)'; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
+        <translation>Stufe</translation>
+    </message>
+    <message id="544s">
+        <source>Die tatsächliche Tonhöhe</source>
+        <extracomment>Build exercise: what is heard now in the comparison, the true pitch</extracomment>
+        <translation>Die tatsächliche Tonhöhe</translation>
+    </message>
+    <message id="545s">
+        <source>tatsächliche Tonhöhe</source>
+        <extracomment>Build exercise: caption of the target pitch</extracomment>
+        <translation>tatsächliche Tonhöhe</translation>
+    </message>
+    <message id="546s">
+        <source>temperiert</source>
+        <extracomment>Build exercise: tuning in force</extracomment>
+        <translation>temperiert</translation>
+    </message>
+    <message id="549s">
+        <source>Terz</source>
+        <extracomment>Interval name without its quality, in the table of degree names</extracomment>
+        <translation>Terz</translation>
+    </message>
+    <message id="550s">
+        <source>Test</source>
+        <extracomment>Settings: exercise level, a measured test</extracomment>
+        <translation>Test</translation>
+    </message>
+    <message id="556s">
+        <source>Ton</source>
+        <extracomment>Word before the number or the meaning of a tone: 'Tone 2: ...', 'Tone: keynote'</extracomment>
+        <translation>Ton</translation>
+    </message>
+    <message id="561s">
+        <source>Tonart</source>
+        <extracomment>Keyboard and write exercises: warning that the spelling of a tone does not fit the key; exclamation marks follow</extracomment>
+        <translation>Tonart</translation>
+    </message>
+    <message id="564s">
+        <source>Training mit Speichern</source>
+        <extracomment>Settings: exercise level, a training that can be saved</extracomment>
+        <translation>Training mit Speichern</translation>
+    </message>
+    <message id="565s">
+        <source>Training fortsetzen</source>
+        <extracomment>Settings: exercise level, goes on with a saved training</extracomment>
+        <translation>Training fortsetzen</translation>
+    </message>
+    <message id="573s">
+        <source>überm. Prime</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>überm. Prime</translation>
+    </message>
+    <message id="574s">
+        <source>überm. Quarte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>überm. Quarte</translation>
+    </message>
+    <message id="575s">
+        <source>überm. Quinte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>überm. Quinte</translation>
+    </message>
+    <message id="576s">
+        <source>überm. Sekunde</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>überm. Sekunde</translation>
+    </message>
+    <message id="577s">
+        <source>überm. Sexte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>überm. Sexte</translation>
+    </message>
+    <message id="578s">
+        <source>ü1</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>ü1</translation>
+    </message>
+    <message id="579s">
+        <source>ü2</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>ü2</translation>
+    </message>
+    <message id="580s">
+        <source>ü4</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>ü4</translation>
+    </message>
+    <message id="581s">
+        <source>ü5</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>ü5</translation>
+    </message>
+    <message id="582s">
+        <source>ü6</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>ü6</translation>
+    </message>
+    <message id="586s">
+        <source>Übungsart</source>
+        <extracomment>First window: title of the group of exercise kinds; also a label of the result sheet</extracomment>
+        <translation>Übungsart</translation>
+    </message>
+    <message id="592s">
+        <source>v7</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>v7</translation>
+    </message>
+    <message id="593s">
+        <source>verm. Oktave</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>verm. Oktave</translation>
+    </message>
+    <message id="594s">
+        <source>verm. Quarte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>verm. Quarte</translation>
+    </message>
+    <message id="595s">
+        <source>verm. Quinte</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>verm. Quinte</translation>
+    </message>
+    <message id="596s">
+        <source>verm. Septime</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>verm. Septime</translation>
+    </message>
+    <message id="597s">
+        <source>verm. Terz</source>
+        <extracomment>Interval name: answer buttons, answer fields, lists of degrees and transpositions, result sheet</extracomment>
+        <translation>verm. Terz</translation>
+    </message>
+    <message id="598s">
+        <source>v3</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>v3</translation>
+    </message>
+    <message id="599s">
+        <source>v4</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>v4</translation>
+    </message>
+    <message id="600s">
+        <source>v5</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>v5</translation>
+    </message>
+    <message id="602s">
+        <source>v8</source>
+        <extracomment>Short sign of an interval (perfect, large, small, augmented, diminished, and the number)</extracomment>
+        <translation>v8</translation>
+    </message>
+    <message id="604s">
+        <source>variable Tonhöhe</source>
+        <extracomment>Build exercise: caption of the pitch slider</extracomment>
+        <translation>variable Tonhöhe</translation>
+    </message>
+    <message id="616s">
+        <source>Vorgabe: alle drei Töne</source>
+        <extracomment>Build exercise: what is heard now, all three tones at their true pitch</extracomment>
+        <translation>Vorgabe: alle drei Töne</translation>
+    </message>
+    <message id="623s">
+        <source>aufwärts</source>
+        <extracomment>Settings: list of transpositions, direction up</extracomment>
+        <translation>aufwärts</translation>
+    </message>
+    <message id="625s">
+        <source>weiter</source>
+        <extracomment>Button that goes on when all is done: exercise window at the end of a training or test, result sheet</extracomment>
+        <translation>weiter</translation>
+    </message>
     <message id="629s">
-        <source></source>
+        <source>wiederholen</source>
+        <extracomment>Exercise window: button, plays the row again during the task</extracomment>
         <translation>wiederholen</translation>
+    </message>
+    <message id="632s">
+        <source>wiederholen (Kontrolle)</source>
+        <extracomment>Exercise window: button, plays the row again after the task</extracomment>
+        <translation>wiederholen (Kontrolle)</translation>
+    </message>
+    <message id="633s">
+        <source>Antworten</source>
+        <extracomment>Build exercise: heading over the answer fields</extracomment>
+        <translation>Antworten</translation>
+    </message>
+    <message id="634s">
+        <source>Wiederholungen</source>
+        <extracomment>Build exercise: heading over the count of repeats</extracomment>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message id="635s">
+        <source>Stimmung</source>
+        <extracomment>Build exercise: heading over the tuning in force</extracomment>
+        <translation>Stimmung</translation>
+    </message>
+    <message id="640s">
+        <source>zurück</source>
+        <extracomment>Exercise window: button that leaves the exercise</extracomment>
+        <translation>zurück</translation>
+    </message>
+    <message id="641s">
+        <source>Grundton</source>
+        <extracomment>Settings: whose instrument is being chosen (the keynote sounding along)</extracomment>
+        <translation>Grundton</translation>
+    </message>
+    <message id="648s">
+        <source>Aisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 32</extracomment>
+        <translation>Aisis</translation>
+    </message>
+    <message id="649s">
+        <source>Ases</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 4</extracomment>
+        <translation>Ases</translation>
+    </message>
+    <message id="651s">
+        <source>Cisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 29</extracomment>
+        <translation>Cisis</translation>
+    </message>
+    <message id="652s">
+        <source>Ceses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 1</extracomment>
+        <translation>Ceses</translation>
+    </message>
+    <message id="654s">
+        <source>Hisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 34</extracomment>
+        <translation>Hisis</translation>
+    </message>
+    <message id="655s">
+        <source>Heses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 6</extracomment>
+        <translation>Heses</translation>
+    </message>
+    <message id="656s">
+        <source>Disis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 31</extracomment>
+        <translation>Disis</translation>
+    </message>
+    <message id="657s">
+        <source>Deses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 3</extracomment>
+        <translation>Deses</translation>
+    </message>
+    <message id="659s">
+        <source>Eisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 33</extracomment>
+        <translation>Eisis</translation>
+    </message>
+    <message id="660s">
+        <source>Eses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 5</extracomment>
+        <translation>Eses</translation>
+    </message>
+    <message id="663s">
+        <source>Fisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 28</extracomment>
+        <translation>Fisis</translation>
+    </message>
+    <message id="664s">
+        <source>Feses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 0</extracomment>
+        <translation>Feses</translation>
+    </message>
+    <message id="666s">
+        <source>Gisis</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 30</extracomment>
+        <translation>Gisis</translation>
+    </message>
+    <message id="667s">
+        <source>Geses</source>
+        <extracomment>Tone name, upper-case form (great octave and lower), line of fifths place 2</extracomment>
+        <translation>Geses</translation>
+    </message>
+    <message id="681s">
+        <source>C</source>
+        <extracomment>Settings: lowest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>C</translation>
+    </message>
+    <message id="682s">
+        <source>c</source>
+        <extracomment>Settings: lowest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c</translation>
+    </message>
+    <message id="683s">
+        <source>c'</source>
+        <extracomment>Settings: lowest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c'</translation>
+    </message>
+    <message id="684s">
+        <source>c''</source>
+        <extracomment>Settings: lowest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c''</translation>
+    </message>
+    <message id="690s">
+        <source>schreiben</source>
+        <extracomment>First window: kind of exercise (write the row on the staff)</extracomment>
+        <translation>schreiben</translation>
+    </message>
+    <message id="694s">
+        <source>c'</source>
+        <extracomment>Settings: highest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c'</translation>
+    </message>
+    <message id="695s">
+        <source>c''</source>
+        <extracomment>Settings: highest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c''</translation>
+    </message>
+    <message id="696s">
+        <source>c'''</source>
+        <extracomment>Settings: highest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c'''</translation>
+    </message>
+    <message id="697s">
+        <source>c''''</source>
+        <extracomment>Settings: highest tone of a range (range list, 'C to c''')</extracomment>
+        <translation>c''''</translation>
+    </message>
+    <message id="699s">
+        <source>Version</source>
+        <extracomment>First window: stands before the version number</extracomment>
+        <translation>Version</translation>
+    </message>
+    <message id="700s">
+        <source>: </source>
+        <extracomment>Joins a title and what it tells: 'Date: 1.1.', 'Ear training: identify'. Keep the blank at the end</extracomment>
+        <translation>: </translation>
+    </message>
+    <message id="701s">
+        <source>/</source>
+        <extracomment>Stands with blanks between the two names of the first degree: 'Unison / Octave'</extracomment>
+        <translation>/</translation>
+    </message>
+    <message id="702s">
+        <source>bis</source>
+        <extracomment>Stands with blanks between the lowest and the highest tone of a range: 'c to c''</extracomment>
+        <translation>bis</translation>
+    </message>
+    <message id="703s">
+        <source>!</source>
+        <extracomment>Exclamation mark of warnings, written once or twice</extracomment>
+        <translation>!</translation>
+    </message>
+    <message id="705s">
+        <source>deutsch</source>
+        <extracomment>Language part of the folder and file names of the help texts; lower case, no blanks</extracomment>
+        <translation>deutsch</translation>
+    </message>
+    <message id="715s">
+        <source>tonale Intervalle sukzessiv schreiben</source>
+        <extracomment>Title of the exercise window, also behind the kind of study in the title of the settings</extracomment>
+        <translation>tonale Intervalle sukzessiv schreiben</translation>
+    </message>
+    <message id="720s">
+        <source>Es ist ein Fehler aufgetreten.</source>
+        <extracomment>Error message, first of four lines</extracomment>
+        <translation>Es ist ein Fehler aufgetreten.</translation>
+    </message>
+    <message id="721s">
+        <source>Einzelheiten stehen in der Logdatei.</source>
+        <extracomment>Error message, second of four lines</extracomment>
+        <translation>Einzelheiten stehen in der Logdatei.</translation>
+    </message>
+    <message id="722s">
+        <source>Bitte versuchen Sie es noch einmal.</source>
+        <extracomment>Error message, third of four lines</extracomment>
+        <translation>Bitte versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="723s">
+        <source>Tritt der Fehler wieder auf, melden Sie ihn bitte Ihrer Betreuung.</source>
+        <extracomment>Error message, last of four lines</extracomment>
+        <translation>Tritt der Fehler wieder auf, melden Sie ihn bitte Ihrer Betreuung.</translation>
+    </message>
+    <message id="724s">
+        <source>Gehörbildung</source>
+        <extracomment>First window: choice of the kind of study</extracomment>
+        <translation>Gehörbildung</translation>
+    </message>
+    <message id="725s">
+        <source>Musiklehre</source>
+        <extracomment>First window: choice of the kind of study</extracomment>
+        <translation>Musiklehre</translation>
+    </message>
+    <message id="832s">
+        <source>Ergänzen Sie in beliebiger Reihenfolge die fehlenden
+Vorzeichen!</source>
+        <extracomment>Settings and keyboard exercise: small notice in two lines</extracomment>
+        <translation>Ergänzen Sie in beliebiger Reihenfolge die fehlenden
+Vorzeichen!</translation>
     </message>
 </context>
 </TS>
