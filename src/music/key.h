@@ -2,9 +2,11 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "base/chance.h"
 #include "music/tone.h"
+#include "music/tones.h"
 
 namespace tonarix {
 
@@ -21,10 +23,20 @@ struct Key {
 
 /// Fills the C-based table for Dur (0), moll (1) or Dur-moll (2), copies it to `skala`, and sets
 /// `anz_stufen` and `iv_anzahl`: as many codes as degrees when `abfr_iv` is 0; 13, 17 or 19 when it
-/// is 1.
+/// is 1. The key stands on C until one is chosen. RuntimeError 9 for any other `tongeschl`.
 void build_scale(Key& key, std::int16_t tongeschl, std::int16_t abfr_iv);
 
-/// Draws a key that is never the one on C and moves `skala` there.
+/// Draws a key that is never the one on C and moves `skala` there: one sign, then a distance, which
+/// in moll is drawn again when it leads to C. Six fifths to either side of C, in moll of A minor.
 void choose_key(Key& key, std::int16_t tongeschl, Chance& chance);
+
+/// Moves `skala` to the key this many fifths from C, -10 to 14: every tone keeps a name.
+void move_to_key(Key& key, int qz_transpos);
+
+/// Row of the tone with this name in the current key, or nothing when it is not in the key.
+inline std::optional<int> skala_row(const Key& key, int qz) {
+  const int position = position_in_list(qz, key.skala, key.anz_stufen);
+  return position == 0 ? std::nullopt : std::optional<int>(position - 1);
+}
 
 }  // namespace tonarix

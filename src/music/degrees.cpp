@@ -1,0 +1,102 @@
+#include "music/degrees.h"
+
+#include <array>
+#include <cstdlib>
+
+#include "base/runtime_error.h"
+#include "music/tones.h"
+
+namespace tonarix {
+namespace {
+
+constexpr std::array<Degree, 8> kDur{{
+    // {chr, qz}, label, code over the keynote
+    {{12, 15}, "(I)", 1},
+    {{14, 17}, "(II)", 4},
+    {{16, 19}, "(III)", 8},
+    {{17, 14}, "(IV)", 3},
+    {{19, 16}, "(V)", 2},
+    {{21, 18}, "(VI)", 6},
+    {{23, 20}, "(VII)", 10},
+    {{24, 15}, "", 0},
+}};
+
+constexpr std::array<Degree, 10> kMoll{{
+    {{12, 15}, "(I)", 1},
+    {{14, 17}, "(II)", 4},
+    {{15, 12}, "(III)", 7},
+    {{17, 14}, "(IV)", 3},
+    {{19, 16}, "(V)", 2},
+    {{20, 11}, "(VIa)", 9},
+    {{21, 18}, "(VIb)", 6},
+    {{22, 13}, "(VIIa)", 5},
+    {{23, 20}, "(VIIb)", 10},
+    {{24, 15}, "", 0},
+}};
+
+// No row for the tritone over the keynote: it is no degree.
+constexpr std::array<Degree, 12> kDurMoll{{
+    {{12, 15}, "(I)", 1},
+    {{13, 10}, "(IIa)", 11},
+    {{14, 17}, "(IIb)", 4},
+    {{15, 12}, "(IIIa)", 7},
+    {{16, 19}, "(IIIb)", 8},
+    {{17, 14}, "(IV)", 3},
+    {{19, 16}, "(V)", 2},
+    {{20, 11}, "(VIa)", 9},
+    {{21, 18}, "(VIb)", 6},
+    {{22, 13}, "(VIIa)", 5},
+    {{23, 20}, "(VIIb)", 10},
+    {{24, 15}, "", 0},
+}};
+
+// Every row sounds as it is written, the octave closes the scale, and each degree's code leads from
+// the keynote upward to its tone.
+constexpr bool holds_together(std::span<const Degree> scale) {
+  const Tone keynote = scale.front().tone;
+  for (const Degree& degree : scale.first(scale.size() - 1)) {
+    if (degree.tone.chr % 12 != pitch_class(degree.tone.qz)) return false;
+    if (degree.code != direct_code(1, degree.tone.qz, keynote.qz)) return false;
+  }
+  return scale.back().tone == Tone{static_cast<std::int16_t>(keynote.chr + 12), keynote.qz};
+}
+static_assert(holds_together(kDur) && holds_together(kMoll) && holds_together(kDurMoll));
+
+}  // namespace
+
+std::span<const Degree> degrees(std::int16_t tongeschl) {
+  switch (tongeschl) {
+    case 0:
+      return kDur;
+    case 1:
+      return kMoll;
+    case 2:
+      return kDurMoll;
+    default:
+      throw RuntimeError::index_out_of_range("tongeschl");
+  }
+}
+
+std::string degree_caption(std::int16_t tongeschl, int row, const IntervalNames& names,
+                           const Texts& texts) {
+  const std::span<const Degree> scale = degrees(tongeschl);
+  if (row < 0 || row >= static_cast<int>(scale.size()) - 1) {
+    throw RuntimeError::index_out_of_range("degree_caption");
+  }
+  const Degree& degree = scale[static_cast<std::size_t>(row)];
+  std::string caption = std::string(degree.label) + " " + names.long_name(degree.code);
+  if (row == 0) caption += " " + texts.Wort(701_text) + " " + names.long_name(0);
+  return caption;
+}
+
+std::int16_t direct_code_of_degree(const Key& key, int degree) {
+  const int row = std::abs(degree) - 1;
+  if (row == 0) return 1;
+  if (row < 0 || row > key.anz_stufen) {
+    throw RuntimeError::index_out_of_range("direct_code_of_degree");
+  }
+  const int x = 2 * (key.skala[static_cast<std::size_t>(row)].qz - key.skala[0].qz);
+  return to_int16(x < 0 ? -x + 1 : x);
+}
+
+}  // namespace tonarix
