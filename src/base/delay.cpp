@@ -26,7 +26,9 @@ void Waits::Awaitable::arm(Scheduler::Time span) {
 
 void Waits::close() {
   closed_ = true;
-  for (Awaitable* waiting : waiting_) waiting->arm(Scheduler::Time::zero());
+  for (Awaitable* waiting : waiting_) {
+    if (waiting->cut_short_) waiting->arm(Scheduler::Time::zero());
+  }
 }
 
 }  // namespace tonarix

@@ -20,11 +20,12 @@ class Waits {
 
   class Awaitable {
    public:
-    Awaitable(Waits& waits, Scheduler::Time span) : waits_(waits), span_(span) {}
+    Awaitable(Waits& waits, Scheduler::Time span, bool cut_short)
+        : waits_(waits), span_(span), cut_short_(cut_short) {}
     Awaitable(const Awaitable&) = delete;
     Awaitable& operator=(const Awaitable&) = delete;
     ~Awaitable();
-    bool await_ready() const noexcept { return waits_.closed_; }
+    bool await_ready() const noexcept { return cut_short_ && waits_.closed_; }
     void await_suspend(std::coroutine_handle<> routine);
     void await_resume() const noexcept {}
 
@@ -33,13 +34,16 @@ class Waits {
     void arm(Scheduler::Time span);
     Waits& waits_;
     Scheduler::Time span_;
+    bool cut_short_;
     std::coroutine_handle<> routine_;
     Scheduler::TaskId pending_ = 0;
   };
 
-  Awaitable Delay(double ms) { return {*this, milliseconds(ms)}; }
+  Awaitable Delay(double ms) { return {*this, milliseconds(ms), true}; }
+  /// A wait that closing does not cut short, for what is done on the way out.
+  Awaitable FullDelay(double ms) { return {*this, milliseconds(ms), false}; }
   /// Lets everything that is due run first.
-  Awaitable Yield() { return {*this, Scheduler::Time::zero()}; }
+  Awaitable Yield() { return {*this, Scheduler::Time::zero(), true}; }
 
   /// Ends all waits at once; later waits do not wait.
   void close();
