@@ -1,0 +1,259 @@
+#include "base/windows/bindings.h"
+
+#include <QButtonGroup>
+#include <QSignalBlocker>
+
+#include "base/windows/mnemonics.h"
+
+namespace tonarix {
+namespace {
+
+std::optional<QColor> to_qcolor(const std::optional<Colour>& colour) {
+  if (!colour) return std::nullopt;
+  return theme::colour(*colour);
+}
+
+/// Blanks that pad numbers to one width on the left become as wide as a digit, which is two blanks
+/// in the font; blanks on the right go.
+QString entry_text(const std::string& text) {
+  const QString entry = to_qstring(text);
+  qsizetype blanks = 0;
+  while (blanks < entry.size() && entry[blanks] == QLatin1Char(' ')) ++blanks;
+  return QString(blanks, QLatin1Char(' ')) + entry.left(blanks) + entry.trimmed();
+}
+
+void set_entries(ListBox& list, const ListControl& control) {
+  bool same = list.count() == static_cast<int>(control.items.size());
+  for (int i = 0; same && i < list.count(); ++i) {
+    same = list.itemData(i).toByteArray().toStdString() ==
+           control.items[static_cast<std::size_t>(i)].text;
+  }
+  if (same) return;
+  list.clear();
+  for (const ListControl::Item& item : control.items) {
+    list.addItem(entry_text(item.text), QByteArray::fromStdString(item.text));
+  }
+}
+
+/// A light colour is no ink on white: it becomes the surface instead.
+void set_list_colours(ListBox& list, const std::optional<QColor>& back,
+                      const std::optional<QColor>& fore) {
+  QPalette palette;
+  std::optional<QColor> surface = back;
+  if (fore && theme::ink_on(*fore) != QColor(Qt::white)) {
+    surface = fore;
+  } else if (fore) {
+    palette.setColor(QPalette::Active, QPalette::ButtonText, *fore);
+    palette.setColor(QPalette::Inactive, QPalette::ButtonText, *fore);
+  }
+  palette.setColor(QPalette::Button, surface.value_or(theme::colour(theme::card)));
+  if (surface) palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x6B, 0x38, 0x38));
+  list.setPalette(palette);
+}
+
+Label::Sign sign_of(const Control& control) {
+  if (control.back == signal::right || control.fore == signal::right) return Label::Sign::right;
+  if (control.back == signal::wrong || control.fore == signal::wrong) return Label::Sign::wrong;
+  return Label::Sign::none;
+}
+
+}  // namespace
+
+bool reachable(const Control& control) {
+  return control.open() && (!control.container || reachable(*control.container));
+}
+
+QString to_qstring(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+Bindings::Joint& Bindings::join(QWidget& widget, const Control& control, Binding look) {
+  widget.setObjectName(to_qstring(control.object_name()));
+  if (look.keep_place) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+  }
+  joints_.push_back({&control, &widget, look, {}, {}, {}, {}, false, false});
+  return joints_.back();
+}
+
+void Bindings::bind(Button& button, const Control& control, Handler pressed, Binding look) {
+  Joint& joint = join(button, control, look);
+  joint.set_caption = [&button](const QString& caption) { button.setText(caption); };
+  joint.set_colours = [&button](auto back, auto fore) { button.set_colours(back, fore); };
+  joint.takes_mnemonic = look.mnemonic;
+  QObject::connect(&button, &QPushButton::clicked, &button,
+                   [this, &control, pressed = std::move(pressed)] { forward(control, pressed); });
+}
+
+void Bindings::bind(Label& label, const Control& control, Binding look) {
+  Joint& joint = join(label, control, look);
+  joint.set_caption = [&label](const QString& caption) { label.setText(caption); };
+  joint.set_colours = [&label, &control, signs = look.signs](auto back, auto fore) {
+    label.set_colours(back, fore);
+    if (signs) label.set_sign(sign_of(control));
+  };
+}
+
+void Bindings::bind(Option& option, const OptionControl& control, QButtonGroup& group,
+                    Handler chosen, Binding look) {
+  group.addButton(&option);
+  Joint& joint = join(option, control, look);
+  joint.is_option = true;
+  joint.set_caption = [&option](const QString& caption) { option.setText(caption); };
+  joint.refresh = [&option, &control, &group] {
+    if (option.isChecked() == control.value) return;
+    // The group would refuse to leave itself without a chosen option.
+    group.setExclusive(false);
+    option.setChecked(control.value);
+    group.setExclusive(true);
+  };
+  QObject::connect(&option, &QRadioButton::clicked, &option,
+                   [this, &control, chosen = std::move(chosen)] { forward(control, chosen); });
+}
+
+void Bindings::bind(ListBox& list, const ListControl& control, NumberHandler chosen, Binding look) {
+  Joint& joint = join(list, control, look);
+  joint.refresh = [&list, &control] {
+    const QSignalBlocker quiet(list);
+    set_entries(list, control);
+    if (list.currentIndex() != control.selected) list.setCurrentIndex(control.selected);
+  };
+  joint.set_colours = [&list](auto back, auto fore) { set_list_colours(list, back, fore); };
+  QObject::connect(&list, &QComboBox::activated, &list,
+                   [this, &control, chosen = std::move(chosen)](int index) {
+                     if (index == control.selected) return;
+                     forward(control, [&chosen, index] { chosen(index); });
+                   });
+}
+
+void Bindings::bind(Slider& slider, const SliderControl& control, NumberHandler moved,
+                    Binding look) {
+  Joint& joint = join(slider, control, look);
+  joint.refresh = [&slider, &control] {
+    const QSignalBlocker quiet(slider);
+    slider.setRange(control.minimum, control.maximum);
+    slider.setValue(control.value);
+  };
+  QObject::connect(&slider, &QSlider::valueChanged, &slider,
+                   [this, &control, moved = std::move(moved)](int value) {
+                     forward(control, [&moved, value] { moved(value); });
+                   });
+}
+
+void Bindings::bind(Card& card, const Control* frame, const Control* title) {
+  if (title) {
+    Joint& joint = join(card.title(), *title, {});
+    joint.takes_mnemonic = true;
+    joint.set_caption = [&card](const QString& caption) { card.title().setText(caption); };
+  }
+  if (!frame) return;
+  Joint& joint = join(card, *frame, {});
+  joint.set_colours = [&card](auto back, auto) { card.set_surface(back); };
+  joint.refresh = [this, &card, frame, title, shown = std::optional<QString>()]() mutable {
+    const bool locked = !frame->enabled || frame->back == signal::locked;
+    const QString mark = locked ? to_qstring(texts_.Wort(1250_text)) : to_qstring(frame->tag);
+    if (shown != mark) card.set_mark(mark, locked);
+    shown = mark;
+    if (title) card.setAccessibleName(to_qstring(title->text) + QLatin1Char(' ') + mark);
+  };
+}
+
+void Bindings::bind(QWidget& widget, const Control& control, Handler refresh, Binding look) {
+  join(widget, control, look).refresh = std::move(refresh);
+}
+
+void Bindings::forward(const Control& control, const Handler& handler) {
+  if (!live_) return;
+  if (reachable(control)) handler();
+  apply();
+}
+
+void Bindings::apply() {
+  if (!live_) return;
+  for (Joint& joint : joints_) apply(joint);
+  if (captions_changed_) assign_mnemonics();
+  if (parked_ && parked_->isEnabled() && parked_->isVisible()) {
+    const QWidget* focus = parked_->window()->focusWidget();
+    if (!focus || focus == parked_->window()) parked_->setFocus(Qt::OtherFocusReason);
+    parked_ = nullptr;
+  }
+}
+
+void Bindings::apply(Joint& joint) {
+  const Control& control = *joint.control;
+  Shown& shown = joint.shown;
+  const bool frame = dynamic_cast<Card*>(joint.widget) != nullptr;
+  const bool enabled =
+      frame || (control.enabled && (!control.container || reachable(*control.container)));
+  if (shown.enabled != enabled || shown.visible != control.visible) {
+    if ((!enabled || !control.visible) && joint.widget == joint.widget->window()->focusWidget()) {
+      // Left alone the focus would jump to a neighbour, and the next stroke press it.
+      parked_ = joint.widget;
+      joint.widget->window()->setFocus(Qt::OtherFocusReason);
+    }
+    if (shown.enabled != enabled) joint.widget->setEnabled(enabled);
+    if (shown.visible != control.visible) {
+      joint.widget->setVisible(control.visible);
+      captions_changed_ |= joint.takes_mnemonic;
+    }
+    shown.enabled = enabled;
+    shown.visible = control.visible;
+  }
+  apply_captions(joint);
+  if (joint.set_colours &&
+      (!shown.coloured || shown.back != control.back || shown.fore != control.fore)) {
+    joint.set_colours(to_qcolor(control.back), to_qcolor(control.fore));
+    shown.coloured = true;
+    shown.back = control.back;
+    shown.fore = control.fore;
+  }
+  if (joint.refresh) joint.refresh();
+}
+
+void Bindings::apply_captions(Joint& joint) {
+  const Control& control = *joint.control;
+  Shown& shown = joint.shown;
+  const bool same_text = shown.text == control.text;
+  if (same_text && shown.accessible_name == control.accessible_name && shown.tag == control.tag) {
+    return;
+  }
+  shown.text = control.text;
+  shown.accessible_name = control.accessible_name;
+  shown.tag = control.tag;
+  if (!same_text && joint.set_caption) {
+    if (joint.takes_mnemonic) {
+      captions_changed_ = true;
+    } else {
+      const bool label = dynamic_cast<QLabel*>(joint.widget) != nullptr;
+      joint.set_caption(label ? to_qstring(control.text) : plain_caption(to_qstring(control.text)));
+    }
+  }
+  apply_name(joint);
+}
+
+void Bindings::apply_name(Joint& joint) {
+  const Control& control = *joint.control;
+  QString name =
+      to_qstring(control.accessible_name.empty() ? control.text : control.accessible_name);
+  // "ja" says nothing to who cannot see the title above it.
+  if (joint.is_option && !control.tag.empty()) {
+    name = to_qstring(control.tag + texts_.Wort(700_text)) + name;
+  }
+  joint.widget->setAccessibleName(name);
+}
+
+void Bindings::assign_mnemonics() {
+  captions_changed_ = false;
+  QSet<QChar> taken;
+  for (const bool buttons : {true, false}) {
+    for (Joint& joint : joints_) {
+      if (!joint.takes_mnemonic || !joint.control->visible) continue;
+      if ((dynamic_cast<Button*>(joint.widget) != nullptr) != buttons) continue;
+      joint.set_caption(caption_with_mnemonic(to_qstring(joint.control->text), taken));
+    }
+  }
+}
+
+}  // namespace tonarix

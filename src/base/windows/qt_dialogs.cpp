@@ -1,0 +1,146 @@
+#include "base/windows/qt_dialogs.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace tonarix {
+namespace {
+
+/// "!" or "?" in a circle.
+class MessageSign final : public QWidget {
+ public:
+  MessageSign(MessageStyle style, QWidget* parent) : QWidget(parent), style_(style) {
+    setFixedSize(40, 40);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool warning = style_ == MessageStyle::warning;
+    painter.setPen(QPen(theme::colour(theme::title), 2));
+    painter.setBrush(theme::colour(warning ? signal::open : theme::card));
+    painter.drawEllipse(QRectF(rect()).adjusted(2, 2, -2, -2));
+    painter.setFont(theme::font(TextRole::question));
+    painter.drawText(rect(), Qt::AlignCenter, warning ? QStringLiteral("!") : QStringLiteral("?"));
+  }
+
+ private:
+  MessageStyle style_;
+};
+
+}  // namespace
+
+QtDialogs::QtDialogs(const Texts& texts, Presenter& presenter)
+    : texts_(texts), presenter_(presenter) {
+  presenter_.on_views_changed = [this] { attach(); };
+}
+
+QtDialogs::~QtDialogs() {
+  presenter_.on_views_changed = nullptr;
+}
+
+void QtDialogs::show(const Message& message, std::function<void(Reply)> done) {
+  waiting_.push_back({message, std::move(done)});
+  if (waiting_.size() == 1) open_next();
+}
+
+void QtDialogs::open_next() {
+  if (waiting_.empty()) return;
+  const bool question = waiting_.front().message.style == MessageStyle::yes_no;
+  box_ = make(waiting_.front().message);
+  QObject::connect(box_.get(), &QDialog::finished, box_.get(), [this, question](int result) {
+    const bool agreed = result == QDialog::Accepted;
+    answered(!question ? Reply::ok : agreed ? Reply::yes : Reply::no);
+  });
+  box_->winId();  // the native window, which `attach` needs
+  attach();
+  box_->show();
+}
+
+void QtDialogs::answered(Reply reply) {
+  box_.release()->deleteLater();  // its own signal is still being delivered
+  const std::function<void(Reply)> done = std::move(waiting_.front().done);
+  waiting_.pop_front();
+  open_next();
+  if (done) done(reply);
+}
+
+void QtDialogs::attach() {
+  if (!box_ || !box_->windowHandle()) return;
+  QWidget* owner = presenter_.newest_visible();
+  box_->windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
+  if (owner && !box_->isVisible()) {
+    box_->adjustSize();
+    QRect frame(QPoint(), box_->size());
+    frame.moveCenter(owner->geometry().center());
+    box_->move(frame.topLeft());
+  }
+  if (box_->isVisible()) box_->raise();
+}
+
+QString QtDialogs::caption(const std::string& own, TextKey key, const QString& usual) const {
+  if (!own.empty()) return to_qstring(own);
+  const std::string text = texts_.Wort(key);
+  // A box must be answerable before a language is loaded and when none is there.
+  return text == "VOID" ? usual : to_qstring(text);
+}
+
+std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
+  auto box = std::make_unique<QDialog>();
+  box->setObjectName(QStringLiteral("message_box"));
+  box->setWindowModality(Qt::ApplicationModal);
+  box->setWindowTitle(to_qstring(message.title));
+  box->setAccessibleName(to_qstring(message.title));
+  box->setAccessibleDescription(to_qstring(message.text));
+  auto* whole = new QVBoxLayout(box.get());
+  whole->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::between);
+  whole->setSpacing(theme::edge);
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(theme::between);
+  if (message.style != MessageStyle::plain) {
+    upper->addWidget(new MessageSign(message.style, box.get()), 0, Qt::AlignTop);
+  }
+  auto* words = new Label(TextRole::choice);
+  words->setObjectName(QStringLiteral("message_text"));
+  words->setText(to_qstring(message.text));
+  words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  words->setWordWrap(true);
+  // As wide as the longest line, within what is read with ease.
+  const QSize wanted = words->fontMetrics().size(0, words->text());
+  words->setMinimumWidth(std::clamp(wanted.width() + 4, 240, 560));
+  words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  upper->addWidget(words, 1);
+  whole->addLayout(upper);
+
+  auto* line = new QHBoxLayout;
+  line->setSpacing(theme::inside);
+  line->addStretch(1);
+  QSet<QChar> taken;
+  const auto add = [&](const char* name, const QString& text, int result, bool primary) {
+    auto* button = new Button(box.get());
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setAccessibleName(text);
+    button->set_primary(primary);
+    button->setDefault(primary);
+    line->addWidget(button);
+    QObject::connect(button, &QPushButton::clicked, box.get(),
+                     [dialog = box.get(), result] { dialog->done(result); });
+    if (primary) button->setFocus();
+  };
+  if (message.style == MessageStyle::yes_no) {
+    add("no", caption(message.no_caption, 1252_text, QStringLiteral("No")), QDialog::Rejected,
+        false);
+    add("yes", caption(message.yes_caption, 1251_text, QStringLiteral("Yes")), QDialog::Accepted,
+        true);
+  } else {
+    add("ok", caption({}, 432_text, QStringLiteral("OK")), QDialog::Accepted, true);
+  }
+  whole->addLayout(line);
+  return box;
+}
+
+}  // namespace tonarix

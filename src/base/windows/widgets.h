@@ -1,0 +1,121 @@
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <optional>
+
+#include "base/windows/theme.h"
+
+class QVBoxLayout;
+class QHBoxLayout;
+
+namespace tonarix {
+
+/// A button. It takes the keyboard's focus by Tab only, so that a mouse click leaves it where it
+/// is.
+class Button : public QPushButton {
+ public:
+  explicit Button(QWidget* parent = nullptr);
+  /// The one action that goes on is drawn in the accent colour.
+  void set_primary(bool primary);
+  bool primary() const { return primary_; }
+  void set_colours(std::optional<QColor> back, std::optional<QColor> fore);
+  const std::optional<QColor>& back() const { return back_; }
+  /// Colour of the caption while enabled.
+  QColor ink() const;
+
+ private:
+  bool primary_ = false;
+  std::optional<QColor> back_;
+  std::optional<QColor> fore_;
+};
+
+/// One of a group of options, with an explaining line below its caption where it has one.
+class Option : public QRadioButton {
+ public:
+  explicit Option(QWidget* parent = nullptr) : QRadioButton(parent) {}
+  void set_note(const QString& note);
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  bool hitButton(const QPoint& at) const override { return rect().contains(at); }
+
+ private:
+  int note_indent() const;
+  QString note_;
+};
+
+/// A drop-down list that the wheel does not change by accident.
+class ListBox : public QComboBox {
+ public:
+  explicit ListBox(QWidget* parent = nullptr);
+  void showPopup() override;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+/// A slider over whole numbers; the wheel passes it by.
+class Slider : public QSlider {
+ public:
+  explicit Slider(QWidget* parent = nullptr);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+/// A text, plain or on a coloured surface with a sign that reads without colour.
+class Label : public QLabel {
+ public:
+  enum class Sign { none, right, wrong };
+
+  explicit Label(TextRole role, QWidget* parent = nullptr);
+  void set_colours(std::optional<QColor> back, std::optional<QColor> fore);
+  /// A check or a cross before the text.
+  void set_sign(Sign sign);
+  Sign sign() const { return sign_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  TextRole role_;
+  std::optional<QColor> back_;
+  Sign sign_ = Sign::none;
+};
+
+/// A group on a white or coloured surface: a title, a mark in the corner ("locked"), a body.
+class Card : public QFrame {
+ public:
+  explicit Card(QWidget* parent = nullptr);
+
+  /// Where the group's things go.
+  QVBoxLayout& body() { return *body_; }
+  /// Line of the title; more may stand at its end.
+  QHBoxLayout& head() { return *head_; }
+  /// Shows a title; its letter for Alt leads to the group's current control.
+  Label& title();
+  void set_surface(std::optional<QColor> back);
+  /// Mark in the corner; empty for none. `locked` draws a padlock before it.
+  void set_mark(const QString& mark, bool locked);
+  bool locked() const { return locked_; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QVBoxLayout* body_;
+  QHBoxLayout* head_;
+  Label* title_ = nullptr;
+  Label* mark_ = nullptr;
+  std::optional<QColor> back_;
+  bool locked_ = false;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,220 @@
+#include "base/windows/window_view.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <algorithm>
+
+#include "base/windows/style.h"
+
+namespace tonarix {
+namespace {
+
+Button* first_open(const std::vector<Button*>& buttons) {
+  const auto found = std::find_if(buttons.begin(), buttons.end(), [](const Button* button) {
+    return button->isVisibleTo(button->window()) && button->isEnabled();
+  });
+  return found == buttons.end() ? nullptr : *found;
+}
+
+bool is_return(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+WindowView::WindowView(Window& window, const Texts& texts)
+    : logic_(&window), texts_(texts), bindings_(texts) {
+  setObjectName(to_qstring(window.name()));
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, theme::between);
+  whole->setSpacing(0);
+  scroll_ = new QScrollArea(this);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  content_ = new QWidget;
+  scroll_->setWidget(content_);
+  whole->addWidget(scroll_, 1);
+  actions_ = new QHBoxLayout;
+  actions_->setContentsMargins(theme::edge, theme::inside, theme::edge, 0);
+  actions_->setSpacing(theme::inside);
+  whole->addLayout(actions_);
+  QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now && content_->isAncestorOf(now)) scroll_->ensureWidgetVisible(now, 16, 16);
+  });
+  window.on_changed = [this] { apply(); };
+}
+
+WindowView::~WindowView() {
+  if (logic_) logic_->on_changed = nullptr;
+}
+
+void WindowView::apply() {
+  if (!logic_) return;
+  setWindowTitle(to_qstring(logic_->caption));
+  if (logic_->enabled != isEnabled()) setEnabled(logic_->enabled);
+  if (logic_->busy != testAttribute(Qt::WA_SetCursor)) {
+    if (logic_->busy) {
+      setCursor(Qt::WaitCursor);
+    } else {
+      unsetCursor();
+    }
+  }
+  bindings_.apply();
+  const Button* next = first_open(way_on_);
+  for (Button* button : way_on_) button->set_primary(button == next);
+  applied();
+  if (logic_->visible == isVisible()) return;
+  if (logic_->visible) place_first();
+  setVisible(logic_->visible);
+  if (on_visibility) on_visibility();
+}
+
+void WindowView::detach() {
+  if (!logic_) return;
+  logic_->on_changed = nullptr;
+  logic_ = nullptr;
+  bindings_.close();
+  hide();
+  if (on_visibility) on_visibility();
+}
+
+QSize WindowView::sizeHint() const {
+  const QSize inner = content_->sizeHint();
+  const QSize line = actions_->sizeHint();
+  const int foot = line.height() + layout()->contentsMargins().bottom();
+  return {std::max(inner.width(), line.width()), inner.height() + foot};
+}
+
+void WindowView::set_place(const QWidget* before) {
+  if (before) place_ = before->geometry().center();
+}
+
+void WindowView::place_first() {
+  if (placed_) return;
+  placed_ = true;
+  const QScreen* at = place_ ? QGuiApplication::screenAt(*place_) : nullptr;
+  const QRect room = (at ? at : screen())->availableGeometry();
+  QSize size = sizeHint();
+  // A bar for one direction takes room from the other.
+  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  if (size.height() > room.height()) size.rwidth() += bar;
+  if (size.width() > room.width()) size.rheight() += bar;
+  size = size.boundedTo(room.size());
+  QRect frame(QPoint(), size);
+  frame.moveCenter(place_ ? *place_ : room.center());
+  frame.moveLeft(std::clamp(frame.left(), room.left(), room.right() + 1 - size.width()));
+  frame.moveTop(std::clamp(frame.top(), room.top(), room.bottom() + 1 - size.height()));
+  setGeometry(frame);
+}
+
+Button* WindowView::button(const Control& control, Bindings::Handler pressed, Binding look) {
+  auto* made = new Button(content_);
+  bindings_.bind(*made, control, std::move(pressed), look);
+  return made;
+}
+
+Label* WindowView::label(const Control& control, TextRole role, Binding look) {
+  auto* made = new Label(role, content_);
+  bindings_.bind(*made, control, look);
+  return made;
+}
+
+Label* WindowView::text(const QString& words, TextRole role) {
+  auto* made = new Label(role, content_);
+  made->setText(words);
+  return made;
+}
+
+ListBox* WindowView::list(const ListControl& control, Bindings::NumberHandler chosen,
+                          Binding look) {
+  auto* made = new ListBox(content_);
+  bindings_.bind(*made, control, std::move(chosen), look);
+  return made;
+}
+
+Slider* WindowView::slider(const SliderControl& control, Bindings::NumberHandler moved,
+                           Binding look) {
+  auto* made = new Slider(content_);
+  bindings_.bind(*made, control, std::move(moved), look);
+  return made;
+}
+
+Card* WindowView::card(const Control* frame, const Control* title) {
+  auto* made = new Card(content_);
+  bindings_.bind(*made, frame, title);
+  return made;
+}
+
+QButtonGroup* WindowView::group() {
+  return new QButtonGroup(this);
+}
+
+Option* WindowView::option(const OptionControl& control, QButtonGroup& group,
+                           Bindings::Handler chosen, Binding look) {
+  auto* made = new Option(content_);
+  bindings_.bind(*made, control, group, std::move(chosen), look);
+  return made;
+}
+
+void WindowView::key(const QKeySequence& sequence, Button& button) {
+  auto* shortcut = new QShortcut(sequence, this);
+  shortcut->setAutoRepeat(false);
+  QObject::connect(shortcut, &QShortcut::activated, &button, [&button] {
+    if (button.isVisible()) button.click();
+  });
+}
+
+void WindowView::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (logic_) logic_->title_bar_close();
+}
+
+void WindowView::keyPressEvent(QKeyEvent* event) {
+  Button* target = nullptr;
+  if (is_return(*event)) {
+    target = dynamic_cast<Button*>(focusWidget());
+    if (!target || !target->isEnabled()) target = first_open(way_on_);
+  } else if (event->key() == Qt::Key_Escape) {
+    target = first_open(way_back_);
+  } else if (event->key() == Qt::Key_F1) {
+    target = help_;
+  } else if (event->key() == Qt::Key_Alt) {
+    show_mnemonics(true);
+  }
+  if (target && !event->isAutoRepeat()) {
+    target->click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void WindowView::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Alt) show_mnemonics(false);
+  QWidget::keyReleaseEvent(event);
+}
+
+void WindowView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) show_mnemonics(false);
+  QWidget::changeEvent(event);
+}
+
+void WindowView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  activateWindow();
+}
+
+void WindowView::show_mnemonics(bool shown) {
+  auto* style = dynamic_cast<Style*>(QApplication::style());
+  if (!style || style->mnemonics_shown() == shown) return;
+  style->show_mnemonics(shown);
+  for (QWidget* child : findChildren<QWidget*>()) child->update();
+}
+
+}  // namespace tonarix

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QWidget>
+#include <vector>
+
+#include "base/windows/bindings.h"
+
+class QScrollArea;
+
+namespace tonarix {
+
+/// The toolkit half of a window. A subclass builds its layout in its constructor: widgets go into
+/// `content()`, which scrolls where the screen is too small, and into `actions()`, the one line
+/// below that always stays in view. Create widgets in reading order: that is the tab order too.
+///
+///   class SettingsView final : public WindowView {
+///    public:
+///     SettingsView(SettingsWindow& window, const Texts& texts) : WindowView(window, texts) {
+///       auto* rows = new QVBoxLayout(&content());
+///       Card* order = card(&window.grdeinst[1], &window.geinst_lb[1]);
+///       options(window.abfrage, order->body(), [&window](int i) { window.abfrage_click(i); });
+///       rows->addWidget(order);
+///       actions().addStretch();
+///       Button* ok = button(window.cmdOk, [&window] { window.cmdOk_click(); });
+///       actions().addWidget(ok);
+///       way_on({ok});
+///     }
+///   };
+///
+/// Caption, visible, enabled and busy follow the logic, as do all bound widgets, whenever it
+/// announces a change. The title bar's close button only asks the logic. Return presses the focused
+/// button or else the way on, Escape the way back, F1 the help.
+class WindowView : public QWidget {
+ public:
+  WindowView(Window& window, const Texts& texts);
+  ~WindowView() override;
+
+  /// Reads the state of the logic again, and shows or hides the window.
+  void apply();
+  /// The logic is going: forgets it and hides. The view may be deleted later.
+  void detach();
+  QSize sizeHint() const override;
+
+  /// Told when the window has been shown or hidden.
+  std::function<void()> on_visibility;
+  /// Where the window first stands in the middle: the place of the window before; null for the
+  /// screen's middle.
+  void set_place(const QWidget* before);
+
+ protected:
+  QWidget& content() { return *content_; }
+  QHBoxLayout& actions() { return *actions_; }
+  Bindings& bindings() { return bindings_; }
+  const Texts& texts() const { return texts_; }
+  /// A text of the catalogue that no control carries.
+  QString word(TextKey key) const { return to_qstring(texts_.Wort(key)); }
+
+  // Each makes a widget inside `content()` and binds it; a layout gives it its place.
+  Button* button(const Control& control, Bindings::Handler pressed, Binding look = {});
+  Label* label(const Control& control, TextRole role, Binding look = {});
+  /// A text that stays.
+  Label* text(const QString& words, TextRole role);
+  ListBox* list(const ListControl& control, Bindings::NumberHandler chosen, Binding look = {});
+  Slider* slider(const SliderControl& control, Bindings::NumberHandler moved, Binding look = {});
+  Card* card(const Control* frame, const Control* title);
+  QButtonGroup* group();
+  Option* option(const OptionControl& control, QButtonGroup& group, Bindings::Handler chosen,
+                 Binding look = {});
+  /// A row or column of options that exclude each other; the handler gets the option's index.
+  template <int First, int Last>
+  std::vector<Option*> options(const ControlArray<OptionControl, First, Last>& controls,
+                               QBoxLayout& into, const Bindings::NumberHandler& chosen,
+                               Binding look = {}) {
+    std::vector<Option*> made;
+    QButtonGroup* together = group();
+    for (const OptionControl& control : controls) {
+      const int index = *control.index();
+      made.push_back(option(
+          control, *together, [chosen, index] { chosen(index); }, look));
+      into.addWidget(made.back());
+    }
+    return made;
+  }
+
+  /// The first of these that is open is drawn as the way on, and Return presses it.
+  void way_on(std::vector<Button*> buttons) { way_on_ = std::move(buttons); }
+  /// The first of these that is open is pressed by Escape.
+  void way_back(std::vector<Button*> buttons) { way_back_ = std::move(buttons); }
+  void help(Button* button) { help_ = button; }
+  /// A further key for a button, "3" say. It works while the button is open.
+  void key(const QKeySequence& sequence, Button& button);
+
+  /// After each `apply`, for what a subclass draws itself.
+  virtual void applied() {}
+
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void place_first();
+  void show_mnemonics(bool shown);
+
+  Window* logic_;
+  const Texts& texts_;
+  Bindings bindings_;
+  QScrollArea* scroll_;
+  QWidget* content_;
+  QHBoxLayout* actions_;
+  std::vector<Button*> way_on_;
+  std::vector<Button*> way_back_;
+  Button* help_ = nullptr;
+  std::optional<QPoint> place_;
+  bool placed_ = false;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,252 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "base/windows/presenter.h"
+#include "base/windows/qt_dialogs.h"
+#include "support/key_texts.h"
+#include "support/virtual_scheduler.h"
+
+namespace tonarix {
+namespace {
+
+class KitWindow final : public Window {
+ public:
+  KitWindow(Scheduler& scheduler, WindowList& list) : Window(scheduler, "kit"), list_(list) {
+    caption = "Kit";
+    go.text = "Save & go";
+    back.text = "go back";
+    title.text = "Group";
+    for (OptionControl& choice : mode) {
+      choice.tag = "Mode";
+      choice.text = std::to_string(*choice.index());
+      choice.container = &frame;
+    }
+    mode[1].value = true;
+    entries.add("one");
+    entries.add("two");
+    entries.selected = 0;
+    entries.container = &frame;
+  }
+  void title_bar_close() override { told += "close "; }
+  void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
+  void tell(const std::string& what) {
+    handle("tell.", [&] { told += what; });
+  }
+  void mode_click(int index) {
+    handle("mode.", [&] {
+      told += "mode" + std::to_string(index) + " ";
+      if (index != 3) select_option(mode, index);
+    });
+  }
+  void leave() {
+    handle("leave.", [&] { list_.unload(*this); });
+  }
+  void say_changed() { changed(); }
+
+  Control frame{*this, "frame"};
+  Control title{*this, "title"};
+  ControlArray<OptionControl, 1, 3> mode{*this, "mode"};
+  ListControl entries{*this, "entries"};
+  SliderControl volume{*this, "volume"};
+  Control field{*this, "field", 2};
+  Control go{*this, "go"};
+  Control back{*this, "back"};
+  std::string told;
+
+ private:
+  WindowList& list_;
+};
+
+class KitView final : public WindowView {
+ public:
+  KitView(KitWindow& window, const Texts& texts) : WindowView(window, texts) {
+    auto* rows = new QVBoxLayout(&content());
+    group_card = card(&window.frame, &window.title);
+    rows->addWidget(group_card);
+    choices = options(window.mode, group_card->body(), [&window](int i) { window.mode_click(i); });
+    entries = list(window.entries, [&window](int i) {
+      window.entries.selected = i;
+      window.tell("entry" + std::to_string(i) + " ");
+    });
+    group_card->body().addWidget(entries);
+    volume = slider(window.volume, [&window](int value) {
+      window.volume.value = value;
+      window.tell("volume" + std::to_string(value) + " ");
+    });
+    rows->addWidget(volume);
+    field = label(window.field, TextRole::plain, {.keep_place = true, .signs = true});
+    rows->addWidget(field);
+    back = button(window.back, [&window] { window.leave(); });
+    go = button(window.go, [&window] { window.tell("go "); });
+    actions().addWidget(back);
+    actions().addWidget(go);
+    way_on({go, back});
+    way_back({back});
+  }
+  Card* group_card;
+  std::vector<Option*> choices;
+  ListBox* entries;
+  Slider* volume;
+  Label* field;
+  Button* back;
+  Button* go;
+};
+
+void stroke(QWidget& target, int key, const QString& text = {}) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QApplication::sendEvent(&target, &press);
+}
+
+struct BindingsTest : testing::Test {
+  BindingsTest() {
+    presenter.add<KitWindow, KitView>("kit", texts);
+    window = &list.open(std::make_unique<KitWindow>(scheduler, list));
+    view = static_cast<KitView*>(presenter.view_of(*window));
+  }
+  KeyTexts texts;
+  VirtualScheduler scheduler;
+  WindowList list{scheduler};
+  Presenter presenter{list};
+  KitWindow* window = nullptr;
+  KitView* view = nullptr;
+};
+
+TEST_F(BindingsTest, RealButtonsPressAndShowTheStateOfTheLogic) {
+  EXPECT_TRUE(view->isVisible());
+  EXPECT_EQ(view->windowTitle(), "Kit");
+  EXPECT_EQ(view->findChild<QPushButton*>("go"), view->go);
+  EXPECT_EQ(view->field->objectName(), "field_2");
+  EXPECT_EQ(view->go->accessibleName(), "Save & go");
+  view->go->click();
+  EXPECT_EQ(window->told, "go ");
+  window->go.enabled = false;
+  window->field.visible = false;
+  window->caption = "Other";
+  window->say_changed();
+  EXPECT_EQ(view->windowTitle(), "Other");
+  EXPECT_FALSE(view->go->isEnabled());
+  EXPECT_FALSE(view->field->isVisible());
+  EXPECT_TRUE(view->field->sizePolicy().retainSizeWhenHidden());
+  view->go->click();
+  EXPECT_EQ(window->told, "go ");
+  EXPECT_TRUE(view->back->primary());
+}
+
+TEST_F(BindingsTest, AChoiceReachesTheLogicAndARefusedOneLeavesTheScreen) {
+  view->choices[1]->click();
+  EXPECT_EQ(window->told, "mode2 ");
+  EXPECT_TRUE(window->mode[2].value);
+  view->choices[2]->click();
+  EXPECT_EQ(window->told, "mode2 mode3 ");
+  EXPECT_TRUE(view->choices[1]->isChecked());
+  EXPECT_FALSE(view->choices[2]->isChecked());
+  EXPECT_EQ(view->choices[1]->accessibleName(), "Mode" + to_qstring(texts.Wort(700_text)) + "2");
+  for (OptionControl& choice : window->mode) choice.value = false;
+  window->say_changed();
+  for (const Option* choice : view->choices) EXPECT_FALSE(choice->isChecked());
+}
+
+TEST_F(BindingsTest, OnlyTheUserSpeaksThroughListsAndSliders) {
+  window->entries.clear();
+  for (const char* entry : {" 30  ", "100  ", "120  "}) window->entries.add(entry);
+  window->entries.selected = 2;
+  window->volume.value = 100;
+  window->say_changed();
+  EXPECT_EQ(window->told, "");
+  EXPECT_EQ(view->entries->currentIndex(), 2);
+  EXPECT_EQ(view->entries->itemText(0), "  30");
+  EXPECT_EQ(view->volume->value(), 100);
+  stroke(*view->entries, Qt::Key_Up);
+  view->volume->setValue(90);
+  EXPECT_EQ(window->told, "entry1 volume90 ");
+}
+
+TEST_F(BindingsTest, ALockedFrameHoldsWhatIsInsideAndSaysSo) {
+  window->frame.enabled = false;
+  window->frame.back = signal::locked;
+  window->say_changed();
+  EXPECT_TRUE(view->group_card->locked());
+  EXPECT_TRUE(view->group_card->accessibleName().contains(to_qstring(texts.Wort(1250_text))));
+  EXPECT_FALSE(view->choices[0]->isEnabled());
+  EXPECT_FALSE(view->entries->isEnabled());
+  EXPECT_TRUE(view->volume->isEnabled());
+  window->frame.enabled = true;
+  window->frame.back = signal::open;
+  window->say_changed();
+  EXPECT_FALSE(view->group_card->locked());
+  EXPECT_TRUE(view->choices[0]->isEnabled());
+}
+
+TEST_F(BindingsTest, RightAndWrongHaveASignBesideTheirColour) {
+  window->field.back = signal::right;
+  window->say_changed();
+  EXPECT_EQ(view->field->sign(), Label::Sign::right);
+  window->field.back = signal::black;
+  window->field.fore = signal::wrong;
+  window->say_changed();
+  EXPECT_EQ(view->field->sign(), Label::Sign::wrong);
+}
+
+TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
+  stroke(*view, Qt::Key_Return);
+  EXPECT_EQ(window->told, "go ");
+  view->activateWindow();
+  view->back->setFocus();
+  window->back.enabled = false;
+  window->say_changed();
+  EXPECT_EQ(view->focusWidget(), view) << "the focus must not jump to a neighbour";
+  stroke(*view, Qt::Key_Escape);
+  EXPECT_EQ(list.count(), 1);
+  window->back.enabled = true;
+  window->say_changed();
+  EXPECT_EQ(view->focusWidget(), view->back);
+  stroke(*view, Qt::Key_Escape);
+  EXPECT_EQ(list.count(), 0);
+}
+
+TEST_F(BindingsTest, EachLetterForAltIsGivenOnce) {
+  EXPECT_EQ(view->back->text(), "&go back");
+  EXPECT_EQ(view->go->text(), "&Save && go");
+  EXPECT_EQ(view->group_card->title().text(), "G&roup");
+}
+
+TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
+  EXPECT_FALSE(view->close());
+  EXPECT_EQ(window->told, "close ");
+  EXPECT_TRUE(view->isVisible());
+  const QPointer<KitView> gone = view;
+  view->back->click();
+  EXPECT_FALSE(gone->isVisible());
+  EXPECT_EQ(presenter.newest_visible(), nullptr);
+  scheduler.settle();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(gone.isNull());
+}
+
+TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
+  QtDialogs dialogs(texts, presenter);
+  std::string replies;
+  const auto note = [&replies](Reply reply) {
+    replies += reply == Reply::ok ? "ok " : reply == Reply::yes ? "yes " : "no ";
+  };
+  dialogs.show({"Warning", "first\nsecond", MessageStyle::warning, "", ""}, note);
+  dialogs.show({"Question", "really?", MessageStyle::yes_no, "", "Never"}, note);
+  dialogs.show({"Question", "really?", MessageStyle::yes_no, "", ""}, note);
+  EXPECT_EQ(dialogs.current()->windowTitle(), "Warning");
+  window->leave();
+  ASSERT_NE(dialogs.current(), nullptr);
+  EXPECT_TRUE(dialogs.current()->isVisible());
+  dialogs.current()->reject();
+  EXPECT_EQ(dialogs.current()->findChild<QPushButton*>("no")->text(), "Never");
+  dialogs.current()->findChild<QPushButton*>("yes")->click();
+  stroke(*dialogs.current(), Qt::Key_Escape);
+  EXPECT_EQ(dialogs.current(), nullptr);
+  EXPECT_EQ(replies, "ok yes no ");
+}
+
+}  // namespace
+}  // namespace tonarix
