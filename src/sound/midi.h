@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,23 +27,30 @@ class MIDIOutput {
   };
 
   explicit MIDIOutput(MidiDevices& devices) : devices_(devices) {}
+  MIDIOutput(const MIDIOutput&) = delete;
+  MIDIOutput& operator=(const MIDIOutput&) = delete;
 
+  /// Opening a device that is gone, and sending or starting while none is open, raise RuntimeError
+  /// 57. Closing and stopping never fail.
   void action(Action what);
   int device_count();
-  std::string device_name();                   ///< of the device set
-  std::int32_t device_id();                    ///< of the device set
+  std::string device_name();                   ///< of the device set, empty when there is none
+  std::int32_t device_id();                    ///< of the device set, -1 when there is none
   int state() const { return port_ ? 1 : 0; }  ///< 1 or more means open
 
   int device_number = -1;  ///< -1 is the default mapper
   MidiMessage message;     ///< the message about to be sent or queued
   std::int32_t volume_left() const { return volume_left_; }
   std::int32_t volume_right() const { return volume_right_; }
+  /// 0 to 65535 for each side; kept while no device is open.
   void set_volume(std::int32_t left, std::int32_t right);
 
   /// A started queue has run out.
   std::function<void()> on_queue_empty;
 
  private:
+  std::optional<MidiDeviceInfo> device_set();
+
   MidiDevices& devices_;
   std::unique_ptr<MidiPort> port_;
   std::vector<MidiMessage> queue_;
@@ -50,7 +58,9 @@ class MIDIOutput {
   std::int32_t volume_right_ = 65535;
 };
 
-/// All note operations of the program, on the current output. One instance for the process.
+/// All note operations of the program, on the current output; without one they do nothing. One
+/// instance for the process. Notes, velocities, programs and bends lie in 0 to 127, channels in 0
+/// to 15; anything else is RuntimeError 6.
 class Midi {
  public:
   static constexpr std::int32_t kFullVolume = 65535;
@@ -69,9 +79,10 @@ class Midi {
   void detach(MIDIOutput& control);
 
   void MidiReset();
-  /// Fades out before a queue is built; `waits` is the caller's.
+  /// Fades out before a queue is built; `waits` is the caller's. A fade that closing cuts short
+  /// stands at its end at once, so that the saved volumes stay true.
   Sequence MidiLeiser(Waits& waits);
-  /// Starts the queue with a fade-in.
+  /// Starts the queue with a fade-in, cut short likewise.
   Sequence MidiStart(Waits& waits);
   /// Queues a note as note-on and note-off. `time` and `dauer` in milliseconds from the start of
   /// the queue.
@@ -85,7 +96,7 @@ class Midi {
   /// Bend in steps of 3.125 cents at the default range, 64 is the centre.
   void MidiBend(std::int16_t wert, std::int16_t kanal);
   void MidiProgramm(std::int16_t patch, std::int16_t kanal);
-  /// Programs of the channels 0 to 7.
+  /// `MidiProgramm` for the channels 0 to 7.
   void send_patches(const std::array<std::int16_t, 8>& patch_ar);
 
   std::int16_t midi_geraet = -1;
@@ -95,6 +106,11 @@ class Midi {
   std::int32_t midi_vol_links = kFullVolume;
   std::int32_t midi_vol_rechts = kFullVolume;
   MIDIOutput* MidiOut = nullptr;
+
+ private:
+  class FadeEnd;
+  void send(int kind, std::int16_t kanal, std::int16_t data1, std::int16_t data2);
+  void prepare(int kind, std::int16_t kanal, std::int16_t data1);
 };
 
 /// Tells an exercise window that the queue of the settings window's control has run out.

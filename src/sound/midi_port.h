@@ -29,9 +29,9 @@ class MidiPort {
   /// called once on the main thread when the last one has been sent; a queue that is stopped does
   /// not call it.
   virtual void start_queue(std::vector<MidiMessage> queue, std::function<void()> ran_out) = 0;
-  /// Forgets what has not been sent and silences what sounds.
+  /// Forgets what has not been sent and silences what sounds. Never raises.
   virtual void stop_queue() = 0;
-  /// Master volume, 0 to 65535 for each side.
+  /// Master volume, 0 to 65535 for each side. Never raises.
   virtual void set_volume(std::int32_t left, std::int32_t right) = 0;
 };
 
