@@ -1130,5 +1130,572 @@ Vorzeichen!</source>
         <translation>Ergänzen Sie in beliebiger Reihenfolge die fehlenden
 Vorzeichen!</translation>
     </message>
+    <message id="1000s">
+        <source>Deutsch</source>
+        <extracomment>Name of the language in its own words, as --language takes it</extracomment>
+        <translation>Deutsch</translation>
+    </message>
+    <message id="1001s">
+        <source>Hilfe</source>
+        <extracomment>First window: button</extracomment>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="1002s">
+        <source>noch nicht verfügbar</source>
+        <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
+        <translation>noch nicht verfügbar</translation>
+    </message>
+    <message id="1010s">
+        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
+        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</translation>
+    </message>
+    <message id="1011s">
+        <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
+        <extracomment>Message at the start; the path follows on the next line</extracomment>
+        <translation>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</translation>
+    </message>
+    <message id="1012s">
+        <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
+        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <translation>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</translation>
+    </message>
+    <message id="1013s">
+        <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
+        <extracomment>Message at the start; the folder follows on the next line</extracomment>
+        <translation>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</translation>
+    </message>
+    <message id="1050s">
+        <source>Übungsmodus</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Übungsmodus</translation>
+    </message>
+    <message id="1051s">
+        <source>Tongeschlecht</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tongeschlecht</translation>
+    </message>
+    <message id="1052s">
+        <source>Abfolge</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Abfolge</translation>
+    </message>
+    <message id="1053s">
+        <source>Tonraum</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tonraum</translation>
+    </message>
+    <message id="1054s">
+        <source>Intervall-Größe</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Intervall-Größe</translation>
+    </message>
+    <message id="1055s">
+        <source>Intervall-Anzahl</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Intervall-Anzahl</translation>
+    </message>
+    <message id="1056s">
+        <source>Intervall-Bestimmung</source>
+        <extracomment>Settings: group title; the options go on: from the keynote</extracomment>
+        <translation>Intervall-Bestimmung</translation>
+    </message>
+    <message id="1057s">
+        <source>Grundton zusätzlich</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Grundton zusätzlich</translation>
+    </message>
+    <message id="1058s">
+        <source>Tonart</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tonart</translation>
+    </message>
+    <message id="1059s">
+        <source>Frequenz</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="1060s">
+        <source>Tempo</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tempo</translation>
+    </message>
+    <message id="1061s">
+        <source>Klang</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Klang</translation>
+    </message>
+    <message id="1062s">
+        <source>Dur</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>Dur</translation>
+    </message>
+    <message id="1063s">
+        <source>moll</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>moll</translation>
+    </message>
+    <message id="1064s">
+        <source>Dur-moll</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>Dur-moll</translation>
+    </message>
+    <message id="1065s">
+        <source>manuell</source>
+        <extracomment>Settings: option: order of tasks</extracomment>
+        <translation>manuell</translation>
+    </message>
+    <message id="1066s">
+        <source>automatisch</source>
+        <extracomment>Settings: option: order of tasks</extracomment>
+        <translation>automatisch</translation>
+    </message>
+    <message id="1067s">
+        <source>gleichbleibend</source>
+        <extracomment>Settings: option: key</extracomment>
+        <translation>gleichbleibend</translation>
+    </message>
+    <message id="1068s">
+        <source>wechselnd</source>
+        <extracomment>Settings: option: key</extracomment>
+        <translation>wechselnd</translation>
+    </message>
+    <message id="1069s">
+        <source>ja</source>
+        <extracomment>Settings: option: keynote sounds along</extracomment>
+        <translation>ja</translation>
+    </message>
+    <message id="1070s">
+        <source>nein</source>
+        <extracomment>Settings: option: keynote sounds along</extracomment>
+        <translation>nein</translation>
+    </message>
+    <message id="1071s">
+        <source>max. 1 Oktave</source>
+        <extracomment>Settings: option: interval size</extracomment>
+        <translation>max. 1 Oktave</translation>
+    </message>
+    <message id="1072s">
+        <source>Oktaven</source>
+        <extracomment>Settings: unit behind a number, tone range and interval size</extracomment>
+        <translation>Oktaven</translation>
+    </message>
+    <message id="1073s">
+        <source>gemischt (0 - 2 Okt)</source>
+        <extracomment>Settings: option: interval size</extracomment>
+        <translation>gemischt (0 - 2 Okt)</translation>
+    </message>
+    <message id="1074s">
+        <source>fest (a'440 Hz)</source>
+        <extracomment>Settings: option: frequency; keep the stroke behind the a</extracomment>
+        <translation>fest (a'440 Hz)</translation>
+    </message>
+    <message id="1075s">
+        <source>variabel</source>
+        <extracomment>Settings: option: frequency</extracomment>
+        <translation>variabel</translation>
+    </message>
+    <message id="1076s">
+        <source>vom Grundton</source>
+        <extracomment>Settings: option: interval named</extracomment>
+        <translation>vom Grundton</translation>
+    </message>
+    <message id="1077s">
+        <source>vom Vorton</source>
+        <extracomment>Settings: option: interval named</extracomment>
+        <translation>vom Vorton</translation>
+    </message>
+    <message id="1078s">
+        <source>alle</source>
+        <extracomment>Settings: option: degrees of tone 2</extracomment>
+        <translation>alle</translation>
+    </message>
+    <message id="1079s">
+        <source>1 nach Wahl</source>
+        <extracomment>Settings: option: degrees of tone 2</extracomment>
+        <translation>1 nach Wahl</translation>
+    </message>
+    <message id="1080s">
+        <source>Hilfe</source>
+        <extracomment>Settings: button</extracomment>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="1081s">
+        <source>Klangprobe</source>
+        <extracomment>Settings: button</extracomment>
+        <translation>Klangprobe</translation>
+    </message>
+    <message id="1082s">
+        <source>Einlesen Test</source>
+        <extracomment>Settings: button for supervisors</extracomment>
+        <translation>Einlesen Test</translation>
+    </message>
+    <message id="1083s">
+        <source>Einstellungen Speichern</source>
+        <extracomment>Settings: button for supervisors</extracomment>
+        <translation>Einstellungen Speichern</translation>
+    </message>
+    <message id="1084s">
+        <source>Lautstärke</source>
+        <extracomment>Settings: slider</extracomment>
+        <translation>Lautstärke</translation>
+    </message>
+    <message id="1085s">
+        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
+        <extracomment>Settings: message; what the device says follows on a line of its own</extracomment>
+        <translation>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</translation>
+    </message>
+    <message id="1086s">
+        <source>Oktavbereich</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Oktavbereich</translation>
+    </message>
+    <message id="1087s">
+        <source>Instrument</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Instrument</translation>
+    </message>
+    <message id="1088s">
+        <source>Stimme</source>
+        <extracomment>Settings: name of a list for a screen reader: the tones or the keynote</extracomment>
+        <translation>Stimme</translation>
+    </message>
+    <message id="1089s">
+        <source>Nummer der Prüfung</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Nummer der Prüfung</translation>
+    </message>
+    <message id="1090s">
+        <source>Stufe von Ton 2</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Stufe von Ton 2</translation>
+    </message>
+    <message id="1091s">
+        <source>Richtung der Transposition</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Richtung der Transposition</translation>
+    </message>
+    <message id="1092s">
+        <source>Intervall der Transposition</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Intervall der Transposition</translation>
+    </message>
+    <message id="1093s">
+        <source>Gespielt wird auf dem eingebauten Klangerzeuger oder dem letzten Gerät der Liste.</source>
+        <extracomment>Settings: message, further line behind 1085</extracomment>
+        <translation>Gespielt wird auf dem eingebauten Klangerzeuger oder dem letzten Gerät der Liste.</translation>
+    </message>
+    <message id="1094s">
+        <source>Es geht ohne Klang weiter.</source>
+        <extracomment>Settings: message, further line behind 1085</extracomment>
+        <translation>Es geht ohne Klang weiter.</translation>
+    </message>
+    <message id="1100s">
+        <source>Trainingsstand</source>
+        <translation>Trainingsstand</translation>
+    </message>
+    <message id="1101s">
+        <source>Aufgabe gelöst</source>
+        <translation>Aufgabe gelöst</translation>
+    </message>
+    <message id="1102s">
+        <source>zu schwer !!</source>
+        <translation>zu schwer !!</translation>
+    </message>
+    <message id="1103s">
+        <source>Nr.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message id="1104s">
+        <source>Speichern</source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="1105s">
+        <source>Nicht speichern</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message id="1106s">
+        <source>Das Training konnte nicht gespeichert werden. Soll es noch einmal versucht werden?</source>
+        <translation>Das Training konnte nicht gespeichert werden. Soll es noch einmal versucht werden?</translation>
+    </message>
+    <message id="1107s">
+        <source>Noch einmal versuchen</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message id="1108s">
+        <source>Ohne Speichern verlassen</source>
+        <translation>Ohne Speichern verlassen</translation>
+    </message>
+    <message id="1109s">
+        <source>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</source>
+        <translation>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</translation>
+    </message>
+    <message id="1110s">
+        <source>Die Reihe erklingt.</source>
+        <translation>Die Reihe erklingt.</translation>
+    </message>
+    <message id="1111s">
+        <source>Welches Intervall folgt?</source>
+        <translation>Welches Intervall folgt?</translation>
+    </message>
+    <message id="1112s">
+        <source>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</source>
+        <translation>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</translation>
+    </message>
+    <message id="1113s">
+        <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
+        <translation>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</translation>
+    </message>
+    <message id="1114s">
+        <source>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</translation>
+    </message>
+    <message id="1115s">
+        <source>Wiederholungen</source>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message id="1116s">
+        <source>Grundton-Kontrollen</source>
+        <translation>Grundton-Kontrollen</translation>
+    </message>
+    <message id="1117s">
+        <source>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</translation>
+    </message>
+    <message id="1118s">
+        <source>Teststand einblenden</source>
+        <translation>Teststand einblenden</translation>
+    </message>
+    <message id="1119s">
+        <source>Teststand ausblenden</source>
+        <translation>Teststand ausblenden</translation>
+    </message>
+    <message id="1120s">
+        <source>Einen Moment bitte!</source>
+        <translation>Einen Moment bitte!</translation>
+    </message>
+    <message id="1121s">
+        <source>Gleich folgt die nächste Aufgabe.</source>
+        <translation>Gleich folgt die nächste Aufgabe.</translation>
+    </message>
+    <message id="1122s">
+        <source>Der Grundton erklingt.</source>
+        <translation>Der Grundton erklingt.</translation>
+    </message>
+    <message id="1123s">
+        <source>richtig</source>
+        <translation>richtig</translation>
+    </message>
+    <message id="1124s">
+        <source>falsch</source>
+        <translation>falsch</translation>
+    </message>
+    <message id="1125s">
+        <source>gesucht</source>
+        <translation>gesucht</translation>
+    </message>
+    <message id="1126s">
+        <source>Weiter ohne Protokoll</source>
+        <translation>Weiter ohne Protokoll</translation>
+    </message>
+    <message id="1127s">
+        <source>Ton</source>
+        <translation>Ton</translation>
+    </message>
+    <message id="1150s">
+        <source>Stufen-Intervall über dem Grundton</source>
+        <translation>Stufen-Intervall über dem Grundton</translation>
+    </message>
+    <message id="1151s">
+        <source>Intervall von Ton zu Ton</source>
+        <translation>Intervall von Ton zu Ton</translation>
+    </message>
+    <message id="1152s">
+        <source>z.B. c – moll</source>
+        <translation>z.B. c – moll</translation>
+    </message>
+    <message id="1153s">
+        <source>z.B. C – Dur</source>
+        <translation>z.B. C – Dur</translation>
+    </message>
+    <message id="1154s">
+        <source>z.B. C – Dur-moll</source>
+        <translation>z.B. C – Dur-moll</translation>
+    </message>
+    <message id="1155s">
+        <source>Int:</source>
+        <translation>Int:</translation>
+    </message>
+    <message id="1156s">
+        <source>Tonreihe</source>
+        <translation>Tonreihe</translation>
+    </message>
+    <message id="1157s">
+        <source>gegeben</source>
+        <translation>gegeben</translation>
+    </message>
+    <message id="1200s">
+        <source>Einzel-Ergebnisse</source>
+        <extracomment>title of the result sheet</extracomment>
+        <translation>Einzel-Ergebnisse</translation>
+    </message>
+    <message id="1201s">
+        <source>Einstellungen</source>
+        <extracomment>result sheet: head of the list of settings</extracomment>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="1202s">
+        <source>Ergebnisse</source>
+        <extracomment>result sheet: head of the table</extracomment>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message id="1203s">
+        <source>Hilfe</source>
+        <extracomment>result sheet: button</extracomment>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="1204s">
+        <source>Das Blatt konnte nicht gedruckt werden:</source>
+        <extracomment>result sheet: a reason follows on the next line</extracomment>
+        <translation>Das Blatt konnte nicht gedruckt werden:</translation>
+    </message>
+    <message id="1205s">
+        <source>Drucken</source>
+        <extracomment>title of the print dialogs</extracomment>
+        <translation>Drucken</translation>
+    </message>
+    <message id="1206s">
+        <source>Blatt als PDF-Datei speichern (kein Drucker eingerichtet)</source>
+        <extracomment>result sheet: title of the file dialog</extracomment>
+        <translation>Blatt als PDF-Datei speichern (kein Drucker eingerichtet)</translation>
+    </message>
+    <message id="1207s">
+        <source>PDF-Dateien</source>
+        <extracomment>result sheet: kind of file in the file dialog</extracomment>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message id="1208s">
+        <source>Stärken und Schwächen</source>
+        <extracomment>result sheet: head of the chart</extracomment>
+        <translation>Stärken und Schwächen</translation>
+    </message>
+    <message id="1209s">
+        <source>nicht gefragt</source>
+        <extracomment>result sheet: spoken for an empty bar</extracomment>
+        <translation>nicht gefragt</translation>
+    </message>
+    <message id="1210s">
+        <source>In dieser Übungsart werden keine Prozente berechnet.</source>
+        <extracomment>result sheet: instead of the chart</extracomment>
+        <translation>In dieser Übungsart werden keine Prozente berechnet.</translation>
+    </message>
+    <message id="1211s">
+        <source>Ergebnisblatt</source>
+        <extracomment>name of the sheet for a screen reader and of the printed document</extracomment>
+        <translation>Ergebnisblatt</translation>
+    </message>
+    <message id="1212s">
+        <source>Die Datei kann nicht geschrieben werden: </source>
+        <extracomment>result sheet: why a print failed; the path follows at once</extracomment>
+        <translation>Die Datei kann nicht geschrieben werden: </translation>
+    </message>
+    <message id="1213s">
+        <source>Der Drucker hat den Auftrag abgebrochen.</source>
+        <extracomment>result sheet: why a print failed</extracomment>
+        <translation>Der Drucker hat den Auftrag abgebrochen.</translation>
+    </message>
+    <message id="1250s">
+        <source>gesperrt</source>
+        <extracomment>Mark in the corner of a locked group of settings</extracomment>
+        <translation>gesperrt</translation>
+    </message>
+    <message id="1251s">
+        <source>Ja</source>
+        <extracomment>Button of a question</extracomment>
+        <translation>Ja</translation>
+    </message>
+    <message id="1252s">
+        <source>Nein</source>
+        <extracomment>Button of a question</extracomment>
+        <translation>Nein</translation>
+    </message>
+    <message id="1253s">
+        <source>Was möchten Sie üben?</source>
+        <extracomment>First window: its question</extracomment>
+        <translation>Was möchten Sie üben?</translation>
+    </message>
+    <message id="1254s">
+        <source>Tonale Intervalle nacheinander</source>
+        <extracomment>First window: below the question</extracomment>
+        <translation>Tonale Intervalle nacheinander</translation>
+    </message>
+    <message id="1255s">
+        <source>Bereich</source>
+        <extracomment>First window: title of the group with ear training and music theory</extracomment>
+        <translation>Bereich</translation>
+    </message>
+    <message id="1256s">
+        <source>Sie hören die Aufgabe</source>
+        <extracomment>First window: explains ear training</extracomment>
+        <translation>Sie hören die Aufgabe</translation>
+    </message>
+    <message id="1257s">
+        <source>Sie lesen die Aufgabe</source>
+        <extracomment>First window: explains music theory</extracomment>
+        <translation>Sie lesen die Aufgabe</translation>
+    </message>
+    <message id="1258s">
+        <source>die Intervalle einer Reihe benennen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>die Intervalle einer Reihe benennen</translation>
+    </message>
+    <message id="1259s">
+        <source>eine Tonhöhe mit dem Regler treffen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>eine Tonhöhe mit dem Regler treffen</translation>
+    </message>
+    <message id="1260s">
+        <source>die Reihe auf der Klaviatur nachspielen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>die Reihe auf der Klaviatur nachspielen</translation>
+    </message>
+    <message id="1261s">
+        <source>die Reihe in Noten schreiben</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>die Reihe in Noten schreiben</translation>
+    </message>
+    <message id="1262s">
+        <source>Hilfe</source>
+        <extracomment>Button that opens the help</extracomment>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="1280s">
+        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>
+        <translation>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</translation>
+    </message>
+    <message id="1281s">
+        <source>Die Klangbibliothek (SoundFont) fehlt. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“.</source>
+        <translation>Die Klangbibliothek (SoundFont) fehlt. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“.</translation>
+    </message>
+    <message id="1282s">
+        <source>Hilfe</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="1283s">
+        <source>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
+        <translation>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</translation>
+    </message>
+    <message id="1284s">
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
+    </message>
+    <message id="1285s">
+        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
+        <translation>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</translation>
+    </message>
+    <message id="1286s">
+        <source>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
+    </message>
 </context>
 </TS>

@@ -1130,5 +1130,572 @@ Vorzeichen!</source>
         <translation>Add the missing accidentals
 in any order.</translation>
     </message>
+    <message id="1000s">
+        <source>Deutsch</source>
+        <extracomment>Name of the language in its own words, as --language takes it</extracomment>
+        <translation>English</translation>
+    </message>
+    <message id="1001s">
+        <source>Hilfe</source>
+        <extracomment>First window: button</extracomment>
+        <translation>Help</translation>
+    </message>
+    <message id="1002s">
+        <source>noch nicht verfügbar</source>
+        <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
+        <translation>not available yet</translation>
+    </message>
+    <message id="1010s">
+        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
+        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <translation>This folder cannot be written to. You can practise, but saved trainings will be lost when the program ends. Please check its permissions and the free space:</translation>
+    </message>
+    <message id="1011s">
+        <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
+        <extracomment>Message at the start; the path follows on the next line</extracomment>
+        <translation>The file of saved trainings is damaged. A new one has been made; the damaged one is kept here:</translation>
+    </message>
+    <message id="1012s">
+        <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
+        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <translation>The file of saved trainings is in use by another program. Trainings you save now will be lost when this program ends. Please close the other program and start again:</translation>
+    </message>
+    <message id="1013s">
+        <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
+        <extracomment>Message at the start; the folder follows on the next line</extracomment>
+        <translation>The log file cannot be written. This does not disturb your practice. Please check the permissions in the folder:</translation>
+    </message>
+    <message id="1050s">
+        <source>Übungsmodus</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Exercise level</translation>
+    </message>
+    <message id="1051s">
+        <source>Tongeschlecht</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Mode</translation>
+    </message>
+    <message id="1052s">
+        <source>Abfolge</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Order of tasks</translation>
+    </message>
+    <message id="1053s">
+        <source>Tonraum</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tone range</translation>
+    </message>
+    <message id="1054s">
+        <source>Intervall-Größe</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Interval size</translation>
+    </message>
+    <message id="1055s">
+        <source>Intervall-Anzahl</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Number of intervals</translation>
+    </message>
+    <message id="1056s">
+        <source>Intervall-Bestimmung</source>
+        <extracomment>Settings: group title; the options go on: from the keynote</extracomment>
+        <translation>Interval named</translation>
+    </message>
+    <message id="1057s">
+        <source>Grundton zusätzlich</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Keynote sounds along</translation>
+    </message>
+    <message id="1058s">
+        <source>Tonart</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Key</translation>
+    </message>
+    <message id="1059s">
+        <source>Frequenz</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Frequency</translation>
+    </message>
+    <message id="1060s">
+        <source>Tempo</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Tempo</translation>
+    </message>
+    <message id="1061s">
+        <source>Klang</source>
+        <extracomment>Settings: group title</extracomment>
+        <translation>Sound</translation>
+    </message>
+    <message id="1062s">
+        <source>Dur</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>Major</translation>
+    </message>
+    <message id="1063s">
+        <source>moll</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>Minor</translation>
+    </message>
+    <message id="1064s">
+        <source>Dur-moll</source>
+        <extracomment>Settings: option</extracomment>
+        <translation>Major and minor</translation>
+    </message>
+    <message id="1065s">
+        <source>manuell</source>
+        <extracomment>Settings: option: order of tasks</extracomment>
+        <translation>Manual</translation>
+    </message>
+    <message id="1066s">
+        <source>automatisch</source>
+        <extracomment>Settings: option: order of tasks</extracomment>
+        <translation>Automatic</translation>
+    </message>
+    <message id="1067s">
+        <source>gleichbleibend</source>
+        <extracomment>Settings: option: key</extracomment>
+        <translation>Stays the same</translation>
+    </message>
+    <message id="1068s">
+        <source>wechselnd</source>
+        <extracomment>Settings: option: key</extracomment>
+        <translation>Changes</translation>
+    </message>
+    <message id="1069s">
+        <source>ja</source>
+        <extracomment>Settings: option: keynote sounds along</extracomment>
+        <translation>Yes</translation>
+    </message>
+    <message id="1070s">
+        <source>nein</source>
+        <extracomment>Settings: option: keynote sounds along</extracomment>
+        <translation>No</translation>
+    </message>
+    <message id="1071s">
+        <source>max. 1 Oktave</source>
+        <extracomment>Settings: option: interval size</extracomment>
+        <translation>Up to 1 octave</translation>
+    </message>
+    <message id="1072s">
+        <source>Oktaven</source>
+        <extracomment>Settings: unit behind a number, tone range and interval size</extracomment>
+        <translation>octaves</translation>
+    </message>
+    <message id="1073s">
+        <source>gemischt (0 - 2 Okt)</source>
+        <extracomment>Settings: option: interval size</extracomment>
+        <translation>Mixed (0 - 2 oct.)</translation>
+    </message>
+    <message id="1074s">
+        <source>fest (a'440 Hz)</source>
+        <extracomment>Settings: option: frequency; keep the stroke behind the a</extracomment>
+        <translation>Fixed (a'440 Hz)</translation>
+    </message>
+    <message id="1075s">
+        <source>variabel</source>
+        <extracomment>Settings: option: frequency</extracomment>
+        <translation>Variable</translation>
+    </message>
+    <message id="1076s">
+        <source>vom Grundton</source>
+        <extracomment>Settings: option: interval named</extracomment>
+        <translation>From the keynote</translation>
+    </message>
+    <message id="1077s">
+        <source>vom Vorton</source>
+        <extracomment>Settings: option: interval named</extracomment>
+        <translation>From the tone before</translation>
+    </message>
+    <message id="1078s">
+        <source>alle</source>
+        <extracomment>Settings: option: degrees of tone 2</extracomment>
+        <translation>All</translation>
+    </message>
+    <message id="1079s">
+        <source>1 nach Wahl</source>
+        <extracomment>Settings: option: degrees of tone 2</extracomment>
+        <translation>1 of your choice</translation>
+    </message>
+    <message id="1080s">
+        <source>Hilfe</source>
+        <extracomment>Settings: button</extracomment>
+        <translation>Help</translation>
+    </message>
+    <message id="1081s">
+        <source>Klangprobe</source>
+        <extracomment>Settings: button</extracomment>
+        <translation>Sound check</translation>
+    </message>
+    <message id="1082s">
+        <source>Einlesen Test</source>
+        <extracomment>Settings: button for supervisors</extracomment>
+        <translation>Read test</translation>
+    </message>
+    <message id="1083s">
+        <source>Einstellungen Speichern</source>
+        <extracomment>Settings: button for supervisors</extracomment>
+        <translation>Save settings</translation>
+    </message>
+    <message id="1084s">
+        <source>Lautstärke</source>
+        <extracomment>Settings: slider</extracomment>
+        <translation>Volume</translation>
+    </message>
+    <message id="1085s">
+        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
+        <extracomment>Settings: message; what the device says follows on a line of its own</extracomment>
+        <translation>The MIDI device cannot be used. Check the connection or choose another device.</translation>
+    </message>
+    <message id="1086s">
+        <source>Oktavbereich</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Octave range</translation>
+    </message>
+    <message id="1087s">
+        <source>Instrument</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Instrument</translation>
+    </message>
+    <message id="1088s">
+        <source>Stimme</source>
+        <extracomment>Settings: name of a list for a screen reader: the tones or the keynote</extracomment>
+        <translation>Voice</translation>
+    </message>
+    <message id="1089s">
+        <source>Nummer der Prüfung</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Exam number</translation>
+    </message>
+    <message id="1090s">
+        <source>Stufe von Ton 2</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Degree of tone 2</translation>
+    </message>
+    <message id="1091s">
+        <source>Richtung der Transposition</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Direction of transposition</translation>
+    </message>
+    <message id="1092s">
+        <source>Intervall der Transposition</source>
+        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <translation>Interval of transposition</translation>
+    </message>
+    <message id="1093s">
+        <source>Gespielt wird auf dem eingebauten Klangerzeuger oder dem letzten Gerät der Liste.</source>
+        <extracomment>Settings: message, further line behind 1085</extracomment>
+        <translation>Sound goes to the built-in synthesiser or the last device of the list instead.</translation>
+    </message>
+    <message id="1094s">
+        <source>Es geht ohne Klang weiter.</source>
+        <extracomment>Settings: message, further line behind 1085</extracomment>
+        <translation>It goes on without sound.</translation>
+    </message>
+    <message id="1100s">
+        <source>Trainingsstand</source>
+        <translation>Training progress</translation>
+    </message>
+    <message id="1101s">
+        <source>Aufgabe gelöst</source>
+        <translation>Training solved</translation>
+    </message>
+    <message id="1102s">
+        <source>zu schwer !!</source>
+        <translation>Too difficult!</translation>
+    </message>
+    <message id="1103s">
+        <source>Nr.</source>
+        <translation>No.</translation>
+    </message>
+    <message id="1104s">
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message id="1105s">
+        <source>Nicht speichern</source>
+        <translation>Don't save</translation>
+    </message>
+    <message id="1106s">
+        <source>Das Training konnte nicht gespeichert werden. Soll es noch einmal versucht werden?</source>
+        <translation>The training could not be saved. Try once more?</translation>
+    </message>
+    <message id="1107s">
+        <source>Noch einmal versuchen</source>
+        <translation>Try again</translation>
+    </message>
+    <message id="1108s">
+        <source>Ohne Speichern verlassen</source>
+        <translation>Leave without saving</translation>
+    </message>
+    <message id="1109s">
+        <source>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</source>
+        <translation>Listen to the row once more to check, then go on.</translation>
+    </message>
+    <message id="1110s">
+        <source>Die Reihe erklingt.</source>
+        <translation>The row is playing.</translation>
+    </message>
+    <message id="1111s">
+        <source>Welches Intervall folgt?</source>
+        <translation>Which interval follows?</translation>
+    </message>
+    <message id="1112s">
+        <source>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</source>
+        <translation>The protocol could not be written to its folder. It has been saved here instead:</translation>
+    </message>
+    <message id="1113s">
+        <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
+        <translation>The protocol could not be written. Please free some disk space. Try once more?</translation>
+    </message>
+    <message id="1114s">
+        <source>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>The training is finished. Continue to see the result.</translation>
+    </message>
+    <message id="1115s">
+        <source>Wiederholungen</source>
+        <translation>Repeats</translation>
+    </message>
+    <message id="1116s">
+        <source>Grundton-Kontrollen</source>
+        <translation>Keynote checks</translation>
+    </message>
+    <message id="1117s">
+        <source>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>The test is finished. Continue to see the result.</translation>
+    </message>
+    <message id="1118s">
+        <source>Teststand einblenden</source>
+        <translation>Show test progress</translation>
+    </message>
+    <message id="1119s">
+        <source>Teststand ausblenden</source>
+        <translation>Hide test progress</translation>
+    </message>
+    <message id="1120s">
+        <source>Einen Moment bitte!</source>
+        <translation>One moment, please.</translation>
+    </message>
+    <message id="1121s">
+        <source>Gleich folgt die nächste Aufgabe.</source>
+        <translation>The next task follows shortly.</translation>
+    </message>
+    <message id="1122s">
+        <source>Der Grundton erklingt.</source>
+        <translation>The keynote is playing.</translation>
+    </message>
+    <message id="1123s">
+        <source>richtig</source>
+        <translation>right</translation>
+    </message>
+    <message id="1124s">
+        <source>falsch</source>
+        <translation>wrong</translation>
+    </message>
+    <message id="1125s">
+        <source>gesucht</source>
+        <translation>asked</translation>
+    </message>
+    <message id="1126s">
+        <source>Weiter ohne Protokoll</source>
+        <translation>Continue without a protocol</translation>
+    </message>
+    <message id="1127s">
+        <source>Ton</source>
+        <translation>Tone</translation>
+    </message>
+    <message id="1150s">
+        <source>Stufen-Intervall über dem Grundton</source>
+        <translation>Degree interval above the keynote</translation>
+    </message>
+    <message id="1151s">
+        <source>Intervall von Ton zu Ton</source>
+        <translation>Interval from tone to tone</translation>
+    </message>
+    <message id="1152s">
+        <source>z.B. c – moll</source>
+        <translation>e.g. C minor</translation>
+    </message>
+    <message id="1153s">
+        <source>z.B. C – Dur</source>
+        <translation>e.g. C major</translation>
+    </message>
+    <message id="1154s">
+        <source>z.B. C – Dur-moll</source>
+        <translation>e.g. C major–minor</translation>
+    </message>
+    <message id="1155s">
+        <source>Int:</source>
+        <translation>Int.:</translation>
+    </message>
+    <message id="1156s">
+        <source>Tonreihe</source>
+        <translation>Tone row</translation>
+    </message>
+    <message id="1157s">
+        <source>gegeben</source>
+        <translation>given</translation>
+    </message>
+    <message id="1200s">
+        <source>Einzel-Ergebnisse</source>
+        <extracomment>title of the result sheet</extracomment>
+        <translation>Individual results</translation>
+    </message>
+    <message id="1201s">
+        <source>Einstellungen</source>
+        <extracomment>result sheet: head of the list of settings</extracomment>
+        <translation>Settings</translation>
+    </message>
+    <message id="1202s">
+        <source>Ergebnisse</source>
+        <extracomment>result sheet: head of the table</extracomment>
+        <translation>Results</translation>
+    </message>
+    <message id="1203s">
+        <source>Hilfe</source>
+        <extracomment>result sheet: button</extracomment>
+        <translation>Help</translation>
+    </message>
+    <message id="1204s">
+        <source>Das Blatt konnte nicht gedruckt werden:</source>
+        <extracomment>result sheet: a reason follows on the next line</extracomment>
+        <translation>The sheet could not be printed:</translation>
+    </message>
+    <message id="1205s">
+        <source>Drucken</source>
+        <extracomment>title of the print dialogs</extracomment>
+        <translation>Print</translation>
+    </message>
+    <message id="1206s">
+        <source>Blatt als PDF-Datei speichern (kein Drucker eingerichtet)</source>
+        <extracomment>result sheet: title of the file dialog</extracomment>
+        <translation>Save the sheet as a PDF file (no printer is set up)</translation>
+    </message>
+    <message id="1207s">
+        <source>PDF-Dateien</source>
+        <extracomment>result sheet: kind of file in the file dialog</extracomment>
+        <translation>PDF files</translation>
+    </message>
+    <message id="1208s">
+        <source>Stärken und Schwächen</source>
+        <extracomment>result sheet: head of the chart</extracomment>
+        <translation>Strengths and weaknesses</translation>
+    </message>
+    <message id="1209s">
+        <source>nicht gefragt</source>
+        <extracomment>result sheet: spoken for an empty bar</extracomment>
+        <translation>not asked</translation>
+    </message>
+    <message id="1210s">
+        <source>In dieser Übungsart werden keine Prozente berechnet.</source>
+        <extracomment>result sheet: instead of the chart</extracomment>
+        <translation>No percentages are worked out at this exercise level.</translation>
+    </message>
+    <message id="1211s">
+        <source>Ergebnisblatt</source>
+        <extracomment>name of the sheet for a screen reader and of the printed document</extracomment>
+        <translation>Result sheet</translation>
+    </message>
+    <message id="1212s">
+        <source>Die Datei kann nicht geschrieben werden: </source>
+        <extracomment>result sheet: why a print failed; the path follows at once</extracomment>
+        <translation>The file cannot be written: </translation>
+    </message>
+    <message id="1213s">
+        <source>Der Drucker hat den Auftrag abgebrochen.</source>
+        <extracomment>result sheet: why a print failed</extracomment>
+        <translation>The printer broke off the job.</translation>
+    </message>
+    <message id="1250s">
+        <source>gesperrt</source>
+        <extracomment>Mark in the corner of a locked group of settings</extracomment>
+        <translation>locked</translation>
+    </message>
+    <message id="1251s">
+        <source>Ja</source>
+        <extracomment>Button of a question</extracomment>
+        <translation>Yes</translation>
+    </message>
+    <message id="1252s">
+        <source>Nein</source>
+        <extracomment>Button of a question</extracomment>
+        <translation>No</translation>
+    </message>
+    <message id="1253s">
+        <source>Was möchten Sie üben?</source>
+        <extracomment>First window: its question</extracomment>
+        <translation>What would you like to practise?</translation>
+    </message>
+    <message id="1254s">
+        <source>Tonale Intervalle nacheinander</source>
+        <extracomment>First window: below the question</extracomment>
+        <translation>Tonal intervals in succession</translation>
+    </message>
+    <message id="1255s">
+        <source>Bereich</source>
+        <extracomment>First window: title of the group with ear training and music theory</extracomment>
+        <translation>Area</translation>
+    </message>
+    <message id="1256s">
+        <source>Sie hören die Aufgabe</source>
+        <extracomment>First window: explains ear training</extracomment>
+        <translation>You hear the task</translation>
+    </message>
+    <message id="1257s">
+        <source>Sie lesen die Aufgabe</source>
+        <extracomment>First window: explains music theory</extracomment>
+        <translation>You read the task</translation>
+    </message>
+    <message id="1258s">
+        <source>die Intervalle einer Reihe benennen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>Name the intervals of a row</translation>
+    </message>
+    <message id="1259s">
+        <source>eine Tonhöhe mit dem Regler treffen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>Form a pitch with the slider</translation>
+    </message>
+    <message id="1260s">
+        <source>die Reihe auf der Klaviatur nachspielen</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>Play the row on the keyboard</translation>
+    </message>
+    <message id="1261s">
+        <source>die Reihe in Noten schreiben</source>
+        <extracomment>First window: explains the exercise</extracomment>
+        <translation>Write the row on the staff</translation>
+    </message>
+    <message id="1262s">
+        <source>Hilfe</source>
+        <extracomment>Button that opens the help</extracomment>
+        <translation>Help</translation>
+    </message>
+    <message id="1280s">
+        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>
+        <translation>This computer has no sound output. The exercise goes on but stays silent. Connect speakers or headphones, or choose a MIDI device.</translation>
+    </message>
+    <message id="1281s">
+        <source>Die Klangbibliothek (SoundFont) fehlt. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“.</source>
+        <translation>The sound font is missing. The exercise goes on but stays silent. Install the package “timgm6mb-soundfont”.</translation>
+    </message>
+    <message id="1282s">
+        <source>Hilfe</source>
+        <translation>Help</translation>
+    </message>
+    <message id="1283s">
+        <source>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
+        <translation>Choose the study on the left and the exercise on the right. “OK” leads to the settings, “Quit” ends the program.</translation>
+    </message>
+    <message id="1284s">
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Yellow groups are open to choice, red ones are fixed by the level, blue ones concern the sound. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
+    </message>
+    <message id="1285s">
+        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
+        <translation>A row of tones is played. Name its intervals in turn with the buttons or the number keys. “Repeat” plays the row again, “Keynote check” the chord of the keynote. After the row you hear it once more to check, then go on. “Back” ends the exercise and shows the result.</translation>
+    </message>
+    <message id="1286s">
+        <source>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>The result sheet shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %). “Print” puts it on a page or into a PDF file.</translation>
+    </message>
 </context>
 </TS>

@@ -23,10 +23,14 @@ class Auswertung {
   /// Keeps the two smallest values: a value below column 0 replaces it, then the smaller of both
   /// moves to column 1.
   void SaveBest(std::int16_t row, float value);
+  /// True once SaveBest was called for the row, whatever the value: a test has asked for the
+  /// interval, perhaps without a single right answer. `Clear` and `init_arr` forget it.
+  bool asked(std::int16_t row) const;
   void store() const {}
 
  private:
   std::size_t cell(std::int64_t row, std::int64_t column) const;
+  std::vector<bool> asked_;  ///< by row, as long as `rows_`
   std::int64_t rows_ = 0;
   std::int64_t columns_ = 0;
   std::vector<float> cells_;

@@ -1,0 +1,68 @@
+#include "engine/records/records.h"
+
+#include <gtest/gtest.h>
+
+#include "base/runtime_error.h"
+
+namespace tonarix {
+namespace {
+
+float cell(const Auswertung& statistics, std::int16_t row, float column) {
+  float value = -1000.0F;
+  statistics.read(row, column, value);
+  return value;
+}
+
+TEST(Auswertung, CountsAndSumsByRow) {
+  Auswertung statistics;
+  statistics.init_arr(3.0F, 42.0F);
+  statistics.Increment(42, 0);
+  statistics.Increment(42, 0);
+  statistics.Add(42, -16.0F);
+  statistics.Add(42, 2.5F);
+  statistics.Save(0, 3, 7.0F);
+  EXPECT_EQ(cell(statistics, 42, 0.0F), 2.0F);
+  EXPECT_EQ(cell(statistics, 42, 1.0F), -13.5F);
+  EXPECT_EQ(cell(statistics, 0, 2.5F), 0.0F) << "half to even: column 2";
+  EXPECT_EQ(cell(statistics, 0, 2.6F), 7.0F);
+  statistics.Clear();
+  EXPECT_EQ(cell(statistics, 42, 1.0F), 0.0F);
+  EXPECT_THROW(cell(statistics, 43, 0.0F), RuntimeError);
+  EXPECT_THROW(cell(statistics, 0, 4.0F), RuntimeError);
+  EXPECT_THROW(statistics.Increment(-1, 0), RuntimeError);
+}
+
+TEST(Auswertung, BestValueMovesToTheSecondColumn) {
+  Auswertung statistics;
+  statistics.init_arr(3.0F, 1.0F);
+  statistics.SaveBest(1, 2.0F);
+  EXPECT_EQ(cell(statistics, 1, 0.0F), 0.0F) << "nothing above zero enters";
+  // value given, then columns 0 and 1 afterwards
+  const float steps[][3] = {{-8.0F, 0.0F, -8.0F},
+                            {-4.0F, -4.0F, -8.0F},
+                            {-16.0F, -8.0F, -16.0F},
+                            {-2.0F, -8.0F, -16.0F}};
+  for (const auto& step : steps) {
+    statistics.SaveBest(1, step[0]);
+    EXPECT_EQ(cell(statistics, 1, 0.0F), step[1]);
+    EXPECT_EQ(cell(statistics, 1, 1.0F), step[2]);
+  }
+}
+
+TEST(Ergebnis, KeepsTheLargestFromIndexOne) {
+  Ergebnis best;
+  best.init_arr(3);
+  best.SaveBest(3, 5);
+  best.SaveBest(3, 4);
+  std::int16_t value = 0;
+  best.read(3, value);
+  EXPECT_EQ(value, 5);
+  EXPECT_THROW(best.read(0, value), RuntimeError);
+  EXPECT_THROW(best.SaveBest(4, 1), RuntimeError);
+  best.Clear();
+  best.read(3, value);
+  EXPECT_EQ(value, 0);
+}
+
+}  // namespace
+}  // namespace tonarix
