@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "base/dialogs.h"
@@ -25,8 +26,11 @@ class ErrorReport {
   void report_exercise(const std::string& window, std::string_view tag, std::exception_ptr error,
                        std::function<void()> done = {});
 
-  /// Logs only.
-  void log(std::string_view tag, std::exception_ptr error);
+  /// Logs, and with `show` says in two lines that the log knows more.
+  void log(std::string_view tag, std::exception_ptr error, bool show = false);
+
+  /// The box of the four lines, for a handler that waits until the user has closed it.
+  Message message() const;
 
  private:
   Server& server_;

@@ -24,16 +24,20 @@ class Variant {
   bool is_empty() const { return std::holds_alternative<std::monostate>(value_); }
   bool is_array() const { return std::holds_alternative<Array>(value_); }
   bool is_text() const { return std::holds_alternative<std::string>(value_); }
+  bool is_flag() const { return std::holds_alternative<bool>(value_); }
+  bool is_number() const { return std::holds_alternative<double>(value_); }
 
-  /// The text of a text, number or flag. An array or an empty value is a type mismatch
-  /// (RuntimeError 13).
+  /// The text of a text, a number, or a flag ("True", "False"). An array or an empty value is a
+  /// type mismatch (RuntimeError 13).
   std::string text() const;
-  /// The number of a number, or of a text that is one. Else RuntimeError 13.
+  /// The number of a number, of a flag (0 and -1), or of a text that is one. Else RuntimeError 13.
   double number() const;
   /// The array; anything else is RuntimeError 13.
   const Array& array() const;
   /// Element of the array; RuntimeError 9 outside it, 13 when there is no array.
   const Variant& at(int index) const;
+
+  friend bool operator==(const Variant&, const Variant&) = default;
 
  private:
   std::variant<std::monostate, bool, double, std::string, Array> value_;

@@ -39,9 +39,10 @@ class Server {
   Server(HostFactory create, Application application)
       : create_(std::move(create)), application_(std::move(application)) {}
 
-  /// Connects: role, MIDI device, start line in the log. Not running: a role other than 2 and 4, or
-  /// a failure (7).
-  Status ServerInit(const std::string& module);
+  /// Connects: role, MIDI device, start line in the log. `module` takes the place of the
+  /// executable's name in the records and the log. Not running: a role other than 2 and 4, or a
+  /// failure (7).
+  Status ServerInit(const std::string& module = {});
   std::int16_t ServerMidi() const { return midi_host_nr_; }
   bool supervisor() const { return supervisor_; }
   /// The user's data; "Unbekannt" alone when the call fails, "unbekannt" when nobody is logged on.
@@ -49,6 +50,7 @@ class Server {
   std::vector<std::string> ServerLogin();
   /// True when the first element of the last ServerLogin differs from "unbekannt".
   bool user_known() const { return user_known_; }
+  /// The language that the host names now; the last one known when it names none.
   std::string ServerLang();
   void ServerStore(const std::string& short_key, const Variant& data);
   /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
@@ -63,8 +65,14 @@ class Server {
   void ServerMenue(WindowList& windows);
 
   const Application& application() const { return application_; }
+  /// The host itself, for the one place that passes it on; RuntimeError 91 while there is none.
+  Host& ServerObject();
 
  private:
+  /// A call without a handler of its own: `HostLang` goes out as the third argument, and what comes
+  /// back is taken when it is a text.
+  void call(std::string key, Variant& input);
+
   HostFactory create_;
   Application application_;
   std::unique_ptr<Host> host_;

@@ -1,0 +1,117 @@
+#include "host/local/local_host.h"
+
+#include <QString>
+#include <QStringList>
+
+#include "host/local/record_format.h"
+
+namespace tonarix {
+
+namespace {
+
+/// Makes the folder; the path comes back so that what lies in it can be opened next.
+std::filesystem::path make_folder(const std::filesystem::path& folder, std::error_code& error) {
+  std::filesystem::create_directories(folder, error);
+  return folder;
+}
+
+}  // namespace
+
+LocalHostHome::LocalHostHome(LocalHostOptions options, const WallClock& clock)
+    : options_(std::move(options)),
+      log_(make_folder(options_.folder, folder_error_) / "host.log", clock),
+      store_(options_.folder / "host.sqlite", file_stamp(clock.now())) {
+  find_problems();
+}
+
+void LocalHostHome::find_problems() {
+  using Place = RecordStore::Place;
+  const std::string folder = options_.folder.string();
+  const std::string reason = folder_error_ ? folder_error_.message() : store_.reason();
+  switch (store_.place()) {
+    case Place::file:
+      if (!log_.writable()) problems_.push_back({1013_text, folder});
+      break;
+    case Place::file_renewed:
+      problems_.push_back({1011_text, store_.put_aside().string()});
+      break;
+    case Place::memory_unwritable:
+      problems_.push_back({1010_text, folder + " (" + reason + ")"});
+      break;
+    case Place::memory_in_use:
+      problems_.push_back({1012_text, folder + " (" + reason + ")"});
+      break;
+  }
+  if (store_.place() != Place::file) log_.add("host.sqlite: " + reason);
+}
+
+Server::HostFactory LocalHostHome::factory() {
+  return [this]() -> std::unique_ptr<Host> { return std::make_unique<LocalHost>(*this); };
+}
+
+bool LocalHost::Request(std::string& key, Variant& input, Variant& output) {
+  if (key == "STATUS") {
+    output = Variant::Array{user(), home_.options_.role};
+  } else if (key == "MIDI") {
+    if (!home_.options_.midi) return false;
+    output = std::to_string(*home_.options_.midi);
+  } else if (key == "LOGIN") {
+    login(output);
+  } else if (key == "LANG") {
+    output = home_.options_.language;
+  } else if (key == "STORE") {
+    store(input);
+  } else if (key == "READ") {
+    read(input, output);
+  } else if (key == "LOGMESS") {
+    home_.log_.add(input.text());
+  } else if (key == "LOGERR") {
+    log_error(input);
+  } else if (key == "MENUE") {
+    home_.log_.add("menu");
+    if (home_.on_menue) home_.on_menue();
+  } else {
+    home_.log_.add("Unknown request: " + key);
+    return false;
+  }
+  return true;
+}
+
+std::string LocalHost::user() const {
+  return home_.options_.user.value_or("");
+}
+
+void LocalHost::login(Variant& output) const {
+  const QString name = QString::fromStdString(user()).trimmed();
+  if (name.isEmpty()) return;
+  Variant::Array fields;
+  for (const QString& field : name.split(QLatin1Char(';'))) {
+    fields.push_back(field.trimmed().toStdString());
+  }
+  output = fields;
+}
+
+void LocalHost::store(const Variant& input) {
+  home_.store_.write(user(), input.at(0).text(), input.at(1).text(), write_record(input.at(2)));
+}
+
+void LocalHost::read(const Variant& input, Variant& output) {
+  const std::string module = input.at(0).text();
+  const std::string key = input.at(1).text();
+  output = Variant::Array{"NIL"};
+  const std::optional<std::string> json = home_.store_.read(user(), module, key);
+  if (!json) return;
+  const std::optional<Variant> data = read_record(*json);
+  if (data) {
+    output = *data;
+  } else {
+    home_.log_.add("Record " + key + " of " + module + " is damaged; it stays as it is");
+  }
+}
+
+void LocalHost::log_error(const Variant& input) {
+  home_.log_.add("ERROR " + input.at(0).text() + " " + input.at(1).text() + " " +
+                 input.at(2).text() + " (" + input.at(3).text() + ")");
+}
+
+}  // namespace tonarix
