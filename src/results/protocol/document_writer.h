@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tonarix {
+
+struct WriteResult {
+  bool written = false;
+  std::string reason;  ///< the system's words when it was not written
+};
+
+/// Puts a finished document into a file.
+class DocumentWriter {
+ public:
+  virtual ~DocumentWriter() = default;
+  virtual WriteResult write(const std::filesystem::path& path, std::string_view content) = 0;
+};
+
+/// Writes whole or not at all: to a temporary file in the same folder, flushed to the disk, then
+/// renamed, so that whoever looks for the file never meets half of it. Makes the folder if it is
+/// missing. The file belongs to the user alone, as temporary folders are often shared.
+class FileDocumentWriter final : public DocumentWriter {
+ public:
+  WriteResult write(const std::filesystem::path& path, std::string_view content) override;
+};
+
+}  // namespace tonarix
