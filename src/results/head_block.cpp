@@ -1,0 +1,105 @@
+#include "results/head_block.h"
+
+#include <algorithm>
+#include <charconv>
+#include <span>
+
+#include "base/runtime_error.h"
+
+namespace tonarix {
+
+namespace {
+
+using namespace std::string_literals;
+
+constexpr std::array<TextKey, 2> kStudies{724_text, 725_text};
+constexpr std::array<TextKey, 4> kExerciseCaptions{154_text, 160_text, 496_text, 690_text};
+constexpr std::array<TextKey, 4> kExerciseNames{291_text, 292_text, 293_text, 715_text};
+
+TextKey key_at(std::span<const TextKey> keys, int index) {
+  if (index < 0 || index >= static_cast<int>(keys.size())) {
+    throw RuntimeError::index_out_of_range("head_block");
+  }
+  return keys[static_cast<std::size_t>(index)];
+}
+
+/// Line ends and other control characters become blanks, so that a strange name stays on its line.
+std::string one_line(std::string text) {
+  for (char& letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (byte < 0x20 || byte == 0x7F) letter = ' ';
+  }
+  return text;
+}
+
+std::string trimmed(const std::string& text, const char* blanks = " ") {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string bare_label(const std::string& label) {
+  const auto last = label.find_last_not_of(" :");
+  return last == std::string::npos ? std::string() : trimmed(label.substr(0, last + 1));
+}
+
+int whole_number(const std::string& text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+}  // namespace
+
+std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& settings,
+                                    const Texts& texts) {
+  const std::string colon = texts.Wort(700_text);
+  const auto line = [&](const std::string& label, const std::string& value, bool visible = true) {
+    return SheetLine{" " + label, " " + one_line(value), visible};
+  };
+  const auto personal = [&](const std::string& label, std::size_t field) {
+    return line(label, field < facts.user.size() && facts.user_known ? facts.user[field] : "",
+                facts.user_known);
+  };
+  return {line(texts.Wort(189_text) + colon, date_and_time(facts.now)),
+          line(texts.Wort(586_text) + colon,
+               texts.Wort(key_at(kExerciseCaptions, settings.ueb_typ - 1))),
+          line(texts.Wort(109_text) + colon, facts.computer_user),
+          personal("Name:", 0),
+          personal("Vorname:", 1),
+          personal("Matrikel-Nr.:", 2)};
+}
+
+std::string head_title(const Settings& settings, const Texts& texts) {
+  return texts.Wort(key_at(kStudies, settings.Theoriewahl)) + texts.Wort(700_text) +
+         texts.Wort(key_at(kExerciseNames, settings.ueb_typ - 1));
+}
+
+std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs) {
+  std::vector<SheetLine> lines;
+  const auto last_label = static_cast<std::ptrdiff_t>(pairs.size()) - 1;
+  for (std::ptrdiff_t i = 1; i < last_label; i += 2) {
+    const std::string label = bare_label(pairs[static_cast<std::size_t>(i)]);
+    std::string value = trimmed(one_line(pairs[static_cast<std::size_t>(i + 1)]));
+    if (label == "Klangfarben") {
+      std::string joined;
+      for (int left = whole_number(value); left > 0 && i + 2 < last_label; --left) {
+        i += 2;
+        if (!joined.empty()) joined += "; ";
+        joined += bare_label(pairs[static_cast<std::size_t>(i)]) + ": " +
+                  trimmed(one_line(pairs[static_cast<std::size_t>(i + 1)]));
+      }
+      value = joined;
+    }
+    if (value.empty()) continue;
+    if (label == "Grdton zus.") value = "zusätzlich " + value;
+    lines.push_back({label + ": ", value, true});
+  }
+  return lines;
+}
+
+std::string level_text(const std::vector<std::string>& pairs) {
+  return pairs.size() > 2 ? trimmed(pairs[2]) : std::string();
+}
+
+}  // namespace tonarix

@@ -1,0 +1,146 @@
+#include "results/sheet_picture.h"
+
+#include <algorithm>
+
+namespace tonarix {
+
+namespace {
+
+constexpr double kLeftWidth = 330;
+constexpr double kGap = 16;
+constexpr double kTableWidth = 448;
+constexpr double kTableLeft = kLeftWidth + kGap;
+constexpr double kPadding = 12;
+constexpr double kTitleHeight = 36;
+constexpr double kLineStep = 20;
+constexpr double kValueLeft = 124;  // begin of the value column beside its labels
+constexpr double kFrameEnd = 7;     // from the last line to the end of its frame
+constexpr double kCorner = 6;
+constexpr double kFieldCorner = 3;
+
+// Within the table: columns 216 apart, values 136 to the right of their labels.
+constexpr double kTableTop = 44;
+constexpr double kColumnStep = 216;
+constexpr double kColumnLeft = 8;
+constexpr double kFieldLeft = 136;
+constexpr double kFieldWidth = 68;
+constexpr double kRowHeight = 20;
+constexpr double kTotalWidth = 112;
+
+class Composer {
+ public:
+  Composer(const SheetContent& content, SheetGround ground) : content_(content), ground_(ground) {}
+
+  SheetPicture compose() {
+    const double head_end = frame(0, content_.head_title, content_.head);
+    const double left_end =
+        content_.settings.empty()
+            ? head_end
+            : frame(head_end + kGap, content_.settings_title, content_.settings);
+    const double height = std::max(left_end, table_end());
+    table(height);
+    picture_.name = content_.caption;
+    picture_.ground = ground_;
+    picture_.width = kTableLeft + kTableWidth;
+    picture_.height = height;
+    return std::move(picture_);
+  }
+
+ private:
+  void text(SheetBox box, const std::string& words, SheetFont font, bool at_right = false) {
+    picture_.texts.push_back({box, words, font, at_right});
+  }
+  void card(SheetBox box) { picture_.surfaces.push_back({box, signal::white, true, kCorner}); }
+
+  template <typename Lines>
+  double frame(double top, const std::string& title, const Lines& lines) {
+    double line_top = top + kTitleHeight;
+    const auto shown = std::count_if(lines.begin(), lines.end(),
+                                     [](const SheetLine& line) { return line.visible; });
+    const double end = line_top + static_cast<double>(shown) * kLineStep + kFrameEnd;
+    card({0, top, kLeftWidth, end - top});
+    text({kPadding, top + 8, kLeftWidth - 2 * kPadding, kRowHeight}, title, SheetFont::title);
+    for (const SheetLine& line : lines) {
+      if (!line.visible) continue;
+      text({kPadding, line_top, kValueLeft - kPadding, kLineStep}, line.label, SheetFont::label);
+      text({kValueLeft, line_top, kLeftWidth - kPadding - kValueLeft, kLineStep}, line.value,
+           SheetFont::plain);
+      line_top += kLineStep;
+    }
+    return end;
+  }
+
+  double table_end() const {
+    double end = kTableTop;
+    for (const ResultRow& row : content_.table.rows) {
+      end = std::max(end, kTableTop + row.top + kRowHeight);
+    }
+    return end + kPadding;
+  }
+
+  void field(SheetBox box, const ResultField& field, SheetFont font) {
+    const bool coloured = field.back && ground_ == SheetGround::screen;
+    if (coloured) picture_.surfaces.push_back({box, *field.back, false, kFieldCorner});
+    const double margin = 8;
+    text({box.left, box.top, box.width - margin, box.height}, field.text, font, true);
+  }
+
+  void table(double height) {
+    const ResultTable& table = content_.table;
+    card({kTableLeft, 0, kTableWidth, height});
+    const double right = kTableLeft + kTableWidth - kPadding;
+    const SheetBox total{right - kTotalWidth, 6, kTotalWidth, 34};
+    text({kTableLeft + kPadding, 8, 150, 30}, content_.results_title, SheetFont::title);
+    text({total.left - 128, 8, 120, 30}, content_.total_label, SheetFont::total_label, true);
+    field(total, table.total, SheetFont::total);
+    if (table.by_interval) {
+      for (const int column : {0, 1}) {
+        text({kTableLeft + kColumnLeft + kColumnStep * column, kTableTop, kFieldLeft, kRowHeight},
+             content_.directions[static_cast<std::size_t>(column)], SheetFont::heading);
+      }
+    }
+    for (const ResultRow& row : table.rows) {
+      const double left = kTableLeft + kColumnLeft + kColumnStep * row.column;
+      const double to_field = kFieldLeft + (table.by_interval ? 0 : kColumnStep);
+      const double top = kTableTop + row.top;
+      text({left, top, to_field - 4, kRowHeight}, row.label, SheetFont::plain);
+      field({left + to_field, top, kFieldWidth, kRowHeight}, row.field, SheetFont::field);
+    }
+  }
+
+  const SheetContent& content_;
+  SheetGround ground_;
+  SheetPicture picture_;
+};
+
+template <typename Lines>
+void speak(std::string& spoken, const std::string& title, const Lines& lines) {
+  spoken += title + "\n";
+  for (const SheetLine& line : lines) {
+    if (line.visible) spoken += line.label + line.value + "\n";
+  }
+}
+
+}  // namespace
+
+SheetPicture sheet_picture(const SheetContent& content, SheetGround ground) {
+  return Composer(content, ground).compose();
+}
+
+std::string spoken_sheet(const SheetContent& content) {
+  std::string spoken;
+  speak(spoken, content.head_title, content.head);
+  speak(spoken, content.settings_title, content.settings);
+  const ResultTable& table = content.table;
+  spoken += content.results_title + "\n" + content.total_label + " " + table.total.text + "\n";
+  for (const ResultRow& row : table.rows) {
+    spoken += row.label;
+    if (table.by_interval) {
+      spoken += " " + content.directions[static_cast<std::size_t>(row.column)];
+    }
+    spoken += ": " + row.field.text + "\n";
+  }
+  return spoken;
+}
+
+}  // namespace tonarix

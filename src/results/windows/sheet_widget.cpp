@@ -1,0 +1,42 @@
+#include "results/windows/sheet_widget.h"
+
+#include <QPainter>
+#include <utility>
+
+#include "results/windows/sheet_painter.h"
+
+namespace tonarix {
+
+namespace {
+constexpr double kSmallest = 0.8;
+constexpr QSize kLongest{794, 560};  // the longest sheet, asked for before it is filled
+}  // namespace
+
+SheetWidget::SheetWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("sheet"));
+  setFocusPolicy(Qt::TabFocus);  // so that a screen reader comes by
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void SheetWidget::set_picture(SheetPicture picture, const QString& name, const QString& spoken) {
+  picture_ = std::move(picture);
+  setAccessibleName(name);
+  setAccessibleDescription(spoken);
+  updateGeometry();
+  update();
+}
+
+QSize SheetWidget::sizeHint() const {
+  return kLongest;
+}
+
+QSize SheetWidget::minimumSizeHint() const {
+  return (QSizeF(picture_.width, picture_.height) * kSmallest).toSize();
+}
+
+void SheetWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  paint_sheet(painter, picture_, rect());
+}
+
+}  // namespace tonarix

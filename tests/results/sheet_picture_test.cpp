@@ -1,0 +1,87 @@
+#include "results/sheet_picture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/full_sheet.h"
+
+namespace tonarix {
+namespace {
+
+bool coloured(const SheetSurface& surface) {
+  return !(surface.fill == signal::white);
+}
+
+bool overlap(const SheetBox& a, const SheetBox& b) {
+  return a.left < b.right() && b.left < a.right() && a.top < b.bottom() && b.top < a.bottom();
+}
+
+TEST(SheetPicture, TheLongestSheetHasAllItsTextsApartAndOnThePage) {
+  const SheetPicture picture = sheet_picture(full_sheet(), SheetGround::screen);
+  EXPECT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
+  for (const SheetText& text : picture.texts) {
+    EXPECT_GE(text.box.left, 0);
+    EXPECT_LE(text.box.right(), picture.width);
+    EXPECT_LE(text.box.bottom(), picture.height);
+    for (const SheetText& other : picture.texts) {
+      if (&other != &text) {
+        EXPECT_FALSE(overlap(text.box, other.box)) << text.text << ", " << other.text;
+      }
+    }
+  }
+  EXPECT_EQ(std::count_if(picture.surfaces.begin(), picture.surfaces.end(), coloured), 39);
+}
+
+TEST(SheetPicture, PaperSaysTheSameAllInWhite) {
+  const SheetPicture screen = sheet_picture(full_sheet(), SheetGround::screen);
+  const SheetPicture paper = sheet_picture(full_sheet(), SheetGround::paper);
+  EXPECT_TRUE(std::none_of(paper.surfaces.begin(), paper.surfaces.end(), coloured));
+  ASSERT_EQ(paper.texts.size(), screen.texts.size());
+  for (std::size_t i = 0; i < paper.texts.size(); ++i) {
+    EXPECT_EQ(paper.texts[i].text, screen.texts[i].text);
+  }
+  EXPECT_EQ(paper.height, screen.height);
+}
+
+TEST(SheetPicture, FieldsStandBesideTheirLabelsInTwoColumns) {
+  const SheetPicture picture = sheet_picture(full_sheet(), SheetGround::screen);
+  std::vector<SheetBox> labels;
+  for (const SheetText& text : picture.texts) {
+    if (text.text == "Augmented fourth") labels.push_back(text.box);
+  }
+  ASSERT_EQ(labels.size(), 38U);
+  EXPECT_EQ(labels[19].left - labels[0].left, 216);
+  EXPECT_EQ(labels[19].top, labels[0].top);
+  EXPECT_EQ(labels[1].top - labels[0].top, 22);
+  const auto field = std::find_if(picture.surfaces.begin(), picture.surfaces.end(),
+                                  [&](const SheetSurface& surface) {
+                                    return coloured(surface) && surface.box.top == labels[0].top;
+                                  });
+  ASSERT_NE(field, picture.surfaces.end());
+  EXPECT_EQ(field->box.left - labels[0].left, 136);
+}
+
+TEST(SheetPicture, HiddenLinesShortenTheFrame) {
+  SheetContent content = full_sheet();
+  const SheetBox full = sheet_picture(content, SheetGround::paper).surfaces[0].box;
+  for (std::size_t i = 3; i < 6; ++i) content.head[i].visible = false;
+  const SheetPicture picture = sheet_picture(content, SheetGround::paper);
+  const SheetBox short_frame = picture.surfaces[0].box;
+  EXPECT_EQ(full.height - short_frame.height, 3 * 20);
+  EXPECT_EQ(picture.texts[6].text, " 4711");
+  EXPECT_EQ(short_frame.bottom() - picture.texts[6].box.bottom(), 7);
+}
+
+TEST(SpokenSheet, TellsEveryRowWithItsDirection) {
+  SheetContent content = full_sheet();
+  content.head[5].visible = false;
+  const std::string spoken = spoken_sheet(content);
+  EXPECT_EQ(std::count(spoken.begin(), spoken.end(), '\n'), 1 + 5 + 1 + 17 + 2 + 38);
+  EXPECT_THAT(spoken, testing::HasSubstr("Total: 50.0%\nAugmented fourth Upward: 0.0%\n"));
+  EXPECT_THAT(spoken, testing::EndsWith("Augmented fourth Downward: 100.0%\n"));
+}
+
+}  // namespace
+}  // namespace tonarix
