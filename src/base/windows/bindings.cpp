@@ -149,11 +149,14 @@ void Bindings::bind(Card& card, const Control* frame, const Control* title) {
     joint.set_caption = [&card](const QString& caption) { card.title().setText(caption); };
   }
   if (!frame) return;
+  if (title) titles_[frame] = title;
   Joint& joint = join(card, *frame, {});
   joint.set_colours = [&card](auto back, auto) { card.set_surface(back); };
   joint.refresh = [this, &card, frame, title, shown = std::optional<QString>()]() mutable {
     const bool locked = !frame->enabled || frame->back == signal::locked;
-    const QString mark = locked ? to_qstring(texts_.Wort(1250_text)) : to_qstring(frame->tag);
+    const QString mark = locked               ? to_qstring(texts_.Wort(1250_text))
+                         : frame->tag.empty() ? QString()
+                                              : to_qstring(texts_.Wort(438_text));
     if (shown != mark) card.set_mark(mark, locked);
     shown = mark;
     if (title) card.setAccessibleName(to_qstring(title->text) + QLatin1Char(' ') + mark);
@@ -216,12 +219,11 @@ void Bindings::apply_captions(Joint& joint) {
   const Control& control = *joint.control;
   Shown& shown = joint.shown;
   const bool same_text = shown.text == control.text;
-  if (same_text && shown.accessible_name == control.accessible_name && shown.tag == control.tag) {
-    return;
-  }
+  const std::string group = group_of(joint);
+  if (same_text && shown.accessible_name == control.accessible_name && shown.group == group) return;
   shown.text = control.text;
   shown.accessible_name = control.accessible_name;
-  shown.tag = control.tag;
+  shown.group = group;
   if (!same_text && joint.set_caption) {
     if (joint.takes_mnemonic) {
       captions_changed_ = true;
@@ -238,10 +240,16 @@ void Bindings::apply_name(Joint& joint) {
   QString name =
       to_qstring(control.accessible_name.empty() ? control.text : control.accessible_name);
   // "ja" says nothing to who cannot see the title above it.
-  if (joint.is_option && !control.tag.empty()) {
-    name = to_qstring(control.tag + texts_.Wort(700_text)) + name;
+  if (!joint.shown.group->empty()) {
+    name = to_qstring(*joint.shown.group + texts_.Wort(700_text)) + name;
   }
   joint.widget->setAccessibleName(name);
+}
+
+std::string Bindings::group_of(const Joint& joint) const {
+  if (!joint.is_option) return {};
+  const auto title = titles_.find(joint.control->container);
+  return title == titles_.end() ? std::string() : title->second->text;
 }
 
 void Bindings::assign_mnemonics() {

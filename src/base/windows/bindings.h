@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -49,7 +50,8 @@ class Bindings {
   void bind(ListBox& list, const ListControl& control, NumberHandler chosen, Binding look = {});
   void bind(Slider& slider, const SliderControl& control, NumberHandler moved, Binding look = {});
   /// The back colour is the card's surface. A frame that is disabled or light red is marked
-  /// "locked"; else the frame's tag stands in its corner. `title` may be null.
+  /// "locked", one that carries a tag is marked as part of an exam. The title names the options
+  /// inside for a screen reader. Either may be null.
   void bind(Card& card, const Control* frame, const Control* title);
   /// A drawn widget of its own kind: visible, enabled and name as above; `refresh` runs with each
   /// `apply` and finds out itself what has changed.
@@ -64,7 +66,7 @@ class Bindings {
  private:
   struct Shown {
     std::optional<bool> visible, enabled;
-    std::optional<std::string> text, accessible_name, tag;
+    std::optional<std::string> text, accessible_name, group;
     std::optional<Colour> back, fore;
     bool coloured = false;
   };
@@ -84,11 +86,13 @@ class Bindings {
   void apply(Joint& joint);
   void apply_captions(Joint& joint);
   void apply_name(Joint& joint);
+  std::string group_of(const Joint& joint) const;
   void assign_mnemonics();
   void forward(const Control& control, const Handler& handler);
 
   const Texts& texts_;
   std::deque<Joint> joints_;
+  std::map<const Control*, const Control*> titles_;  ///< by frame
   bool live_ = true;
   bool captions_changed_ = false;
   QWidget* parked_ = nullptr;  ///< lost the focus when it was disabled; gets it back

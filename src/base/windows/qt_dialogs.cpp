@@ -31,6 +31,17 @@ class MessageSign final : public QWidget {
   MessageStyle style_;
 };
 
+class MessageBox final : public QDialog {
+ public:
+  explicit MessageBox(bool must_choose) : must_choose_(must_choose) {}
+  void reject() override {
+    if (!must_choose_) QDialog::reject();
+  }
+
+ private:
+  bool must_choose_;
+};
+
 }  // namespace
 
 QtDialogs::QtDialogs(const Texts& texts, Presenter& presenter)
@@ -89,7 +100,7 @@ QString QtDialogs::caption(const std::string& own, TextKey key, const QString& u
 }
 
 std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
-  auto box = std::make_unique<QDialog>();
+  auto box = std::make_unique<MessageBox>(message.style == MessageStyle::yes_no);
   box->setObjectName(QStringLiteral("message_box"));
   box->setWindowModality(Qt::ApplicationModal);
   box->setWindowTitle(to_qstring(message.title));

@@ -13,7 +13,8 @@ namespace tonarix {
 
 /// Message boxes on the screen, one at a time in the order of asking. A box holds back the windows
 /// until it is answered, stands before the newest visible one, and outlives a window that closes
-/// behind it. Closing a box or Escape means OK, or No to a question.
+/// behind it. Escape and the title bar's close button mean OK; a question is left only by one of
+/// its two answers, so that nothing is lost by a slip.
 class QtDialogs final : public Dialogs {
  public:
   QtDialogs(const Texts& texts, Presenter& presenter);

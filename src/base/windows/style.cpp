@@ -195,17 +195,6 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
   painter->restore();
 }
 
-QRect Style::subElementRect(SubElement element, const QStyleOption* option,
-                            const QWidget* widget) const {
-  if (element == SE_RadioButtonFocusRect) return option->rect;
-  QRect rect = QProxyStyle::subElementRect(element, option, widget);
-  // Room for the focus ring beside the circle.
-  if (element == SE_RadioButtonIndicator || element == SE_RadioButtonContents) {
-    rect.translate(option->direction == Qt::RightToLeft ? -4 : 4, 0);
-  }
-  return rect;
-}
-
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                               const QWidget* widget) const {
   QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);

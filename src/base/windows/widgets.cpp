@@ -14,6 +14,7 @@ namespace tonarix {
 namespace {
 
 constexpr int kSignRoom = 18;
+constexpr int kRingRoom = 4;  // from an option's edge to its circle, for the focus ring
 
 void draw_sign(QPainter& painter, const QRectF& box, Label::Sign sign, const QColor& colour) {
   painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -125,7 +126,7 @@ void Option::set_note(const QString& note) {
 int Option::note_indent() const {
   QStyleOptionButton option;
   initStyleOption(&option);
-  return style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this).left();
+  return kRingRoom + style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this).left();
 }
 
 QSize Option::sizeHint() const {
@@ -137,29 +138,26 @@ QSize Option::sizeHint() const {
   return size;
 }
 
-void Option::paintEvent(QPaintEvent* event) {
-  if (note_.isEmpty()) {
-    QRadioButton::paintEvent(event);
-    return;
-  }
+void Option::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
+  const QRect ring(0, 0, std::min(width(), sizeHint().width()), height());
   const QFont font = theme::font(TextRole::note);
-  const int note_height = QFontMetrics(font).height() + 2;
-  option.rect.setBottom(option.rect.bottom() - note_height);
-  const bool focus = option.state & QStyle::State_HasFocus;
+  const int note_height = note_.isEmpty() ? 0 : QFontMetrics(font).height() + 2;
+  option.rect.adjust(kRingRoom, 0, 0, -note_height);
+  if (option.state & QStyle::State_HasFocus) {
+    QStyleOption around(option);
+    around.rect = style()->visualRect(layoutDirection(), rect(), ring);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &around, &painter, this);
+  }
   option.state &= ~QStyle::State_HasFocus;
   style()->drawControl(QStyle::CE_RadioButton, &option, &painter, this);
-  if (focus) {
-    QStyleOption ring(option);
-    ring.rect = rect();
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
-  }
+  if (note_.isEmpty()) return;
   painter.setFont(font);
   painter.setPen(isEnabled() ? theme::colour(theme::note)
                              : palette().color(QPalette::Disabled, QPalette::WindowText));
-  const QRect place(note_indent(), option.rect.bottom() + 1, width() - note_indent(), note_height);
+  const QRect place(note_indent(), option.rect.bottom(), width() - note_indent(), note_height);
   painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, note_);
 }
 

@@ -21,7 +21,6 @@ class KitWindow final : public Window {
     back.text = "go back";
     title.text = "Group";
     for (OptionControl& choice : mode) {
-      choice.tag = "Mode";
       choice.text = std::to_string(*choice.index());
       choice.container = &frame;
     }
@@ -144,7 +143,7 @@ TEST_F(BindingsTest, AChoiceReachesTheLogicAndARefusedOneLeavesTheScreen) {
   EXPECT_EQ(window->told, "mode2 mode3 ");
   EXPECT_TRUE(view->choices[1]->isChecked());
   EXPECT_FALSE(view->choices[2]->isChecked());
-  EXPECT_EQ(view->choices[1]->accessibleName(), "Mode" + to_qstring(texts.Wort(700_text)) + "2");
+  EXPECT_EQ(view->choices[1]->accessibleName(), "Group" + to_qstring(texts.Wort(700_text)) + "2");
   for (OptionControl& choice : window->mode) choice.value = false;
   window->say_changed();
   for (const Option* choice : view->choices) EXPECT_FALSE(choice->isChecked());
@@ -244,6 +243,9 @@ TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
   EXPECT_EQ(dialogs.current()->findChild<QPushButton*>("no")->text(), "Never");
   dialogs.current()->findChild<QPushButton*>("yes")->click();
   stroke(*dialogs.current(), Qt::Key_Escape);
+  EXPECT_FALSE(dialogs.current()->close());
+  ASSERT_NE(dialogs.current(), nullptr);
+  dialogs.current()->findChild<QPushButton*>("no")->click();
   EXPECT_EQ(dialogs.current(), nullptr);
   EXPECT_EQ(replies, "ok yes no ");
 }
