@@ -6,6 +6,8 @@
 
 #include <RtMidi.h>
 
+#include <filesystem>
+
 #include "base/runtime_error.h"
 #include "sound/devices/library_messages.h"
 #include "sound/devices/system_devices.h"
@@ -24,13 +26,12 @@ constexpr const char* kJackd = "/usr/bin/jackd";
 class JackServer {
  public:
   JackServer() {
-    const std::string name = "tonarix-test-" + std::to_string(getpid());
-    setenv("JACK_DEFAULT_SERVER", name.c_str(), 1);
+    setenv("JACK_DEFAULT_SERVER", name_.c_str(), 1);
     posix_spawn_file_actions_t quiet;
     posix_spawn_file_actions_init(&quiet);
     posix_spawn_file_actions_addopen(&quiet, 1, "/dev/null", 1, 0);
     posix_spawn_file_actions_addopen(&quiet, 2, "/dev/null", 1, 0);
-    std::string arguments[] = {"jackd", "-n", name,    "-r", "-d",
+    std::string arguments[] = {"jackd", "-n", name_,   "-r", "-d",
                                "dummy", "-r", "48000", "-p", "256"};
     std::vector<char*> argv;
     for (std::string& argument : arguments) argv.push_back(argument.data());
@@ -38,15 +39,23 @@ class JackServer {
     if (posix_spawn(&pid_, kJackd, &quiet, nullptr, argv.data(), environ) != 0) pid_ = -1;
     posix_spawn_file_actions_destroy(&quiet);
   }
-  ~JackServer() { kill_now(); }
-  void kill_now() {
+  ~JackServer() {
+    end();
+    // What clients leave behind that lost their server.
+    for (const auto& entry : std::filesystem::directory_iterator("/dev/shm")) {
+      if (entry.path().string().find(name_) != std::string::npos) remove(entry.path().c_str());
+    }
+  }
+  /// Asked to end, it gives its place among the servers free; its clients lose it all the same.
+  void end() {
     if (pid_ <= 0) return;
-    ::kill(pid_, SIGKILL);
+    ::kill(pid_, SIGTERM);
     waitpid(pid_, nullptr, 0);
     pid_ = -1;
   }
 
  private:
+  std::string name_ = "tonarix-test-" + std::to_string(getpid());
   pid_t pid_ = -1;
 };
 
@@ -57,12 +66,14 @@ class Receiver {
     const LibraryMessages quiet;
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     // The server takes a moment to answer; each attempt waits for it by itself.
-    while (external_api() != RtMidi::UNIX_JACK && std::chrono::steady_clock::now() < deadline) {
+    while (external_api() != RtMidi::UNIX_JACK) {
+      if (std::chrono::steady_clock::now() > deadline) return;
     }
     input_ = std::make_unique<RtMidiIn>(RtMidi::UNIX_JACK, "receiver");
     input_->setCallback(take, this);
     input_->openVirtualPort("keys");
   }
+  bool ready() const { return input_ != nullptr; }
   void close() { input_.reset(); }
   std::vector<Bytes> received;
 
@@ -82,6 +93,7 @@ TEST(ExternalDevice, ARowReachesTheMidiPortAndADeadServerIsAnErrorOnly) {
   JackServer server;
   MainThread main;
   Receiver receiver(main);
+  if (!receiver.ready()) GTEST_SKIP() << "jackd does not start on this machine";
   VirtualScheduler scheduler;
   SystemDevices devices(scheduler, main.poster());
   ASSERT_EQ(devices.list().size(), 2u);
@@ -109,7 +121,7 @@ TEST(ExternalDevice, ARowReachesTheMidiPortAndADeadServerIsAnErrorOnly) {
   midi.MidiNote(62, 0, 50, 2, 0);
   midi.MidiNote(62, 300, 50, 2, 0);
   control.action(MIDIOutput::Action::start_queue);
-  server.kill_now();
+  server.end();
   ASSERT_TRUE(main.run_until([&] { return ended == 2; }));
   receiver.close();
   EXPECT_THROW(midi.MidiReset(), RuntimeError);
