@@ -53,12 +53,12 @@ EarSettingsWindow::EarSettingsWindow(const SettingsContext& context, std::string
 
 void EarSettingsWindow::set_captions() {
   SettingsWindow::set_captions();
-  caption(ton_st_wahl, {1078_text, 1079_text});
-  caption(Tonart, {1067_text, 1068_text});
-  caption(grd_ton, {1069_text, 1070_text});
+  captions(ton_st_wahl, {1078_text, 1079_text});
+  captions(Tonart, {1067_text, 1068_text});
+  captions(grd_ton, {1069_text, 1070_text});
   for (OptionControl& option : invzahl) option.text = std::to_string(*option.index() + 1);
-  caption(frequenz, {1074_text, 1075_text});
-  caption(stimm_g, {546_text, 458_text, 401_text});
+  captions(frequenz, {1074_text, 1075_text});
+  captions(stimm_g, {546_text, 458_text, 401_text});
   klang_contr.text = word(1081_text);
   lb14[0].text = word(1084_text);
   HSliderVolume.accessible_name = word(1084_text);
@@ -136,7 +136,7 @@ void EarSettingsWindow::ton_st_wahl_click(std::int16_t index) {
 void EarSettingsWindow::fill_degrees() {
   const IntervalNames& names = context().interval_names;
   degree_list.clear();
-  degree_list.add(names.long_name(0) + "/" + word(433_text));
+  degree_list.add(names.long_name(0) + "/" + context().tables.stufe_kurz[1]);
   for (const std::int16_t entry : degree_entries(settings().tongeschl)) {
     degree_list.add(names.long_name(entry));
   }

@@ -69,7 +69,7 @@ Einstellung1::Einstellung1(const SettingsContext& context)
 
 void Einstellung1::set_captions() {
   EarSettingsWindow::set_captions();
-  caption(abfr_iv, {1076_text, 1077_text});
+  captions(abfr_iv, {1076_text, 1077_text});
   CmbTrans.accessible_name = word(1091_text);
   CmbTransIv.accessible_name = word(1092_text);
   title(kTonart, word(1058_text));

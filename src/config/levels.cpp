@@ -41,10 +41,10 @@ std::string short_key(char record, std::int16_t ueb_typ, SettingsKind kind) {
   return key;
 }
 
-std::array<std::string, 5> level_names(const Texts& texts, bool saved) {
-  return {texts.Wort(136_text), texts.Wort(564_text),
-          saved ? texts.Wort(565_text) : std::string(kNoSavedTraining), texts.Wort(550_text),
-          texts.Wort(438_text)};
+std::array<std::string, 5> level_names(const TextTables& tables, bool saved) {
+  std::array<std::string, 5> names = tables.levels;
+  if (!saved) names[level::continued] = kNoSavedTraining;
+  return names;
 }
 
 bool saved_training_offered(Server& server, std::int16_t ueb_typ, SettingsKind kind) {

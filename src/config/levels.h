@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "base/texts.h"
 #include "config/settings.h"
 #include "config/settings_tables.h"
 #include "host/server.h"
+#include "host/text_tables.h"
 
 namespace tonarix {
 
@@ -31,7 +31,7 @@ inline constexpr char kValidState[] = "true";
 std::string short_key(char record, std::int16_t ueb_typ, SettingsKind kind);
 
 /// The five entries of the level list; the third is the dashes unless `saved`.
-std::array<std::string, 5> level_names(const Texts& texts, bool saved);
+std::array<std::string, 5> level_names(const TextTables& tables, bool saved);
 
 /// True when both records of a training can be read and its state says that it is valid.
 bool saved_training_offered(Server& server, std::int16_t ueb_typ, SettingsKind kind);

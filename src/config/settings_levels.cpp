@@ -12,7 +12,7 @@ constexpr char kMessageTitle[] = "Tonarix 2000";
 
 void SettingsWindow::fill_levels(bool saved) {
   training_Combo.clear();
-  for (const std::string& name : level_names(context_.texts, saved)) training_Combo.add(name);
+  for (const std::string& name : level_names(context_.tables, saved)) training_Combo.add(name);
 }
 
 void SettingsWindow::training_finished() {
@@ -78,7 +78,7 @@ void SettingsWindow::restore_failed(std::exception_ptr error) {
   context_.errors.log("training_Combo_click.", error);
   Message message;
   message.title = kMessageTitle;
-  message.text = word(196_text) + " " + word(565_text);
+  message.text = word(196_text) + " " + context_.tables.levels[level::continued];
   message.style = MessageStyle::warning;
   context_.dialogs.show(message, [](Reply) {});
   training_Combo.selected = level::training;
@@ -134,7 +134,7 @@ void SettingsWindow::list_test() {
   TestListing::Head head;
   head.modul = context_.server.application().executable;
   head.type = exercise_caption();
-  head.description = Window::caption;
+  head.description = caption;
   context_.put_listing(TestListing::write(*this, head));
 }
 

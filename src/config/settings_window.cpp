@@ -9,7 +9,6 @@ namespace tonarix {
 
 namespace {
 
-constexpr TextKey kExerciseNames[] = {291_text, 292_text, 293_text, 715_text};
 constexpr TextKey kExerciseCaptions[] = {154_text, 160_text, 496_text, 690_text};
 constexpr TextKey kLowestTones[] = {681_text, 682_text, 683_text, 684_text};
 constexpr TextKey kHighestTones[] = {694_text, 695_text, 696_text, 697_text};
@@ -118,9 +117,8 @@ void SettingsWindow::slide(SliderControl& slider, int value) {
 }
 
 void SettingsWindow::start_up() {
-  const TextKey kind_of_study = settings().Theoriewahl == 1 ? 224_text : 221_text;
-  Window::caption =
-      word(kind_of_study) + word(700_text) + word(kExerciseNames[type_index(settings())]);
+  caption = context_.tables.theory_kind(settings().Theoriewahl) + word(700_text) +
+                    context_.tables.exercise_kind(settings().ueb_typ);
   set_captions();
   cmdOptionRead.visible = cmdOptionSave.visible = settings().supervisor;
   context_.statistics.init_arr(3.0F, 42.0F);
@@ -153,8 +151,8 @@ void SettingsWindow::set_captions() {
   cmdZurueck.text = word(640_text);
   cmdOk.text = word(432_text);
   popExamToggle.text = word(438_text);
-  caption(abfrage, {1065_text, 1066_text});
-  caption(tongeschl, {1062_text, 1063_text, 1064_text});
+  captions(abfrage, {1065_text, 1066_text});
+  captions(tongeschl, {1062_text, 1063_text, 1064_text});
   for (OptionControl& option : E_Oktav) {
     option.text = std::to_string(*option.index() + 2) + " " + word(1072_text);
   }

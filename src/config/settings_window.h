@@ -17,6 +17,7 @@
 #include "engine/records/records.h"
 #include "host/error_report.h"
 #include "host/server.h"
+#include "host/text_tables.h"
 #include "music/interval.h"
 #include "sound/midi.h"
 
@@ -39,6 +40,7 @@ struct SettingsContext {
   Settings& settings;
   Auswertung& statistics;
   Ergebnis& best;
+  const TextTables& tables;
   const IntervalNames& interval_names;
   std::function<void()> ProtokollNeu;  ///< begins the protocol document of the exercise
   /// Opens the exercise window for `ueb_typ`; an exception leads back to the selection.
@@ -117,7 +119,7 @@ class SettingsWindow : public Window {
     }
   }
   template <int First, int Last>
-  void caption(ControlArray<OptionControl, First, Last>& options,
+  void captions(ControlArray<OptionControl, First, Last>& options,
                std::initializer_list<TextKey> keys) {
     auto key = keys.begin();
     for (OptionControl& option : options) option.text = word(*key++);

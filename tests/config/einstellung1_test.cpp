@@ -1,0 +1,249 @@
+#include "config/einstellung1.h"
+
+#include <gmock/gmock.h>
+
+#include "config/settings_bed.h"
+
+namespace tonarix {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(Einstellung1, OpensWithItsDefaultsAndControlsThatShowThem) {
+  SettingsBed bed;
+  bed.settings.frequenz = 1;
+  bed.settings.stimm_g = 2;
+  bed.settings.tempo = 9;
+  Einstellung1& window = bed.open();
+  EXPECT_TRUE(window.started());
+  EXPECT_EQ(window.caption, "[221][700][291]");
+  EXPECT_EQ(bed.settings.tempo, 1);
+  EXPECT_EQ(window.temp_Combo.selected, 1);
+  EXPECT_TRUE(window.frequenz[1].value) << "no default: kept from the window before";
+  EXPECT_TRUE(window.stimm_g[0].value);
+  EXPECT_TRUE(window.grd_ton[1].value);
+  EXPECT_EQ(bed.settings.tonraum_min, 48);
+  EXPECT_EQ(bed.settings.tonraum_max, 72);
+  EXPECT_EQ(window.Combo_tonraum.selected_text(), "[682] [702] [695]");
+  EXPECT_EQ(window.geinst_lb[8].text, "[556] 2: [508](n)");
+  EXPECT_EQ(window.invzahl[1].text, "2");
+  EXPECT_EQ(bed.midi.midi_lautstaerke, 100);
+  EXPECT_EQ(window.lb14[1].text, "100");
+  EXPECT_EQ(bed.devices.program(1), 43);
+  EXPECT_EQ(bed.devices.program(7), 0);
+  EXPECT_FALSE(window.cmdOptionRead.visible);
+  for (const ListControl* list : {&window.temp_Combo, &window.Combo_tonraum, &window.patch_list,
+                                  &window.training_Combo, &window.prfnr_Comb}) {
+    for (const ListControl::Item& item : list->items) EXPECT_EQ(item.item_data, -999);
+  }
+}
+
+TEST(Einstellung1, WideIntervalsAndRangesHoldEachOther) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  for (int E_Oktav = 0; E_Oktav <= 3; ++E_Oktav) {
+    window.click(window.E_Oktav[E_Oktav]);
+    EXPECT_EQ(window.ivg[1].enabled, E_Oktav >= 2);
+    EXPECT_EQ(window.ivg[2].enabled, E_Oktav >= 2);
+    EXPECT_EQ(window.Combo_tonraum.items.size(), 4U - static_cast<unsigned>(E_Oktav));
+    EXPECT_EQ(window.Combo_tonraum.selected, E_Oktav < 3 ? 1 : 0);
+    EXPECT_EQ(bed.settings.tonraum_max - bed.settings.tonraum_min, 24 + 12 * E_Oktav);
+  }
+  window.click(window.ivg[2]);
+  window.click(window.E_Oktav[0]);
+  EXPECT_EQ(bed.settings.E_Oktav, 3) << "wide intervals hold the range";
+  window.click(window.ivg[0]);
+  window.click(window.E_Oktav[0]);
+  window.click(window.ivg[1]);
+  EXPECT_EQ(bed.settings.ivg, 0) << "a small range holds the intervals";
+}
+
+TEST(Einstellung1, TheStaffHasAnOctaveLess) {
+  SettingsBed bed(4);
+  Einstellung1& window = bed.open();
+  EXPECT_FALSE(window.E_Oktav[3].visible);
+  EXPECT_FALSE(window.grdeinst[6].visible);
+  window.click(window.E_Oktav[2]);
+  EXPECT_EQ(window.Combo_tonraum.items.size(), 1U);
+  EXPECT_EQ(window.Combo_tonraum.selected, 0);
+  EXPECT_FALSE(window.CmbTransIv.visible);
+  window.choose(window.CmbTrans, 2);
+  EXPECT_TRUE(window.CmbTransIv.visible);
+  EXPECT_EQ(window.CmbTransIv.items.size(), 22U);
+  EXPECT_EQ(window.CmbTransIv.items[11].text, "-[358]");
+  EXPECT_EQ(window.CmbTransIv.items[11].item_data, 11);
+  window.choose(window.CmbTrans, 0);
+  EXPECT_FALSE(window.CmbTransIv.visible);
+}
+
+TEST(Einstellung1, AChosenDegreeGoesWithOneIntervalAndItsMode) {
+  const std::size_t entries[] = {7, 9, 11};
+  for (int mode = 0; mode <= 2; ++mode) {
+    SettingsBed bed;
+    Einstellung1& window = bed.open();
+    window.click(window.tongeschl[mode]);
+    window.click(window.ton_st_wahl[1]);
+    EXPECT_TRUE(window.degree_list.visible);
+    EXPECT_EQ(window.degree_list.items.size(), entries[mode]);
+    EXPECT_EQ(window.degree_list.items[0].text, "[450]/[433]");
+    EXPECT_EQ(window.degree_list.selected, 0);
+    for (int more = 2; more <= 4; ++more) EXPECT_FALSE(window.invzahl[more].enabled);
+    for (int other = 0; other <= 2; ++other) {
+      EXPECT_EQ(window.tongeschl[other].enabled, other == mode);
+    }
+    window.choose(window.degree_list, 3);
+    EXPECT_EQ(bed.settings.stufe_wahl, 3);
+    window.click(window.ton_st_wahl[0]);
+    EXPECT_FALSE(window.degree_list.visible);
+    window.click(window.invzahl[4]);
+    EXPECT_EQ(bed.settings.invzahl, 4);
+    EXPECT_FALSE(window.ton_st_wahl[1].enabled);
+    window.click(window.tongeschl[(mode + 1) % 3]);
+    window.click(window.ton_st_wahl[1]);
+    EXPECT_EQ(bed.settings.ton_st_wahl, 0);
+    window.click(window.invzahl[1]);
+    EXPECT_TRUE(window.ton_st_wahl[1].enabled);
+  }
+}
+
+TEST(Einstellung1, InstrumentsFollowTheVoice) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  window.click(window.grd_ton[0]);
+  EXPECT_EQ(window.Channel_Combo.items.size(), 2U);
+  EXPECT_EQ(bed.settings.kanal, 1);
+  EXPECT_EQ(window.patch_list.selected, 43);
+  window.choose(window.patch_list, 19);
+  EXPECT_EQ(bed.devices.program(1), 19);
+  EXPECT_EQ(bed.devices.program(2), 0);
+  window.choose(window.Channel_Combo, 0);
+  window.choose(window.patch_list, 73);
+  EXPECT_EQ(bed.settings.patch_ar, (std::array<std::int16_t, 8>{73, 19, 73, 73, 73, 73, 73, 73}));
+  window.click(window.grd_ton[1]);
+  EXPECT_EQ(bed.settings.kanal, 0);
+  window.slide(window.HSliderVolume, 300);
+  EXPECT_EQ(bed.midi.midi_lautstaerke, 127);
+  EXPECT_EQ(window.lb14[1].text, "127");
+}
+
+TEST(Einstellung1, AcceptsAndOpensTheExercise) {
+  SettingsBed bed;
+  bed.texts.given[1074] = "fest (a'440 Hz)";
+  Einstellung1& window = bed.open();
+  window.click(window.cmdOk);
+  EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
+  EXPECT_FALSE(window.visible);
+  EXPECT_TRUE(bed.settings.EinstSicherung.empty()) << "kept at level 1 alone";
+  EXPECT_THAT(bed.settings.EinstDatSave,
+              ElementsAre("30", "Übungsmodus", "[136]", "Klangfarbe", "Acoustic Grand Piano",
+                          "Tempo", "40 (Largo)", "Frequenz", "fest (a1440 Hz)", "Abfolge", "[1065]",
+                          "Iv-Anzahl", "2", "Iv-Größe", "[1071]", "Tonraum", "2 [1072]",
+                          "Oktavbereich", "[682] [702] [695]", "Stimmung", "[546]", "Grdton zus.",
+                          "[1070]", "Tongeschlecht", "[1062]", "Tonart", "[1067]", "Iv-Bestimmung",
+                          "[1076]", "Stufen", "[1078]"));
+}
+
+TEST(Einstellung1, GoesBackWhenTheExerciseCannotOpen) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  bed.exercise_fails = true;
+  window.click(window.cmdOk);
+  bed.scheduler.settle();
+  EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.cmdOK_click."));
+  EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+  EXPECT_THAT(bed.steps, ElementsAre("protocol", "selection"));
+  EXPECT_EQ(bed.windows.count(), 0);
+}
+
+TEST(Einstellung1, GoesBackWhenItCannotStart) {
+  SettingsBed bed(7);
+  bed.open();
+  bed.scheduler.settle();
+  EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.start_timer."));
+  EXPECT_THAT(bed.steps, ElementsAre("selection"));
+  EXPECT_EQ(bed.windows.count(), 0);
+}
+
+TEST(SoundCheck, PlaysTheRangeAndOpensTheButtonsAgain) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  window.click(window.grd_ton[0]);
+  window.click(window.invzahl[4]);
+  window.choose(window.temp_Combo, 9);
+  window.click(window.klang_contr);
+  EXPECT_FALSE(window.klang_contr.enabled);
+  EXPECT_FALSE(window.cmdOk.enabled);
+  bed.scheduler.advance_ms(160);
+  ASSERT_EQ(bed.devices.count(RecordingDevices::Kind::queue_started), 1);
+  const double started = 150;
+  bed.scheduler.advance_ms(1760);
+  EXPECT_FALSE(window.cmdOk.enabled);
+  bed.scheduler.advance_ms(120);
+  EXPECT_TRUE(window.cmdOk.enabled);
+  EXPECT_TRUE(window.klang_contr.enabled);
+  std::vector<RecordingDevices::Note> tones;
+  for (const RecordingDevices::Note& note : bed.devices.notes()) {
+    if (note.channel == 0) tones.push_back(note);
+    if (note.channel == 1) {
+      EXPECT_EQ(note.note, 36);
+      EXPECT_EQ(note.velocity, 50);
+    }
+  }
+  ASSERT_EQ(tones.size(), 6U);
+  for (std::size_t i = 0; i < tones.size(); ++i) {
+    EXPECT_EQ(tones[i].note, 48 + 4 * static_cast<int>(i));
+    EXPECT_NEAR(tones[i].at_ms, started + 300.0 * static_cast<double>(i), 1.0);
+  }
+}
+
+TEST(SoundCheck, LeavingStopsIt) {
+  for (const double wait_ms : {10.0, 60.0, 120.0, 400.0}) {
+    SettingsBed bed;
+    Einstellung1& window = bed.open();
+    window.click(window.klang_contr);
+    bed.scheduler.advance_ms(wait_ms);
+    window.title_bar_close();
+    const std::size_t heard = bed.devices.notes().size();
+    bed.scheduler.advance_ms(5000);
+    EXPECT_EQ(bed.devices.notes().size(), heard);
+    EXPECT_EQ(bed.windows.count(), 0);
+    EXPECT_EQ(bed.midi.MidiOut, nullptr);
+  }
+}
+
+TEST(SoundCheck, AFailingDeviceIsToldAndTheButtonsOpenAgain) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  bed.devices.refuses = true;
+  window.click(window.klang_contr);
+  EXPECT_TRUE(window.klang_contr.enabled);
+  EXPECT_TRUE(window.cmdOk.enabled);
+  ASSERT_EQ(bed.dialogs.shown.size(), 1U);
+  EXPECT_THAT(bed.dialogs.shown[0].text, HasSubstr("The MIDI device is gone"));
+  EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.klang_contr_click."));
+}
+
+TEST(SoundCheck, WithoutAnyDeviceTheWindowStartsAllTheSame) {
+  SettingsBed bed;
+  bed.devices.refuses = true;
+  Einstellung1& window = bed.open();
+  EXPECT_TRUE(window.started());
+  EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+  window.choose(window.patch_list, 5);
+  window.click(window.cmdOk);
+  EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
+}
+
+TEST(SoundCheck, TheEndOfAnotherWindowsQueueIsPassedOn) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  bed.windows.open(std::make_unique<Einstellung1>(bed.context()));
+  int passed_on = 0;
+  bed.midi_event.QueueEmpty = [&] { ++passed_on; };
+  window.MIDI.on_queue_empty();
+  EXPECT_EQ(passed_on, 1);
+}
+
+}  // namespace
+}  // namespace tonarix

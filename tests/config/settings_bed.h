@@ -1,0 +1,92 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "config/einstellung1.h"
+#include "support/fake_dialogs.h"
+#include "support/fake_host.h"
+#include "support/key_texts.h"
+#include "support/recording_midi.h"
+#include "support/virtual_scheduler.h"
+
+namespace tonarix {
+
+/// One settings window with all that it needs, on virtual time.
+struct SettingsBed {
+  explicit SettingsBed(std::int16_t ueb_typ = 1) {
+    server.ServerInit("vemo06");
+    tables.load(texts);
+    settings.ueb_typ = ueb_typ;
+    settings.tempo_ms = tempo_beats();
+  }
+
+  /// Opens the window and lets it start.
+  Einstellung1& open() {
+    window = &windows.open(std::make_unique<Einstellung1>(context()));
+    scheduler.settle();
+    return *window;
+  }
+  void store(const std::string& key, const std::vector<std::string>& record) {
+    records["vemo06/" + key] = Variant::strings(record);
+  }
+  /// A saved training of one box row with the given settings.
+  void store_training(const std::vector<std::string>& settings_record) {
+    store("E1", settings_record);
+    store("A1", {"true", "1", "4", "1", "2", "-16", "0", "3", "5"});
+  }
+  void choose_level(int which) { window->choose(window->training_Combo, which); }
+
+  SettingsContext context() {
+    return {.scheduler = scheduler,
+            .windows = windows,
+            .texts = texts,
+            .server = server,
+            .errors = errors,
+            .dialogs = dialogs,
+            .midi = midi,
+            .devices = devices,
+            .midi_event = midi_event,
+            .settings = settings,
+            .statistics = statistics,
+            .best = best,
+            .tables = tables,
+            .interval_names = interval_names,
+            .ProtokollNeu = [this] { steps.push_back("protocol"); },
+            .open_exercise =
+                [this](SettingsWindow&) {
+                  if (exercise_fails) throw std::runtime_error("no exercise");
+                  steps.push_back("exercise");
+                },
+            .show_selection = [this] { steps.push_back("selection"); },
+            .send_keys = [this](const std::string& keys) { steps.push_back(keys); },
+            .put_listing = [this](const std::string& document) { listing = document; },
+            .check_saved_state = check_saved_state};
+  }
+
+  VirtualScheduler scheduler;
+  FakeHost host;
+  std::map<std::string, Variant>& records = host.records;
+  Server server{host.factory(), {"vemo06", "vemo06"}};
+  KeyTexts texts;
+  RecordingDialogs dialogs{scheduler};
+  ErrorReport errors{server, texts, dialogs};
+  Midi midi;
+  RecordingDevices devices{scheduler};
+  MidiEvent midi_event;
+  Settings settings;
+  Auswertung statistics;
+  Ergebnis best;
+  TextTables tables;
+  IntervalNames interval_names{texts};
+  std::function<void(const Settings&)> check_saved_state;
+  std::vector<std::string> steps;
+  std::string listing;
+  bool exercise_fails = false;
+  Einstellung1* window = nullptr;
+  WindowList windows{scheduler};
+};
+
+}  // namespace tonarix

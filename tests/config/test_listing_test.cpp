@@ -1,0 +1,107 @@
+#include "config/test_listing.h"
+
+#include <gmock/gmock.h>
+
+#include <pugixml.hpp>
+
+#include "config/settings_bed.h"
+
+namespace tonarix {
+namespace {
+
+using testing::StartsWith;
+
+void mark(Einstellung1& window, int frame) {
+  window.frame_menu(frame);
+  window.click(window.popExamToggle);
+}
+
+pugi::xml_document listing(SettingsBed& bed) {
+  bed.window->click(bed.window->cmdOptionSave);
+  pugi::xml_document document;
+  const auto result = document.load_buffer(bed.listing.data(), bed.listing.size());
+  EXPECT_TRUE(result) << result.description() << bed.listing;
+  return document;
+}
+
+TEST(TestListing, MarksGoOnAndOffForSupervisorsAlone) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  mark(window, 5);
+  EXPECT_TRUE(window.grdeinst[5].tag.empty());
+  bed.settings.supervisor = true;
+  mark(window, 5);
+  EXPECT_EQ(window.grdeinst[5].tag, "Prüfung");
+  EXPECT_EQ(window.grdeinst[5].back, signal::marked);
+  window.frame_menu(5);
+  EXPECT_TRUE(window.popExamToggle.value);
+  window.click(window.popExamToggle);
+  EXPECT_TRUE(window.grdeinst[5].tag.empty());
+  EXPECT_EQ(window.grdeinst[5].back, signal::open);
+  EXPECT_FALSE(window.popPruefung.visible);
+}
+
+TEST(TestListing, ListsMarkedGroupsWellFormed) {
+  SettingsBed bed;
+  bed.settings.supervisor = true;
+  bed.texts.given[1063] = "moll <\"&'> größer \x01";
+  Einstellung1& window = bed.open();
+  EXPECT_FALSE(listing(bed).child("test").child("setting").first_child());
+  EXPECT_THAT(bed.listing, StartsWith("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n<test>"));
+
+  mark(window, 5);
+  mark(window, 3);
+  mark(window, 1);
+  mark(window, 10);
+  window.click(window.tongeschl[1]);
+  const auto document = listing(bed);
+  EXPECT_STREQ(document.child("test").child("basic").child("modul").text().get(), "vemo06");
+  std::map<std::string, int> found;
+  for (const auto& control : document.child("test").child("setting").children("control")) {
+    const std::string name = control.child("cname").text().get();
+    ++found[name];
+    const auto value = control.child("value");
+    if (name == "tongeschl") {
+      EXPECT_STREQ(control.attribute("title").value(), "Tongeschlecht");
+      EXPECT_STREQ(value.attribute("True").value(), "moll <\"&'> größer  ");
+      EXPECT_EQ(value.text().as_int(-1), 1);
+      EXPECT_EQ(control.child("index").text().as_int(-1), found[name] - 1);
+    }
+    if (name == "Combo_tonraum") {
+      EXPECT_FALSE(control.child("index"));
+      EXPECT_STREQ(value.attribute("text").value(), "[682] [702] [695]");
+      EXPECT_EQ(value.text().as_int(-1), 1);
+    }
+  }
+  EXPECT_EQ(found, (std::map<std::string, int>{
+                       {"tongeschl", 3}, {"ivg", 3}, {"E_Oktav", 4}, {"Combo_tonraum", 1}}));
+}
+
+TEST(TestListing, TheFixedValuesMeetNoGroupOfThisWindow) {
+  SettingsBed bed;
+  bed.settings.supervisor = true;
+  Einstellung1& window = bed.open();
+  const auto before = build_EinstSicherung(bed.settings, SettingsKind::einstellung1);
+  window.click(window.cmdOptionRead);
+  EXPECT_EQ(build_EinstSicherung(bed.settings, SettingsKind::einstellung1), before);
+  for (const Control& frame : window.grdeinst) EXPECT_TRUE(frame.enabled);
+}
+
+TEST(TestListing, ReadsValuesThatMeetAGroup) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  std::vector<std::string> set;
+  TestListing::Target target;
+  target.set_option = [&](OptionControl& option) { set.push_back(option.object_name()); };
+  target.set_list = [&](ListControl& list, int entry) {
+    set.push_back(list.name() + "=" + std::to_string(entry));
+  };
+  TestListing::read(window, {{"Tonart", 1}, {"Tempo", 4}, {"Tonraum", 9}, {"Ambitus", 2}}, target);
+  EXPECT_THAT(set, testing::UnorderedElementsAre("Tonart_1", "temp_Combo=4"));
+  EXPECT_EQ(window.grdeinst[0].back, RGB(255, 128, 128));
+  EXPECT_FALSE(window.grdeinst[0].enabled);
+  EXPECT_TRUE(window.grdeinst[5].enabled);
+}
+
+}  // namespace
+}  // namespace tonarix
