@@ -20,7 +20,7 @@ std::filesystem::path make_folder(const std::filesystem::path& folder, std::erro
 LocalHostHome::LocalHostHome(LocalHostOptions options, const WallClock& clock)
     : options_(std::move(options)),
       log_(make_folder(options_.folder, folder_error_) / "host.log", clock),
-      store_(options_.folder / "host.sqlite", file_stamp(clock.now())) {
+      store_(options_.folder / "host.sqlite", file_stamp(clock.now()), options_.patience_ms) {
   find_problems();
 }
 

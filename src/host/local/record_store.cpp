@@ -1,13 +1,12 @@
 #include "host/local/record_store.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
 namespace tonarix {
 
 namespace {
-
-constexpr int kBusyMs = 1000;  // patience with a second program that writes at the same moment
 
 // The full synchronisation makes a record outlive the machine's failure, not only the program's.
 constexpr const char* kSchema =
@@ -45,7 +44,9 @@ void RecordStore::Close::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
 }
 
-RecordStore::RecordStore(const std::filesystem::path& file, const std::string& file_stamp) {
+RecordStore::RecordStore(const std::filesystem::path& file, const std::string& file_stamp,
+                         int patience_ms)
+    : patience_ms_(patience_ms) {
   int code = open(file);
   if (is_damage(code)) {
     database_.reset();
@@ -65,12 +66,13 @@ int RecordStore::open(const std::filesystem::path& file) {
       sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   database_.reset(opened);
   if (code == SQLITE_OK) {
-    sqlite3_busy_timeout(opened, kBusyMs);
+    sqlite3_busy_timeout(opened, patience_ms_);
     code = check_damage();
   }
   if (code == SQLITE_OK) code = run(kSchema);
   // Beside the file a write needs room for its journal.
-  const bool closed = ::access(file.parent_path().c_str(), W_OK | X_OK) != 0;
+  const bool closed =
+      ::faccessat(AT_FDCWD, file.parent_path().c_str(), W_OK | X_OK, AT_EACCESS) != 0;
   if (code == SQLITE_OK && (closed || sqlite3_db_readonly(opened, "main") == 1)) {
     reason_ = sqlite3_errstr(SQLITE_READONLY);
     return SQLITE_READONLY;

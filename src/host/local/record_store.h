@@ -23,8 +23,9 @@ class RecordStore {
     memory_in_use,      ///< another program holds the file
   };
 
-  /// `file_stamp` goes into the name of a damaged file that is put aside.
-  RecordStore(const std::filesystem::path& file, const std::string& file_stamp);
+  /// `file_stamp` goes into the name of a damaged file that is put aside; `patience_ms` is how long
+  /// a call waits for another program that writes.
+  RecordStore(const std::filesystem::path& file, const std::string& file_stamp, int patience_ms);
 
   Place place() const { return place_; }
   /// The damaged file's new name, where there is one.
@@ -57,6 +58,7 @@ class RecordStore {
                     const std::string& key);
   RuntimeError failure() const;
 
+  int patience_ms_;
   Database database_;
   Place place_ = Place::file;
   std::filesystem::path put_aside_;
