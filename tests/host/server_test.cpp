@@ -173,6 +173,7 @@ TEST_F(ServerTest, TheEndUnloadsAllWindowsButTheFirstAndLetsTheHostGo) {
   }
   server.ServerInit("vemo06");
   server.ServerMenue(windows);
+  windows.on_unloaded = {};
   EXPECT_THAT(unloaded, ElementsAre(opened[2], opened[1]));
   EXPECT_EQ(host.calls.back().key, "MENUE");
   EXPECT_EQ(host.living, 0);
