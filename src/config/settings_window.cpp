@@ -118,7 +118,7 @@ void SettingsWindow::slide(SliderControl& slider, int value) {
 
 void SettingsWindow::start_up() {
   caption = context_.tables.theory_kind(settings().Theoriewahl) + word(700_text) +
-                    context_.tables.exercise_kind(settings().ueb_typ);
+            context_.tables.exercise_kind(settings().ueb_typ);
   set_captions();
   cmdOptionRead.visible = cmdOptionSave.visible = settings().supervisor;
   context_.statistics.init_arr(3.0F, 42.0F);

@@ -120,7 +120,7 @@ class SettingsWindow : public Window {
   }
   template <int First, int Last>
   void captions(ControlArray<OptionControl, First, Last>& options,
-               std::initializer_list<TextKey> keys) {
+                std::initializer_list<TextKey> keys) {
     auto key = keys.begin();
     for (OptionControl& option : options) option.text = word(*key++);
   }

@@ -28,7 +28,7 @@ void Einstellung1View::add_material() {
   // Intervals are named only where they are asked for; rows are transposed only where they are
   // written. So the two share one place.
   choices(*frame(6, 2, 0), window_.abfr_iv);
-  transposition_ = group_card(word(1091_text), 2, 0);
+  transposition_ = group_card(word(345_text), 2, 0);
   transposition_->body().addWidget(entries(window_.CmbTrans));
   transposition_->body().addWidget(entries(window_.CmbTransIv, {.keep_place = true}));
   Card* degrees = frame(8, 2, 1);

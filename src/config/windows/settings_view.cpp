@@ -3,22 +3,25 @@
 #include <QButtonGroup>
 #include <QCursor>
 #include <QMenu>
+#include <algorithm>
 
 namespace tonarix {
+namespace {
+
+constexpr int kGap = 10;          // between frames
+constexpr int kFrameWidth = 232;  // at least, where there is room for four
+
+}  // namespace
 
 SettingsView::SettingsView(SettingsWindow& window, const Texts& texts)
     : WindowView(window, texts), settings_window_(window), grid_(new QGridLayout(&content())) {
   grid_->setContentsMargins(theme::edge, theme::between, theme::edge, theme::inside);
-  grid_->setSpacing(10);
-  for (int column = 0; column < 4; ++column) {
-    grid_->setColumnStretch(column, 1);
-    grid_->setColumnMinimumWidth(column, 232);
-  }
+  grid_->setSpacing(kGap);
 }
 
 Card* SettingsView::frame(int index, int row, int column, int columns) {
   Card* made = card(&settings_window_.grdeinst[index], &settings_window_.geinst_lb[index]);
-  grid_->addWidget(made, row, column, 1, columns);
+  put(made, row, column, columns);
   made->setContextMenuPolicy(Qt::CustomContextMenu);
   QObject::connect(made, &QWidget::customContextMenuRequested, this, [this, index] {
     if (bindings().live()) settings_window_.frame_menu(index);
@@ -30,8 +33,59 @@ Card* SettingsView::group_card(const QString& title, int row, int column, int co
   Card* made = card(nullptr, nullptr);
   made->title().setText(title);
   made->setAccessibleName(title);
-  grid_->addWidget(made, row, column, 1, columns);
+  put(made, row, column, columns);
   return made;
+}
+
+void SettingsView::put(Card* card, int row, int column, int columns) {
+  places_.push_back({card, row, column, columns});
+  grid_->addWidget(card, row, column, 1, columns);
+  for (int each = column; each < column + columns; ++each) {
+    grid_->setColumnStretch(each, 1);
+    grid_->setColumnMinimumWidth(each, kFrameWidth);
+  }
+}
+
+int SettingsView::width_of(int columns) const {
+  int frame_width = columns == 4 ? kFrameWidth : 0;
+  for (const Place& place : places_) {
+    const int least = place.card->minimumSizeHint().width();
+    const int spanned = std::min(place.columns, columns);
+    frame_width = std::max(frame_width, (least - (spanned - 1) * kGap) / spanned);
+  }
+  return columns * frame_width + (columns - 1) * kGap + 2 * theme::edge;
+}
+
+void SettingsView::arrange(int columns) {
+  if (columns == columns_) return;
+  columns_ = columns;
+  int row = 0;
+  int column = 0;
+  const Place* before = nullptr;
+  for (const Place& place : places_) {
+    grid_->removeWidget(place.card);
+    const int span = std::min(place.columns, columns);
+    // Two frames that take turns share their place.
+    const bool shared = before && before->row == place.row && before->column == place.column;
+    if (shared) column -= span;
+    if (column + span > columns) {
+      ++row;
+      column = 0;
+    }
+    grid_->addWidget(place.card, row, column, 1, span);
+    column += span;
+    before = &place;
+  }
+  for (int each = 0; each < 4; ++each) {
+    grid_->setColumnStretch(each, each < columns ? 1 : 0);
+    grid_->setColumnMinimumWidth(each, columns == 4 ? kFrameWidth : 0);
+  }
+}
+
+void SettingsView::resizeEvent(QResizeEvent* event) {
+  WindowView::resizeEvent(event);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  arrange(width() >= width_of(4) ? 4 : width() >= width_of(2) + bar ? 2 : 1);
 }
 
 ListBox* SettingsView::entries(ListControl& control, Binding look) {

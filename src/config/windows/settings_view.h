@@ -9,8 +9,8 @@ class QMenu;
 
 namespace tonarix {
 
-/// What the settings windows share on the screen: four columns of frames, the line of buttons, and
-/// the supervisor's menu on a frame.
+/// What the settings windows share on the screen: frames in four columns, or in two or one where
+/// the screen is narrow, the line of buttons, and the supervisor's menu on a frame.
 class SettingsView : public WindowView {
  protected:
   SettingsView(SettingsWindow& window, const Texts& texts);
@@ -38,12 +38,22 @@ class SettingsView : public WindowView {
   /// Help, the supervisor's two, back, OK; a notice between them where there is one.
   void add_buttons(const Control* notice = nullptr);
   void applied() override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  struct Place {
+    Card* card;
+    int row, column, columns;  ///< among four columns
+  };
+  void put(Card* card, int row, int column, int columns);
+  void arrange(int columns);
+  int width_of(int columns) const;
   void open_menu();
 
   SettingsWindow& settings_window_;
   QGridLayout* grid_;
+  std::vector<Place> places_;
+  int columns_ = 4;
   QMenu* menu_ = nullptr;
 };
 
