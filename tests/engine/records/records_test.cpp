@@ -38,10 +38,8 @@ TEST(Auswertung, BestValueMovesToTheSecondColumn) {
   statistics.SaveBest(1, 2.0F);
   EXPECT_EQ(cell(statistics, 1, 0.0F), 0.0F) << "nothing above zero enters";
   // value given, then columns 0 and 1 afterwards
-  const float steps[][3] = {{-8.0F, 0.0F, -8.0F},
-                            {-4.0F, -4.0F, -8.0F},
-                            {-16.0F, -8.0F, -16.0F},
-                            {-2.0F, -8.0F, -16.0F}};
+  const float steps[][3] = {
+      {-8.0F, 0.0F, -8.0F}, {-4.0F, -4.0F, -8.0F}, {-16.0F, -8.0F, -16.0F}, {-2.0F, -8.0F, -16.0F}};
   for (const auto& step : steps) {
     statistics.SaveBest(1, step[0]);
     EXPECT_EQ(cell(statistics, 1, 0.0F), step[1]);
