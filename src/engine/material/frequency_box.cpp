@@ -1,0 +1,193 @@
+#include "engine/material/frequency_box.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "base/arithmetic.h"
+
+namespace tonarix {
+namespace {
+
+constexpr float kAnsweredRightAtOnce = -4;
+
+// A full box holds the weights of an ordinary training many times over, so that refilling the
+// drawing list after a task does not allocate.
+constexpr std::size_t kUsualListLength = 1024;
+
+}  // namespace
+
+FrequencyBox::FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics,
+                           Chance& chance)
+    : settings_(settings), key_(key), statistics_(statistics), chance_(chance) {
+  matbox.reserve(kUsualListLength);
+}
+
+std::int16_t FrequencyBox::start_gewicht_of(int box_zeilen) {
+  return to_int16(box_zeilen * 4 < 30 ? 30 / box_zeilen : 4);
+}
+
+void FrequencyBox::BoxAufbau(const TestTiming& timing) {
+  begin_task();
+  matbox.assign(1, 0);
+  matboxmax = matbox_vorn = matbox_pos = 0;
+  box_zeilen = 0;
+  if (settings_.Uebungsmodus == 0) return;
+  const IntervalList offered = offered_intervals(settings_, key_);
+  for (const std::int16_t value : offered) mathaeufgk_box[++box_zeilen].value = value;
+  start_gewicht = start_gewicht_of(box_zeilen);
+  if (training()) build_training();
+  if (test()) build_test(timing);
+}
+
+void FrequencyBox::build_training() {
+  for (BoxRow& row : rows()) {
+    row.weight = start_gewicht;
+    statistics_.Increment(row_of(row.value), 3);
+  }
+  matboxmax = to_int16(box_zeilen * start_gewicht);
+  MatboxFuellen(0);
+  box_summe = matboxmax;
+  shown_percentage_ = static_cast<int>(percentage());
+}
+
+void FrequencyBox::restore(const std::vector<BoxRow>& saved) {
+  box_zeilen = to_int16(static_cast<std::int64_t>(saved.size()));
+  start_gewicht = start_gewicht_of(box_zeilen);
+  std::copy(saved.begin(), saved.end(), rows().begin());
+  MatboxRechnen();
+  shown_percentage_ = static_cast<int>(percentage());
+}
+
+void FrequencyBox::begin_task() {
+  rf.fill(0);
+  zeit_gewicht.fill(0);
+  wdh_gewicht.fill(0);
+  f_antw_wert = {};
+  taken_count_ = 0;
+}
+
+void FrequencyBox::MatboxRechnen() {
+  // The exchange order of equal weights is part of the drawing list, so no other sort will do.
+  for (int i = 1; i < box_zeilen; ++i) {
+    for (int j = i + 1; j <= box_zeilen; ++j) {
+      if (mathaeufgk_box[j].weight > mathaeufgk_box[i].weight) {
+        std::swap(mathaeufgk_box[i], mathaeufgk_box[j]);
+      }
+    }
+  }
+  int sum = 0;
+  for (const BoxRow& row : rows()) {
+    if (row.weight <= 0) break;
+    sum += row.weight;
+  }
+  box_summe = to_int16(sum);
+  if (box_summe <= 0 || box_summe >= box_zeilen * 8 - 1) return;
+
+  const int smallest = mathaeufgk_box[box_zeilen].weight;
+  const int add_wert = smallest >= 1 ? 0 : std::abs(smallest) + 1;
+  int entries = 0;
+  for (const BoxRow& row : rows()) entries += row.weight + add_wert;
+  matboxmax = to_int16(entries);
+  MatboxFuellen(add_wert);
+}
+
+void FrequencyBox::MatboxFuellen(int add_wert) {
+  matbox.assign(1, 0);
+  int front = 0;
+  for (const BoxRow& row : rows()) {
+    const int entries = row.weight + add_wert;
+    if (entries < 1) continue;
+    matbox.insert(matbox.end(), static_cast<std::size_t>(entries), row.value);
+    if (row.weight > 0) front += entries;
+  }
+  matbox_vorn = to_int16(front);
+}
+
+BoxOutcome FrequencyBox::BoxAuswerten(const TaskRow& row, int anzahl) {
+  for (auto i = static_cast<std::size_t>(settings_.ton_st_wahl);
+       i < static_cast<std::size_t>(anzahl); ++i) {
+    settle_result(i);
+    if (rf[i] != 0 && training()) add_weight(row.iv[i], rf[i]);
+    if (rf[i] < 0) rf[i] *= 2;
+    StatEintrag(row_of(row.iv[i]), i);
+    if (rf[i] > 0) count_confusions(i);
+  }
+  if (!training()) return {1, 0};
+  MatboxRechnen();
+  return standing();
+}
+
+// A right first answer is a reward that repeats and lateness use up, but never turn into a fine.
+void FrequencyBox::settle_result(std::size_t i) {
+  if (rf[i] < 0) {
+    rf[i] = std::min(wdh_gewicht[i] + rf[i] + zeit_gewicht[i], 0.0F);
+  } else if (rf[i] > 0) {
+    rf[i] = std::min(wdh_gewicht[i] + rf[i], static_cast<float>(RF));
+  }
+}
+
+void FrequencyBox::StatEintrag(std::int16_t row, std::size_t i) {
+  const float value = rf[i] - 8.0F;
+  if (training()) {
+    statistics_.Increment(row, 0);
+    statistics_.Add(row, value);
+  } else {
+    statistics_.SaveBest(row, value);
+  }
+}
+
+// What was taken for the interval asked was confused with it, so it is asked more often too.
+void FrequencyBox::count_confusions(std::size_t i) {
+  for (int k = 1; k <= kWrongAnswers && f_antw_wert[i][static_cast<std::size_t>(k)] != 0; ++k) {
+    const std::int16_t value = f_antw_wert[i][static_cast<std::size_t>(k)];
+    statistics_.Increment(row_of(value), 2);
+    if (training()) add_weight(value, 1);
+  }
+}
+
+void FrequencyBox::add_weight(std::int16_t value, float amount) {
+  for (BoxRow& row : rows()) {
+    if (row.value != value) continue;
+    row.weight = to_int16(static_cast<std::int64_t>(static_cast<float>(row.weight) + amount));
+    return;
+  }
+}
+
+BoxOutcome FrequencyBox::standing() {
+  BoxOutcome outcome{1, 0};
+  if (box_summe < 1) {
+    box_summe = 0;
+    outcome = {4, 1};
+  } else if (box_summe > ceiling() - 1) {
+    box_summe = to_int16(ceiling());
+    outcome = {4, 2};
+  }
+  shown_percentage_ = static_cast<int>(percentage());
+  return outcome;
+}
+
+double FrequencyBox::percentage() const {
+  return ceiling() == 0 ? 0 : 100.0 * box_summe / ceiling();
+}
+
+int FrequencyBox::draw_interval(const StatisticRowSet& wanted, int tries) {
+  if (test()) return draw_test_place(wanted, tries);
+  for (int failed = 0; failed < tries; ++failed) {
+    draw_training_place();
+    if (wanted[static_cast<std::size_t>(row_of(drawn()))] != 0) return failed;
+  }
+  return tries;
+}
+
+// The nearer the training comes to its end, the more of the draws go to what is still unsolved.
+void FrequencyBox::draw_training_place() {
+  constexpr int kStartPercentage = 50;
+  constexpr int kNearTheEnd = 30;
+  const int p = kStartPercentage - shown_percentage_;
+  int last = matboxmax;
+  if (p > kNearTheEnd && draw(chance_, 100) <= 2 * p - 20) last = matbox_vorn;
+  matbox_pos = to_int16(draw(chance_, last) + 1);
+}
+
+}  // namespace tonarix

@@ -1,0 +1,147 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "base/chance.h"
+#include "config/settings.h"
+#include "engine/material/offered_intervals.h"
+#include "engine/records/records.h"
+#include "music/key.h"
+
+namespace tonarix {
+
+/// One row of the box.
+struct BoxRow {
+  std::int16_t value = 0;   ///< signed interval value
+  std::int16_t weight = 0;  ///< how often it is asked; may fall below zero
+  friend constexpr bool operator==(const BoxRow&, const BoxRow&) = default;
+};
+
+/// Where the training stands after a task.
+struct BoxOutcome {
+  std::int16_t zustand;       ///< 1 the exercise goes on, 4 the training is finished
+  std::int16_t ergebnis_anz;  ///< panel that shows: 0 status, 1 solved, 2 too hard
+};
+
+/// What a test's length is estimated from.
+struct TestTiming {
+  std::int16_t spieltimer = 0;   ///< length of a sounding row, milliseconds; 0 where nothing sounds
+  std::int16_t WahlAutomat = 0;  ///< pause before the next task, milliseconds
+  std::int16_t zeit_grenze = 0;  ///< free time of an answer, tenths of a second
+};
+
+/// Decides how often each interval is asked. In a training (levels 1 and 2) it is a set of weights
+/// that grow with errors and shrink with quick right answers, until nothing is left to ask or
+/// everything has become too hard. In a test (above) it is a fixed list of intervals to be used up.
+/// At level 0 it is empty.
+///
+/// An exercise window owns one. It writes the answers (`rf`, `zeit_gewicht`, `wdh_gewicht`,
+/// `f_antw_wert`) and counts `aufg_rest` and `aufg_dauer` down.
+class FrequencyBox {
+ public:
+  static constexpr std::int16_t RF = 8;  ///< ceiling of `rf`: four wrong tries
+  static constexpr int kMaxRows = kStatisticRows - 1;
+  static constexpr int kWrongAnswers = 4;
+
+  FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance);
+
+  /// Builds the box or the test list for the level; the scale must be built. `timing` is read in a
+  /// test only.
+  void BoxAufbau(const TestTiming& timing = {});
+  /// Clears the answers of the last task and forgets what it took from the list.
+  void begin_task();
+  /// Applies the results of the first `anzahl` intervals of `row` after a finished task. A first
+  /// interval that was given is left out.
+  BoxOutcome BoxAuswerten(const TaskRow& row, int anzahl);
+
+  /// Sorts the rows by weight, highest first, and rebuilds `matbox` while the training goes on.
+  void MatboxRechnen();
+  /// Refills `matbox`: each value as many times as its weight plus `add_wert`, if that is above 0.
+  void MatboxFuellen(int add_wert);
+  /// Fills `matbox` for a test: each interval once, so that all occur, then by chance to the end.
+  void TestListeFuellen();
+  /// Length of a test of `aufg_gesamt` tasks in seconds, rounded up to whole tens.
+  std::int16_t estimate(const TestTiming& timing) const;
+
+  /// Draws entries of `matbox` by the rule of the level, into `matbox_pos`, until one has a
+  /// statistic row among `wanted`, at most `tries` times. Returns how many draws failed; `tries`
+  /// when all did.
+  int draw_interval(const StatisticRowSet& wanted, int tries);
+  /// The interval last drawn.
+  std::int16_t drawn() const { return matbox[static_cast<std::size_t>(matbox_pos)]; }
+  /// Takes the first entry with this value from a test's list; false when there is none.
+  bool take_from_list(std::int16_t value);
+  /// Puts back what the running task has taken, since its row was refused.
+  void give_back();
+
+  /// Takes over the rows of a saved training, at level 2 after `BoxAufbau`.
+  void restore(const std::vector<BoxRow>& rows);
+
+  /// Share of the weights in their ceiling, 0 to 100: 0 is solved, 100 too hard.
+  double percentage() const;
+
+  /// Weight that a box of this many rows starts with.
+  static std::int16_t start_gewicht_of(int box_zeilen);
+
+  std::int16_t box_zeilen = 0;
+  std::int16_t start_gewicht = 0;
+  std::array<BoxRow, kMaxRows + 1> mathaeufgk_box{};  ///< rows 1 to `box_zeilen`
+  std::int16_t box_summe = 0;                         ///< sum of the positive weights
+
+  std::vector<std::int16_t> matbox;  ///< 1 to `matboxmax`; a used entry of a test is 0
+  std::int16_t matboxmax = 0;
+  std::int16_t matbox_vorn = 0;  ///< leading entries that come from rows of positive weight
+  std::int16_t matbox_pos = 0;   ///< the index last drawn
+
+  std::array<float, 6> rf{};            ///< 0 untouched, 2 per wrong try, -4 when right at once
+  std::array<float, 6> zeit_gewicht{};  ///< what lateness takes from the reward
+  std::array<std::int16_t, 6> wdh_gewicht{};                                 ///< listening repeats
+  std::array<std::array<std::int16_t, kWrongAnswers + 1>, 6> f_antw_wert{};  ///< slots 1 to 4
+
+  std::int16_t aufg_gesamt = 0;                             ///< tasks of a test
+  std::int16_t aufg_rest = 0;                               ///< of these left
+  std::int16_t aufg_dauer = 0;                              ///< length of a test in seconds
+  std::array<std::int16_t, kStatisticRows> test_haeufgk{};  ///< uses of each statistic row
+
+ private:
+  struct Taken {
+    std::int16_t place;
+    std::int16_t value;
+  };
+
+  bool training() const { return settings_.Uebungsmodus == 1 || settings_.Uebungsmodus == 2; }
+  bool test() const { return settings_.Uebungsmodus > 2; }
+  std::int16_t row_of(std::int16_t value) const { return statistic_row(value, settings_.abfr_iv); }
+  int ceiling() const { return start_gewicht * box_zeilen * 2; }
+  std::span<BoxRow> rows() { return {mathaeufgk_box.data() + 1, std::size_t(box_zeilen)}; }
+
+  void build_training();
+  void build_test(const TestTiming& timing);
+  void add_weight(std::int16_t value, float amount);
+  void settle_result(std::size_t i);
+  void count_confusions(std::size_t i);
+  void StatEintrag(std::int16_t row, std::size_t i);
+  BoxOutcome standing();
+  std::int16_t draw_offered();
+  void draw_training_place();
+  int draw_test_place(const StatisticRowSet& wanted, int tries);
+  std::int16_t place_of(std::size_t row) const;
+
+  const Settings& settings_;
+  const Key& key_;
+  Auswertung& statistics_;
+  Chance& chance_;
+
+  int shown_percentage_ = 0;  // as read back from the display: truncated
+
+  std::array<Taken, 8> taken_{};
+  std::size_t taken_count_ = 0;
+
+  std::array<std::int16_t, kStatisticRows> open_{};  // open entries of a test's list by row
+  std::int16_t open_entries_ = 0;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,251 @@
+#include "engine/material/material.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "base/arithmetic.h"
+#include "base/runtime_error.h"
+#include "music/interval.h"
+#include "music/tones.h"
+#include "sound/tuning.h"
+
+namespace tonarix {
+
+std::vector<std::int16_t> StufenGewichte(const Key& key) {
+  const int rows = key.anz_stufen;
+  std::array<int, 12> weights{};
+  for (int number = 2; number <= key.iv_anzahl; ++number) {
+    const int step = fifth_steps(asked_code(number));
+    std::array<bool, 12> marked{};
+    int n = 0;
+    for (int r = 0; r < rows; ++r) {
+      for (int t = 0; t < rows; ++t) {
+        if (key.basis[static_cast<std::size_t>(t)].qz !=
+            key.basis[static_cast<std::size_t>(r)].qz + step) {
+          continue;
+        }
+        ++n;
+        marked[static_cast<std::size_t>(r)] = true;
+      }
+    }
+    for (int r = 0; r < rows; ++r) {
+      if (marked[static_cast<std::size_t>(r)]) weights[static_cast<std::size_t>(r)] += rows / n;
+    }
+  }
+  const int smallest = std::min(100, *std::min_element(weights.begin(), weights.begin() + rows));
+  const int a = 1 - smallest;
+  std::vector<std::int16_t> list;
+  for (int r = 0; r < rows; ++r) {
+    list.insert(list.end(), static_cast<std::size_t>(weights[static_cast<std::size_t>(r)] + a),
+                to_int16(r));
+  }
+  return list;
+}
+
+Material::Material(const Settings& settings, Key& key, TaskRow& row, FrequencyBox& box,
+                   Chance& chance)
+    : settings_(settings), key_(key), row_(row), box_(box), chance_(chance) {}
+
+void Material::begin() {
+  erster_lauf = true;
+  letzte_reihe_.fill(0);
+  pruef_frei_ = false;
+  terz_typ = 0;
+  const int octaves = settings_.E_Oktav + 2;
+  anz_okt_lage_ = to_int16(octaves - (settings_.ivg == 0 ? 1 : 2));
+  stufen_liste_.clear();
+  if (settings_.abfr_iv == 1) stufen_liste_ = StufenGewichte(key_);
+  codes_ = offered_codes(settings_, key_);
+  prepare_leading_on();
+}
+
+// Named from the keynote every interval leads on from everywhere; named from the tone before, only
+// to a tone of the scale.
+void Material::prepare_leading_on() {
+  for (StatisticRowSet& rows : leading_on_) rows.fill(settings_.abfr_iv == 0 ? 1 : 0);
+  if (settings_.abfr_iv == 0) return;
+  for (std::size_t from = 0; from < static_cast<std::size_t>(key_.anz_stufen); ++from) {
+    for (std::size_t to = 0; to < static_cast<std::size_t>(key_.anz_stufen); ++to) {
+      for (const int direction : {1, -1}) {
+        const auto code = direct_code(direction, key_.basis[to].qz, key_.basis[from].qz);
+        leading_on_[from][static_cast<std::size_t>(statistic_row(code, settings_.abfr_iv))] = 1;
+      }
+    }
+  }
+}
+
+bool Material::mat_wahl() {
+  const bool new_key = erster_lauf || settings_.Tonart == 1;
+  if (new_key) choose_new_key();
+  box_.begin_task();
+  draw_acceptable_row();
+  if (settings_.tongeschl == 2) find_thirds();
+  for (int i = 0; i < 3; ++i) letzte_reihe_[static_cast<std::size_t>(i)] = tone(i).chr;
+  tune();
+  erster_lauf = false;
+  return new_key;
+}
+
+void Material::choose_new_key() {
+  choose_key(key_, settings_.tongeschl, chance_);
+  row_of_qz_.fill(-1);
+  for (int r = key_.anz_stufen; r >= 0; --r) {
+    row_of_qz_[static_cast<std::size_t>(skala(r).qz)] = static_cast<std::int8_t>(r);
+  }
+}
+
+// A refused row leaves no trace: what it took goes back, and the next one starts from the same
+// place.
+void Material::draw_acceptable_row() {
+  const bool pruef_frei = pruef_frei_;
+  for (int attempt = 1; attempt <= kLastAttempt; ++attempt) {
+    draw_row();
+    const auto refusal = refusal_of(settings_, key_, row_, codes_, attempt > kStrictAttempts);
+    if (!refusal) return;
+    ++refused_[static_cast<std::size_t>(*refusal)];
+    box_.give_back();
+    pruef_frei_ = pruef_frei;
+  }
+  throw RuntimeError(RuntimeError::kOther, "These settings allow no row of tones", "mat_wahl");
+}
+
+void Material::draw_row() {
+  for (int i = 1; i <= settings_.invzahl + 1; ++i) {
+    draw_tone(i);
+    if (settings_.Uebungsmodus > 2 && (settings_.ton_st_wahl == 0 || i == 2)) {
+      pruef_frei_ = !box_.take_from_list(iv(i - 1));
+    }
+  }
+}
+
+// A box whose intervals do not lead on from here is left after as many failures as its list has
+// entries; then chance alone decides.
+void Material::draw_tone(int i) {
+  const int tries = i != 1 && settings_.Uebungsmodus > 0 ? box_.matboxmax : 0;
+  bool ok = false;
+  for (int versuch = 1; !ok; ++versuch) {
+    if (versuch < tries) versuch += draw_from_box(i, tries - versuch);
+    if (versuch >= tries) draw_freely(i);
+    if (settings_.abfr_iv == 0) {
+      OktavLage(i);
+    } else {
+      tone(i).chr = static_cast<std::int16_t>(tone(i - 1).chr + DirektSchritt(i));
+      iv(i - 1) = direct_code(richtung_, tone(i).qz, tone(i - 1).qz);
+    }
+    ok = i == 1 || (TonraumTest(i) && !repeats_last_task());
+  }
+}
+
+// Returns how many tries failed before one that leads on.
+int Material::draw_from_box(int i, int tries) {
+  const int failed = box_.draw_interval(leading_on_[scale_row(i - 1)], tries);
+  if (failed == tries) return failed;
+  iv(i - 1) = box_.drawn();
+  richtung_ = Sgn(iv(i - 1));
+  if (settings_.abfr_iv == 1) {
+    NaechsterTon(i);
+  } else {
+    tone(i) = skala(std::abs(iv(i - 1) - richtung_));
+  }
+  return failed;
+}
+
+void Material::draw_freely(int i) {
+  richtung_ = static_cast<std::int16_t>(draw_sign(chance_));
+  if (i == 1) {
+    tone(0) = skala(0);
+    ErsterTon(i);
+  } else if (settings_.abfr_iv == 0) {
+    const int r = draw(chance_, key_.anz_stufen);
+    tone(i) = skala(r);
+    iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
+  } else {
+    // Seven fifths would be an augmented prime or a diminished octave.
+    do {
+      const int place = draw(chance_, static_cast<int>(stufen_liste_.size()));
+      tone(i) = skala(stufen_liste_[static_cast<std::size_t>(place)]);
+    } while (std::abs(tone(i - 1).qz - tone(i).qz) == 7);
+  }
+}
+
+// The keynote opens the row, low in the range when the melody rises from it and high when it falls,
+// with room left for octaves in between.
+void Material::ErsterTon(int i) {
+  int r = settings_.stufe_wahl;
+  if (settings_.ton_st_wahl == 0) {
+    r = settings_.abfr_iv == 0 ? draw(chance_, key_.anz_stufen)
+                               : stufen_liste_[static_cast<std::size_t>(
+                                     draw(chance_, static_cast<int>(stufen_liste_.size())))];
+  }
+  tone(i) = skala(r);
+  if (settings_.abfr_iv == 0) iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
+
+  const int o = draw(chance_, anz_okt_lage_ + 1);
+  int t = tone(i - 1).chr;
+  if (richtung_ == 1) {
+    do {
+      t += 12;
+    } while (t < key_.tonart_offset + settings_.tonraum_min);
+  } else {
+    t += 84;
+    while (t > key_.tonart_offset + settings_.tonraum_max) t -= 12;
+  }
+  tone(i - 1).chr = to_int16(t + richtung_ * o * 12);
+}
+
+void Material::draw_okt_zusatz() {
+  okt_zusatz_ =
+      static_cast<std::int16_t>((settings_.ivg == 2 ? draw(chance_, 2) : settings_.ivg) * 12);
+}
+
+void Material::OktavLage(int i) {
+  draw_okt_zusatz();
+  if (richtung_ == 1) {
+    do {
+      move(i, 12);
+    } while (tone(i).chr <= tone(i - 1).chr + okt_zusatz_);
+  } else {
+    move(i, 84);
+    do {
+      move(i, -12);
+    } while (tone(i).chr >= tone(i - 1).chr - okt_zusatz_);
+  }
+}
+
+int Material::DirektSchritt(int i) {
+  int x = tone(i).chr % 12 - tone(i - 1).chr % 12;
+  if (Sgn(x) != richtung_) x += richtung_ * 12;
+  draw_okt_zusatz();
+  return okt_zusatz_ * richtung_ + x;
+}
+
+void Material::NaechsterTon(int i) {
+  const int qz = next_qz(tone(i - 1).qz, iv(i - 1));
+  tone(i) = skala(row_of_qz_[static_cast<std::size_t>(qz)]);
+}
+
+// Only with one interval to name would a row that begins like the last one give it away.
+bool Material::repeats_last_task() const {
+  if (settings_.ton_st_wahl != 1 && settings_.invzahl != 1) return false;
+  return row_.inv_ton[0].chr == letzte_reihe_[0] && row_.inv_ton[1].chr == letzte_reihe_[1] &&
+         row_.inv_ton[2].chr == letzte_reihe_[2];
+}
+
+void Material::find_thirds() {
+  terz_typ = 0;
+  for (int i = 1; i <= settings_.invzahl + 1; ++i) {
+    if (tone(i).qz == skala(3).qz) terz_typ |= 1;
+    if (tone(i).qz == skala(4).qz) terz_typ |= 2;
+  }
+}
+
+void Material::tune() {
+  ton_abw.fill(0);
+  for (int i = 0; i <= settings_.invzahl + 1; ++i) {
+    ton_abw[static_cast<std::size_t>(i)] =
+        tuning_deviation(tone(i), settings_.stimm_g, key_.qz_transpos);
+  }
+  freq_abw = draw_freq_abw(settings_.frequenz, chance_);
+}
+
+}  // namespace tonarix

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <cstdint>
+#include <vector>
+
+#include "base/chance.h"
+#include "config/settings.h"
+#include "engine/material/acceptance.h"
+#include "engine/material/frequency_box.h"
+#include "music/key.h"
+#include "music/tones.h"
+
+namespace tonarix {
+
+/// Rows of the scale, each as often as it must stand there so that a row drawn from the list gives
+/// all intervals from tone to tone about the same chance. Needs a built scale. (`StufenGewichte`)
+std::vector<std::int16_t> StufenGewichte(const Key& key);
+
+/// Draws the tasks of an exercise: a key if one is due, and a row of `invzahl` + 2 tones with the
+/// intervals between them, by the frequency box or at random, repaired into the range. One lives as
+/// long as an exercise window.
+class Material {
+ public:
+  Material(const Settings& settings, Key& key, TaskRow& row, FrequencyBox& box, Chance& chance);
+
+  /// Prepares the first task; the scale and the box must be built.
+  void begin();
+  /// Draws one task into the row and clears the answers of the last one. RuntimeError 1000 when
+  /// the settings allow no row at all. True when a new key was chosen.
+  bool mat_wahl();
+
+  bool erster_lauf = true;  ///< no task has been drawn yet: the key is due
+  /// Thirds over the keynote in a Dur-moll row: 0 none, 1 minor, 2 major, 3 both.
+  std::int16_t terz_typ = 0;
+  std::array<std::int16_t, 6> ton_abw{};  ///< deviation of each tone in bend steps, by temperament
+  std::int16_t freq_abw = 0;              ///< common detuning of the task, -16 to 16 bend steps
+
+  /// Rows drawn again so far, by reason.
+  const std::array<std::int64_t, kRefusals>& refused() const { return refused_; }
+
+ private:
+  static constexpr int kStrictAttempts = 200;
+  static constexpr int kLastAttempt = 10000;
+
+  // Tone and interval row by place, as the rules count them: iv_(i - 1) leads to tone i.
+  Tone& tone(int i) { return row_.inv_ton[static_cast<std::size_t>(i)]; }
+  std::int16_t& iv(int i) { return row_.iv[static_cast<std::size_t>(i)]; }
+  Tone& skala(int r) { return key_.skala[static_cast<std::size_t>(r)]; }
+  void move(int i, int semitones) {
+    tone(i).chr = static_cast<std::int16_t>(tone(i).chr + semitones);
+  }
+
+  std::size_t scale_row(int i) { return std::size_t(row_of_qz_[std::size_t(tone(i).qz)]); }
+
+  void prepare_leading_on();
+  void choose_new_key();
+  void draw_acceptable_row();
+  void draw_row();
+  void draw_tone(int i);
+  int draw_from_box(int i, int tries);
+  void draw_freely(int i);
+  void ErsterTon(int i);
+  void OktavLage(int i);
+  int DirektSchritt(int i);
+  void NaechsterTon(int i);
+  void draw_okt_zusatz();
+  bool repeats_last_task() const;
+  void find_thirds();
+  void tune();
+
+  // range_repair.cpp
+  bool TonraumTest(int i);
+  void shift_row_back();
+  bool go_on_in_direction(int i);
+  void turn_round(int i);
+  void turn_degree(int i);
+
+  const Settings& settings_;
+  Key& key_;
+  TaskRow& row_;
+  FrequencyBox& box_;
+  Chance& chance_;
+
+  std::vector<std::int16_t> stufen_liste_;
+  std::bitset<22> codes_;
+  // By row of the scale: the statistic rows of all intervals that lead from it to a row.
+  std::array<StatisticRowSet, 12> leading_on_;
+  std::array<std::int8_t, kNamedTones> row_of_qz_{};  // -1: not in the key
+  std::int16_t anz_okt_lage_ = 0;
+  std::int16_t richtung_ = 1;
+  std::int16_t okt_zusatz_ = 0;
+  bool pruef_frei_ = false;
+  std::array<std::int16_t, 3> letzte_reihe_{};
+  std::array<std::int64_t, kRefusals> refused_{};
+};
+
+}  // namespace tonarix

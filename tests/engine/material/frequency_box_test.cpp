@@ -1,0 +1,190 @@
+#include "engine/material/frequency_box.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "engine/material/worked_examples.h"
+#include "music/degrees.h"
+#include "support/material_bed.h"
+#include "support/material_settings.h"
+
+namespace tonarix {
+namespace {
+
+Settings training_settings(int tongeschl, int abfr_iv) {
+  Settings settings;
+  settings.Uebungsmodus = 1;
+  settings.tongeschl = to_int16(tongeschl);
+  settings.abfr_iv = to_int16(abfr_iv);
+  return settings;
+}
+
+// The drawing list is what the sorted rows ask for: each value weight + offset times, those of
+// positive weight first.
+void expect_list_matches_weights(const FrequencyBox& box) {
+  const BoxRow* const first = &box.mathaeufgk_box[1];
+  const BoxRow* const end = first + box.box_zeilen;
+  EXPECT_TRUE(std::is_sorted(first, end, [](auto a, auto b) { return a.weight > b.weight; }));
+  const int lowest =
+      std::min_element(first, end, [](auto a, auto b) { return a.weight < b.weight; })->weight;
+  const int offset = lowest >= 1 ? 0 : 1 - lowest;
+  std::map<int, int> expected;
+  int front = 0;
+  for (const BoxRow* row = first; row != end; ++row) {
+    expected[row->value] = row->weight + offset;
+    if (row->weight > 0) front += row->weight + offset;
+  }
+  std::map<int, int> found;
+  for (int i = 1; i <= box.matboxmax; ++i) ++found[box.matbox.at(static_cast<std::size_t>(i))];
+  EXPECT_EQ(found, expected);
+  EXPECT_EQ(box.matbox_vorn, front);
+  EXPECT_EQ(static_cast<int>(box.matbox.size()), box.matboxmax + 1);
+}
+
+TEST(FrequencyBox, StartsWithAboutThirtyEntriesInASmallBox) {
+  constexpr struct {
+    int rows, weight;
+  } kStart[] = {{2, 15}, {5, 6}, {6, 5}, {7, 4}, {8, 4}, {24, 4}, {42, 4}};
+  for (const auto [rows, weight] : kStart) {
+    EXPECT_EQ(FrequencyBox::start_gewicht_of(rows), weight) << rows;
+  }
+}
+
+TEST(FrequencyBox, AsksWhatHasAButtonAndHasTheRowsOfItsScale) {
+  std::set<std::string> seen;
+  for (Settings settings : material_settings()) {
+    if (settings.Uebungsmodus != 1 || settings.Tonart != 0 || settings.E_Oktav != 3) continue;
+    const MaterialBed bed(settings, 1);
+    const IntervalList offered = offered_intervals(settings, bed.key);
+    const std::set<int> values(offered.values().begin(), offered.values().end());
+    int rows = bed.key.iv_anzahl * 2;
+    if (settings.ton_st_wahl == 1 && settings.abfr_iv == 1) {
+      const int own = bed.key.basis[static_cast<std::size_t>(settings.stufe_wahl)].qz;
+      bool seven_fifths = false;
+      for (int r = 0; r < bed.key.anz_stufen; ++r) {
+        const int other = bed.key.basis[static_cast<std::size_t>(r)].qz;
+        seven_fifths = seven_fifths || std::abs(other - own) == 7;
+      }
+      rows = (bed.key.anz_stufen - (seven_fifths ? 1 : 0)) * 2;
+    }
+    EXPECT_EQ(bed.box.box_zeilen, rows) << describe(settings);
+    EXPECT_EQ(static_cast<int>(values.size()), rows) << describe(settings);
+    EXPECT_EQ(bed.box.percentage(), 50) << describe(settings);
+    const std::bitset<22> codes = offered_codes(settings, bed.key);
+    EXPECT_FALSE(codes[0] || codes[14] || codes[15]);
+    for (int row = 1; row < kStatisticRows; ++row) {
+      const int half = settings.abfr_iv == 0 ? 11 : 21;
+      const int value = row > half ? half - row : row;
+      float occurrence = -1;
+      bed.statistics.read(to_int16(row), 3, occurrence);
+      EXPECT_EQ(occurrence, values.contains(value) ? 1 : 0) << describe(settings) << value;
+      EXPECT_TRUE(!values.contains(value) || codes[static_cast<std::size_t>(std::abs(value))]);
+    }
+    expect_list_matches_weights(bed.box);
+  }
+}
+
+// The list of degrees to choose from names the rows of the scale in their order, so its index is
+// the row.
+TEST(FrequencyBox, ChosenDegreeIsTheRowOfTheScale) {
+  const std::vector<std::vector<int>> listed{
+      {1, 4, 8, 3, 2, 6, 10}, {1, 4, 7, 3, 2, 9, 6, 5, 10}, {1, 11, 4, 7, 8, 3, 2, 9, 6, 5, 10}};
+  for (std::int16_t mode = 0; mode <= 2; ++mode) {
+    Key key;
+    build_scale(key, mode, 0);
+    ASSERT_EQ(static_cast<int>(listed[static_cast<std::size_t>(mode)].size()), key.anz_stufen);
+    for (int row = 0; row < key.anz_stufen; ++row) {
+      EXPECT_EQ(direct_code_of_degree(key, row + 1),
+                listed[static_cast<std::size_t>(mode)][static_cast<std::size_t>(row)]);
+    }
+  }
+}
+
+TEST(FrequencyBox, MovesAsWorkedOutByHand) {
+  for (const Training& training : kTrainings) {
+    MaterialBed bed(training_settings(training.tongeschl, training.abfr_iv), 1);
+    FrequencyBox& box = bed.box;
+    int number = 0;
+    for (const TrainingStep& step : training.steps) {
+      SCOPED_TRACE(testing::Message() << training.tongeschl << training.abfr_iv << " " << number++);
+      box.begin_task();
+      bed.row.iv[0] = to_int16(step.value);
+      int wrong = 0;
+      for (const int value : step.confused) {
+        if (value != 0) box.f_antw_wert[0][static_cast<std::size_t>(++wrong)] = to_int16(value);
+      }
+      box.rf[0] = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
+      box.zeit_gewicht[0] = static_cast<float>(step.late);
+      box.wdh_gewicht[0] = to_int16(step.repeats);
+      float before = 0;
+      float after = 0;
+      bed.statistics.read(statistic_row(bed.row.iv[0], bed.settings.abfr_iv), 1, before);
+      const BoxOutcome outcome = box.BoxAuswerten(bed.row, 1);
+      bed.statistics.read(statistic_row(bed.row.iv[0], bed.settings.abfr_iv), 1, after);
+
+      EXPECT_NEAR(after - before, step.statistic, 1e-4);
+      EXPECT_EQ(box.box_summe, step.box_summe);
+      EXPECT_EQ(outcome.zustand, step.zustand);
+      const int panel = step.zustand == 1 ? 0 : step.box_summe == 0 ? 1 : 2;
+      EXPECT_EQ(outcome.ergebnis_anz, panel);
+      EXPECT_EQ(static_cast<int>(box.percentage()), step.percentage);
+      for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(box.mathaeufgk_box[i + 1].weight, step.heaviest[i]);
+      }
+      EXPECT_EQ(box.mathaeufgk_box[static_cast<std::size_t>(box.box_zeilen)].weight, step.lightest);
+      if (step.matboxmax == 0) continue;  // at its ends the list is left as it is
+      EXPECT_EQ(box.matboxmax, step.matboxmax);
+      EXPECT_EQ(box.matbox_vorn, step.matbox_vorn);
+      expect_list_matches_weights(box);
+    }
+  }
+}
+
+TEST(FrequencyBox, LeavesOutAGivenFirstInterval) {
+  Settings settings = training_settings(0, 1);
+  settings.ton_st_wahl = 1;
+  settings.stufe_wahl = 4;
+  MaterialBed bed(settings, 1);
+  bed.row.iv = {2, 4};
+  bed.box.rf = {-4, 8};
+  bed.box.f_antw_wert[1] = {0, 2, -3, 0, 6};  // an empty slot ends the wrong answers
+  bed.box.BoxAuswerten(bed.row, 2);
+  const auto weight = [&](int value) {
+    return std::ranges::find(bed.box.mathaeufgk_box, value, &BoxRow::value)->weight;
+  };
+  EXPECT_EQ(weight(4), 12);
+  EXPECT_EQ(weight(2), 5);
+  EXPECT_EQ(weight(-3), 5);
+  EXPECT_EQ(weight(6), 4);
+  float answered = 0;
+  bed.statistics.read(2, 0, answered);
+  EXPECT_EQ(answered, 0);
+}
+
+// Near the end of a training most draws go to what still has weight.
+TEST(FrequencyBox, DrawsTheUnsolvedNearTheEnd) {
+  MaterialBed bed(training_settings(0, 0), 5);
+  std::vector<BoxRow> rows;
+  for (const std::int16_t value : offered_intervals(bed.settings, bed.key)) {
+    rows.push_back({value, to_int16(value == 3 ? 6 : -6)});
+  }
+  bed.box.restore(rows);
+  ASSERT_EQ(bed.box.matbox_vorn, 13);
+  ASSERT_EQ(bed.box.matboxmax, 26);
+  StatisticRowSet all;
+  all.fill(1);
+  int hits = 0;
+  constexpr int kDraws = 100000;
+  for (int i = 0; i < kDraws; ++i) {
+    ASSERT_EQ(bed.box.draw_interval(all, 1), 0);
+    if (bed.box.drawn() == 3) ++hits;
+  }
+  // 5 of 100: p = 45 and t = 70, so 71 of 100 draws are of the unsolved, the others of all.
+  EXPECT_NEAR(static_cast<double>(hits) / kDraws, 0.71 + 0.29 * 0.5, 0.006);
+}
+
+}  // namespace
+}  // namespace tonarix

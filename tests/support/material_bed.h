@@ -1,0 +1,112 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "base/arithmetic.h"
+#include "engine/material/material.h"
+#include "music/interval.h"
+#include "music/tones.h"
+
+namespace tonarix {
+
+/// An exercise without a window: draws tasks and answers them, so that boxes and lists wear on as
+/// they do under a student.
+class MaterialBed {
+ public:
+  static constexpr TestTiming kTiming{4500, 1800, 25};
+
+  MaterialBed(const Settings& chosen, std::uint64_t seed)
+      : settings(chosen),
+        chance(seed),
+        box(settings, key, statistics, chance),
+        material(settings, key, row, box, chance) {
+    begin();
+  }
+  MaterialBed(const MaterialBed&) = delete;
+
+  /// A new exercise with the same settings, as if the window had been opened again.
+  void begin() {
+    statistics.init_arr(3, kStatisticRows - 1);
+    build_scale(key, settings.tongeschl, settings.abfr_iv);
+    box.BoxAufbau(kTiming);
+    material.begin();
+  }
+
+  /// Answers all intervals of the row, each wrong at first with the chance `wrong`; then counts the
+  /// task. False when the training or the test has ended.
+  bool answer(double wrong) {
+    if (settings.Uebungsmodus == 0) return true;
+    const int asked = settings.invzahl + 1;
+    for (int i = settings.ton_st_wahl; i < asked; ++i) {
+      const auto place = static_cast<std::size_t>(i);
+      const bool failed = chance.Rnd() < wrong;
+      box.rf[place] = failed ? 2.0F : -4.0F;
+      if (failed) box.f_antw_wert[place][1] = to_int16(-row.iv[place]);
+    }
+    const BoxOutcome outcome = box.BoxAuswerten(row, asked);
+    if (settings.Uebungsmodus <= 2) return outcome.zustand == 1;
+    if (--box.aufg_rest == 0) return false;
+    if (box.aufg_rest == box.aufg_gesamt / 2) box.TestListeFuellen();
+    return true;
+  }
+
+  Settings settings;
+  Key key;
+  TaskRow row;
+  Auswertung statistics;
+  SeededChance chance;
+  FrequencyBox box;
+  Material material;
+};
+
+/// The first law that a finished row breaks, or an empty text. `strict_range` is off for a row that
+/// was only found beyond the range.
+inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) {
+  const Settings& s = bed.settings;
+  const auto in_key = [&](Tone tone) {
+    for (int r = 0; r < bed.key.anz_stufen; ++r) {
+      const Tone row = bed.key.skala[static_cast<std::size_t>(r)];
+      if (row.qz == tone.qz && (tone.chr - row.chr) % 12 == 0) return true;
+    }
+    return false;
+  };
+  for (int i = 0; i <= s.invzahl + 1; ++i) {
+    const Tone tone = bed.row.inv_ton[static_cast<std::size_t>(i)];
+    if (!has_name(tone.qz)) return "qz outside the table";
+    if (tone.chr % 12 != pitch_class(tone.qz)) return "a tone that is not what its name says";
+    if (!in_key(tone)) return "a tone outside the key";
+    const int above = tone.chr - bed.key.tonart_offset;
+    if (strict_range && (above < s.tonraum_min || above > s.tonraum_max)) return "out of range";
+    if (i == 0 && tone.qz != bed.key.skala[0].qz) return "a row without the keynote first";
+    if (i >= 2 && tone.chr == bed.row.inv_ton[static_cast<std::size_t>(i - 2)].chr) {
+      return "a tone equal to the one two before";
+    }
+    if (i == 0) continue;
+    const Tone before = bed.row.inv_ton[static_cast<std::size_t>(i - 1)];
+    const int iv = bed.row.iv[static_cast<std::size_t>(i - 1)];
+    const int direction = tone.chr > before.chr ? 1 : -1;
+    if (tone.chr == before.chr || (iv > 0) != (direction > 0)) return "a false direction";
+    const int fifths = tone.qz - before.qz;
+    const int size = std::abs(iv);
+    if (s.abfr_iv == 1 && fifths != (size % 2 == 0 ? direction : -direction) * (size / 2)) {
+      return "a code that is not the step";
+    }
+    if (s.abfr_iv == 0 && bed.key.skala.at(static_cast<std::size_t>(size - 1)).qz != tone.qz) {
+      return "a degree that is not the tone";
+    }
+    if (s.ton_st_wahl == 1 && i == 1 &&
+        tone.qz != bed.key.skala[static_cast<std::size_t>(s.stufe_wahl)].qz) {
+      return "a second tone that is not the chosen degree";
+    }
+    const int semitones = std::abs(tone.chr - before.chr);
+    const int most = s.ivg == 0 ? 12 : 24;
+    const int least = s.ivg == 1 ? 13 : 1;
+    if (semitones > most || semitones < least) return "an interval beyond the chosen size";
+  }
+  return {};
+}
+
+}  // namespace tonarix
