@@ -90,7 +90,7 @@ class Composer {
     card({kTableLeft, 0, kTableWidth, height});
     const double right = kTableLeft + kTableWidth - kPadding;
     const SheetBox total{right - kTotalWidth, 6, kTotalWidth, 34};
-    text({kTableLeft + kPadding, 8, 150, 30}, content_.results_title, SheetFont::title);
+    text({kTableLeft + kColumnLeft, 8, 150, 30}, content_.results_title, SheetFont::title);
     text({total.left - 128, 8, 120, 30}, content_.total_label, SheetFont::total_label, true);
     field(total, table.total, SheetFont::total);
     if (table.by_interval) {

@@ -13,7 +13,7 @@ ResultView::ResultView(ResultWindow& window, const Texts& words)
   row->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::inside);
   row->setSpacing(theme::between);
   sheet_ = new SheetWidget(&content());
-  row->addWidget(sheet_, 4);
+  row->addWidget(sheet_, 3);
   chart_card_ = card(nullptr, nullptr);
   chart_ = new ChartWidget(chart_card_);
   chart_card_->title().setText(to_qstring(window.chart_title()));

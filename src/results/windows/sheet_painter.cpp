@@ -1,6 +1,7 @@
 #include "results/windows/sheet_painter.h"
 
 #include <QFontMetricsF>
+#include <QTextOption>
 #include <algorithm>
 
 #include "base/windows/style.h"
@@ -10,7 +11,9 @@ namespace tonarix {
 
 namespace {
 
-constexpr double kNarrowest = 0.6;  // of a text's natural width
+constexpr double kSmallestLine = 0.75;  // scale of a long text on one line
+constexpr double kTwoLines = 0.62;      // and on two
+constexpr double kFilledLines = 1.75;   // of two lines, as words break early
 
 QRectF rect_of(const SheetBox& box) {
   return {box.left, box.top, box.width, box.height};
@@ -44,25 +47,38 @@ QColor ink_of(SheetFont font, SheetGround ground) {
   return theme::colour(explains ? theme::note : theme::ink);
 }
 
+/// How a text fits into its box: at full size, smaller on one line, or smaller still on two.
+struct Fit {
+  double scale = 1;
+  bool two_lines = false;
+};
+
+Fit fit_of(double natural_width, double room) {
+  if (natural_width <= room) return {};
+  if (natural_width * kSmallestLine <= room) return {room / natural_width, false};
+  return {kTwoLines, true};
+}
+
 void paint_text(QPainter& painter, const SheetText& text, SheetGround ground) {
   QFont font = font_of(text.font);
   font.setHintingPreference(QFont::PreferNoHinting);
   const QFontMetricsF metrics(font);
   QString words = QString::fromStdString(text.text);
-  const double room = text.box.width;
-  const double natural = metrics.horizontalAdvance(words);
-  const double narrowing = natural > room ? std::max(room / natural, kNarrowest) : 1.0;
-  if (natural * narrowing > room) {
-    words = metrics.elidedText(words, Qt::ElideRight, room / narrowing);
+  const Fit fit = fit_of(metrics.horizontalAdvance(words), text.box.width);
+  const QRectF room(0, 0, text.box.width / fit.scale, text.box.height / fit.scale);
+  QTextOption option(Qt::AlignVCenter | (text.at_right ? Qt::AlignRight : Qt::AlignLeft));
+  option.setTextDirection(Qt::LeftToRight);
+  option.setWrapMode(fit.two_lines ? QTextOption::WrapAtWordBoundaryOrAnywhere
+                                   : QTextOption::NoWrap);
+  if (fit.two_lines) {
+    words = metrics.elidedText(words.trimmed(), Qt::ElideRight, room.width() * kFilledLines);
   }
   painter.save();
   painter.translate(text.box.left, text.box.top);
-  painter.scale(narrowing, 1.0);
+  painter.scale(fit.scale, fit.scale);
   painter.setFont(font);
   painter.setPen(ink_of(text.font, ground));
-  const auto side = text.at_right ? Qt::AlignRight : Qt::AlignLeft;
-  painter.drawText(QRectF(0, 0, room / narrowing, text.box.height),
-                   static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine, words);
+  painter.drawText(room, words, option);
   painter.restore();
 }
 
@@ -73,7 +89,6 @@ void paint_sheet(QPainter& painter, const SheetPicture& picture, const QRectF& i
   const double factor = std::min(into.width() / picture.width, into.height() / picture.height);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setLayoutDirection(Qt::LeftToRight);
   painter.translate(into.left() + (into.width() - picture.width * factor) / 2, into.top());
   painter.scale(factor, factor);
   for (const SheetSurface& surface : picture.surfaces) {

@@ -1,6 +1,7 @@
 #include "results/windows/sheet_widget.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <utility>
 
 #include "results/windows/sheet_painter.h"
@@ -36,7 +37,8 @@ QSize SheetWidget::minimumSizeHint() const {
 
 void SheetWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  paint_sheet(painter, picture_, rect());
+  const double needed = picture_.height > 0 ? picture_.width / picture_.height * height() : 0;
+  paint_sheet(painter, picture_, QRectF(0, 0, std::min<double>(needed, width()), height()));
 }
 
 }  // namespace tonarix

@@ -1,9 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QImage>
+#include <QPointer>
 #include <QPrinter>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <algorithm>
 
@@ -115,6 +120,46 @@ TEST_F(SheetPrinterTest, APrinterThatWritesAFileGoesTheSameWay) {
   EXPECT_TRUE(QFile::exists(folder.filePath("printed.pdf")));
   device.setOutputFileName(folder.filePath("missing/printed.pdf"));
   EXPECT_EQ(printer.print_on(page, device).end, PrintResult::End::failed);
+}
+
+struct PrintDialogTest : SheetPrinterTest {
+  PrintDialogTest() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    QSettings(QSettings::UserScope, "QtProject").setValue("FileDialog/lastVisited", "/mine");
+    printer.print(page, [this](const PrintResult& result) { results.push_back(result); });
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (auto* found = qobject_cast<QDialog*>(widget)) dialog = found;
+    }
+  }
+  void let_go() {
+    QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  QPointer<QDialog> dialog;
+  std::vector<PrintResult> results;
+};
+
+TEST_F(PrintDialogTest, ADialogThatIsClosedCancelsAndRemembersNothing) {
+  ASSERT_TRUE(dialog);
+  EXPECT_TRUE(results.empty()) << "it does not block";
+  dialog->reject();
+  let_go();
+  ASSERT_EQ(results.size(), 1U);
+  EXPECT_EQ(results[0].end, PrintResult::End::cancelled);
+  EXPECT_FALSE(dialog);
+  EXPECT_EQ(QSettings(QSettings::UserScope, "QtProject").value("FileDialog/lastVisited"), "/mine");
+}
+
+TEST_F(PrintDialogTest, WithoutAPrinterTheSheetGoesIntoAFile) {
+  QPointer<QFileDialog> files = qobject_cast<QFileDialog*>(dialog);
+  if (!files) GTEST_SKIP() << "this machine has a printer";
+  files->selectFile(folder.filePath("mine.pdf"));
+  QMetaObject::invokeMethod(files, "accept");
+  let_go();
+  ASSERT_EQ(results.size(), 1U);
+  EXPECT_EQ(results[0].end, PrintResult::End::printed) << results[0].reason;
+  EXPECT_TRUE(QFile::exists(folder.filePath("mine.pdf")));
+  EXPECT_EQ(QSettings(QSettings::UserScope, "QtProject").value("FileDialog/lastVisited"), "/mine");
 }
 
 }  // namespace
