@@ -1502,6 +1502,35 @@ Vorzeichen!</translation>
         <source>Ton</source>
         <translation>Ton</translation>
     </message>
+    <message id="1128s">
+        <source>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</source>
+        <translation>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</translation>
+    </message>
+    <message id="1130s">
+        <source>gelöst</source>
+        <extracomment>left end of the training bar</extracomment>
+        <translation>gelöst</translation>
+    </message>
+    <message id="1131s">
+        <source>zu schwer</source>
+        <extracomment>right end of the training bar</extracomment>
+        <translation>zu schwer</translation>
+    </message>
+    <message id="1132s">
+        <source>%1 %</source>
+        <extracomment>percentage with its sign; %1 is the number</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message id="1133s">
+        <source>Teststand</source>
+        <extracomment>title of the card with what is left of a test</extracomment>
+        <translation>Teststand</translation>
+    </message>
+    <message id="1134s">
+        <source>Stand</source>
+        <extracomment>title of the card with the counters</extracomment>
+        <translation>Stand</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Stufen-Intervall über dem Grundton</translation>
@@ -1585,9 +1614,9 @@ Vorzeichen!</translation>
         <translation>nicht gefragt</translation>
     </message>
     <message id="1210s">
-        <source>In dieser Übungsart werden keine Prozente berechnet.</source>
+        <source>Auf dieser Stufe werden keine Prozente berechnet.</source>
         <extracomment>result sheet: instead of the chart</extracomment>
-        <translation>In dieser Übungsart werden keine Prozente berechnet.</translation>
+        <translation>Auf dieser Stufe werden keine Prozente berechnet.</translation>
     </message>
     <message id="1211s">
         <source>Ergebnisblatt</source>
@@ -1663,11 +1692,6 @@ Vorzeichen!</translation>
         <source>die Reihe in Noten schreiben</source>
         <extracomment>First window: explains the exercise</extracomment>
         <translation>die Reihe in Noten schreiben</translation>
-    </message>
-    <message id="1262s">
-        <source>Hilfe</source>
-        <extracomment>Button that opens the help</extracomment>
-        <translation>Hilfe</translation>
     </message>
     <message id="1280s">
         <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>

@@ -1502,6 +1502,35 @@ in any order.</translation>
         <source>Ton</source>
         <translation>Tone</translation>
     </message>
+    <message id="1128s">
+        <source>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</source>
+        <translation>The MIDI device does not answer. The exercise stays open: “Repeat” tries again, “Back” leads to the result.</translation>
+    </message>
+    <message id="1130s">
+        <source>gelöst</source>
+        <extracomment>left end of the training bar</extracomment>
+        <translation>solved</translation>
+    </message>
+    <message id="1131s">
+        <source>zu schwer</source>
+        <extracomment>right end of the training bar</extracomment>
+        <translation>too difficult</translation>
+    </message>
+    <message id="1132s">
+        <source>%1 %</source>
+        <extracomment>percentage with its sign; %1 is the number</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message id="1133s">
+        <source>Teststand</source>
+        <extracomment>title of the card with what is left of a test</extracomment>
+        <translation>Test progress</translation>
+    </message>
+    <message id="1134s">
+        <source>Stand</source>
+        <extracomment>title of the card with the counters</extracomment>
+        <translation>Standing</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Degree interval above the keynote</translation>
@@ -1585,9 +1614,9 @@ in any order.</translation>
         <translation>not asked</translation>
     </message>
     <message id="1210s">
-        <source>In dieser Übungsart werden keine Prozente berechnet.</source>
+        <source>Auf dieser Stufe werden keine Prozente berechnet.</source>
         <extracomment>result sheet: instead of the chart</extracomment>
-        <translation>No percentages are worked out at this exercise level.</translation>
+        <translation>No percentages are worked out at this level.</translation>
     </message>
     <message id="1211s">
         <source>Ergebnisblatt</source>
@@ -1663,11 +1692,6 @@ in any order.</translation>
         <source>die Reihe in Noten schreiben</source>
         <extracomment>First window: explains the exercise</extracomment>
         <translation>Write the row on the staff</translation>
-    </message>
-    <message id="1262s">
-        <source>Hilfe</source>
-        <extracomment>Button that opens the help</extracomment>
-        <translation>Help</translation>
     </message>
     <message id="1280s">
         <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>

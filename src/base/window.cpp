@@ -71,10 +71,15 @@ void Window::changed() {
   if (on_changed) on_changed();
 }
 
-WindowList::~WindowList() {
+WindowList::~WindowList() { clear(); }
+
+void WindowList::clear() {
   scheduler_.cancel(release_);
   leaving_.clear();
-  while (!windows_.empty()) windows_.pop_back();
+  while (!windows_.empty()) {
+    if (on_unloaded) on_unloaded(*windows_.back());
+    windows_.pop_back();
+  }
 }
 
 void WindowList::adopt(std::unique_ptr<Window> window) {

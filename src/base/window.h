@@ -101,6 +101,8 @@ class WindowList {
     return opened;
   }
   void unload(Window& window);
+  /// Releases all windows at once, newest first, when the program ends.
+  void clear();
 
   int count() const { return static_cast<int>(windows_.size()); }
   /// The most recently opened window, or nullptr.

@@ -24,6 +24,8 @@ class Element {
   Element() = default;
   explicit Element(pugi::xml_node node) : node_(node) {}
   bool exists() const { return static_cast<bool>(node_); }
+  /// Takes the element out of its document.
+  void Remove() { node_.parent().remove_child(node_); }
   ElementList Children() const;
   AttributeList Attributes() const;
 

@@ -64,6 +64,7 @@ void Protokoll::ProtokollNeu() {
   properties.Attributes().Add(server_.ServerLogin().at(0), "ukey");
   sections.Add("", "settings");
   sections.Add("", "lessons");
+  answer_given_ = any_answer_given_ = false;
 }
 
 void Protokoll::ProtokollAufgabe(const LessonFacts& facts) {
@@ -105,7 +106,8 @@ void Protokoll::ProtokollAntwort(std::int16_t lfd, std::optional<std::int16_t> i
   }
   answer_ = lesson_.Children().Find("answers").Item(1).Children().Add("", "answer");
   answer_.Attributes().Add(number_text(lfd), "lfd");
-  if (iv_nr) ProtokollProperty("interval", *iv_nr);
+  answer_given_ = false;
+  if (iv_nr) add_property(answer_, "interval", number_text(*iv_nr));
 }
 
 void Protokoll::ProtokollMesswerte(double seconds, double repeats,
@@ -117,6 +119,7 @@ void Protokoll::ProtokollMesswerte(double seconds, double repeats,
 
 void Protokoll::ProtokollProperty(const std::string& key, std::string_view value) {
   add_property(current_answer(), key, value);
+  answer_given_ = any_answer_given_ = true;
 }
 
 void Protokoll::ProtokollProperty(const std::string& key, double value) {
@@ -134,6 +137,7 @@ void Protokoll::ProtokollProperty(const std::string& key, int value) {
 FinishResult Protokoll::ProtokollSchluss(const std::string& exercise_caption,
                                          const std::string& exercise_name,
                                          const std::vector<std::string>& pairs) {
+  drop_unanswered();
   ElementList facts = section("properties").Children();
   facts.Add(exercise_caption, "exercise");
   facts.Add(timestamp(clock_.now()), "timestamp");
@@ -147,6 +151,13 @@ FinishResult Protokoll::ProtokollSchluss(const std::string& exercise_caption,
   lesson_ = {};
   answer_ = {};
   return finish_again();
+}
+
+void Protokoll::drop_unanswered() {
+  if (answer_.exists() && !answer_given_) answer_.Remove();
+  if (any_answer_given_) return;
+  const ElementList lessons = section("lessons").Children().Find("lesson");
+  for (std::size_t i = 1; i <= lessons.Count(); ++i) lessons.Item(i).Remove();
 }
 
 FinishResult Protokoll::finish_again() {

@@ -75,8 +75,9 @@ class Protokoll {
   void ProtokollProperty(const std::string& key, double value);
   void ProtokollProperty(const std::string& key, float value);
   void ProtokollProperty(const std::string& key, int value);
-  /// Adds what is known at the end and writes the file. `pairs` is EinstDatSave: element 0 is
-  /// passed over, then label and value in turn.
+  /// Adds what is known at the end and writes the file. An answer that was never given is left out;
+  /// without any answer the lessons are left out too. `pairs` is EinstDatSave: element 0 is passed
+  /// over, then label and value in turn.
   FinishResult ProtokollSchluss(const std::string& exercise_caption,
                                 const std::string& exercise_name,
                                 const std::vector<std::string>& pairs);
@@ -85,6 +86,7 @@ class Protokoll {
 
  private:
   void record_lesson(const LessonFacts& facts);
+  void drop_unanswered();
   Element section(const std::string& name) const;
   Element current_answer() const;
 
@@ -96,6 +98,8 @@ class Protokoll {
   std::filesystem::path file_;
   Element lesson_;
   Element answer_;
+  bool answer_given_ = false;      ///< something was told of the current answer
+  bool any_answer_given_ = false;  ///< in the whole exercise
 };
 
 }  // namespace tonarix

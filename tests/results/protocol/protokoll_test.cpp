@@ -192,6 +192,7 @@ TEST_F(ProtokollTest, AFullDiskFallsBackToTheDataFolderAndTellsWhy) {
 TEST_F(ProtokollTest, NothingIsLostWhileNoFolderTakesIt) {
   protokoll.ProtokollNeu();
   protokoll.ProtokollAufgabe(two_intervals());
+  protokoll.ProtokollMesswerte(1, 0);
   writer.broken_folders = {"/usual", "/data"};
   EXPECT_TRUE(protokoll.ProtokollSchluss("bestimmen", "", {}).failed);
   EXPECT_THAT(writer.written, IsEmpty());

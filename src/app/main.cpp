@@ -1,0 +1,76 @@
+#include <QApplication>
+#include <QtGlobal>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+#include "app/options.h"
+#include "app/program.h"
+#include "base/windows/theme.h"
+
+namespace {
+
+using tonarix::Options;
+
+/// Without a display Qt would end the process with a page of text; one line says it better.
+bool display_missing() {
+  const auto given = [](const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr && *value != '\0';
+  };
+  return !given("DISPLAY") && !given("WAYLAND_DISPLAY") && !given("QT_QPA_PLATFORM");
+}
+
+int list_midi(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  tonarix::QtScheduler scheduler;
+  tonarix::SystemDevices devices(scheduler, [](tonarix::Scheduler::Task) {});
+  int number = 0;
+  for (const auto& device : devices.list()) {
+    std::cout << number++ << "  " << device.name << '\n';
+  }
+  return 0;
+}
+
+void quiet_qt(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtFatalMsg) {
+    std::cerr << "vemo06: the display can't be used: " << text.section('\n', 0, 0).toStdString()
+              << '\n';
+    std::_Exit(1);
+  }
+  if (std::getenv("QT_LOGGING_RULES") != nullptr) std::cerr << text.toStdString() << '\n';
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  Options options;
+  if (const auto error = tonarix::parse_options({argv + 1, argv + argc}, options)) {
+    std::cerr << error->line << '\n';
+    return 2;
+  }
+  switch (options.task) {
+    case Options::Task::list_midi:
+      return list_midi(argc, argv);
+    case Options::Task::show_version:
+      std::cout << "vemo06 " << tonarix::application_facts().version() << '\n';
+      return 0;
+    case Options::Task::show_help:
+      std::cout << tonarix::help_text();
+      return 0;
+    case Options::Task::open_module:
+      break;
+  }
+  if (display_missing()) {
+    std::cerr << "vemo06: no display; the program needs a graphical session.\n";
+    return 1;
+  }
+  qInstallMessageHandler(quiet_qt);
+  int one = 1;  // the options are our own; Qt gets the name alone
+  QApplication application(one, argv);
+  application.setQuitOnLastWindowClosed(false);
+  tonarix::theme::apply(application);
+  tonarix::Program program(application, options);
+  program.open();
+  return application.exec();
+}

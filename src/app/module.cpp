@@ -1,0 +1,167 @@
+#include "app/module.h"
+
+#include <map>
+#include <variant>
+
+#include "config/einstellung1.h"
+#include "engine/material/saved_training.h"
+#include "exercises/determine/arbeitsblatt1.h"
+#include "results/result_window.h"
+
+namespace tonarix {
+
+namespace {
+
+constexpr int kEarTraining = 0;
+constexpr int kDetermine = 1;
+
+bool can_be_practised(int Theoriewahl, int ueb_typ) {
+  return Theoriewahl == kEarTraining && ueb_typ == kDetermine;
+}
+
+}  // namespace
+
+Module::Module(Outside outside)
+    : outside_(std::move(outside)),
+      server_(outside_.create_host, outside_.application),
+      errors_(server_, outside_.language, outside_.dialogs),
+      protocol_(
+          server_, outside_.clock, outside_.documents, outside_.folders,
+          [this](std::string_view tag, std::exception_ptr error) { errors_.log(tag, error); }) {
+  outside_.windows.on_empty = outside_.quit;
+}
+
+Module::~Module() { outside_.windows.clear(); }
+
+void Module::open() {
+  SelectionContext context{outside_.scheduler,
+                           outside_.windows,
+                           server_,
+                           outside_.language,
+                           tables_,
+                           errors_,
+                           outside_.dialogs,
+                           {settings_.Theoriewahl, settings_.ueb_typ, settings_.tempo_ms,
+                            settings_.supervisor, settings_.klein_bildschirm},
+                           outside_.screen_width,
+                           [this](SettingsWindowKind kind) { open_settings(kind); },
+                           [this] { show_help(); },
+                           outside_.quit,
+                           can_be_practised,
+                           {}};
+  outside_.windows.open(std::make_unique<SelectionWindow>(std::move(context))).load();
+}
+
+void Module::load_names() {
+  if (interval_names_) return;
+  interval_names_.emplace(outside_.language);
+  tone_names_.emplace(outside_.language);
+}
+
+void Module::open_settings(SettingsWindowKind kind) {
+  if (kind != SettingsWindowKind::einstellung1) {
+    throw RuntimeError(RuntimeError::kOther, "This exercise has no settings window",
+                       "open_settings");
+  }
+  load_names();
+  const SettingsContext context{outside_.scheduler,
+                                outside_.windows,
+                                outside_.language,
+                                server_,
+                                errors_,
+                                outside_.dialogs,
+                                midi_,
+                                outside_.devices,
+                                midi_event_,
+                                settings_,
+                                statistics_,
+                                best_,
+                                tables_,
+                                *interval_names_,
+                                [this] { protocol_.ProtokollNeu(); },
+                                [this](SettingsWindow& caller) { open_exercise(caller); },
+                                [this] { outside_.windows.at(0)->show(); },
+                                [this](const std::string&) { show_help(); },
+                                outside_.put_listing,
+                                [this](const Settings& restored) { check_saved_state(restored); }};
+  outside_.windows.open(std::make_unique<Einstellung1>(context));
+  outside_.scheduler.post([this] { tell_sound_problem(); });
+}
+
+void Module::open_exercise(SettingsWindow& caller) {
+  const ExerciseContext context{
+      outside_.scheduler,
+      outside_.windows,
+      outside_.language,
+      server_,
+      errors_,
+      outside_.dialogs,
+      outside_.clock,
+      outside_.chance,
+      midi_,
+      midi_event_,
+      settings_,
+      key_,
+      row_,
+      statistics_,
+      best_,
+      protocol_,
+      *tone_names_,
+      *interval_names_,
+      caller,
+      [this](std::function<void()> closed) { open_result(std::move(closed)); }};
+  outside_.windows.open(std::make_unique<Arbeitsblatt1>(context));
+}
+
+void Module::open_result(std::function<void()> closed) {
+  const ResultContext context{outside_.scheduler,
+                              outside_.windows,
+                              outside_.language,
+                              server_,
+                              errors_,
+                              outside_.dialogs,
+                              outside_.clock,
+                              settings_,
+                              statistics_,
+                              *interval_names_,
+                              outside_.printer,
+                              outside_.computer_user,
+                              [this] { show_help(); }};
+  outside_.windows.open(std::make_unique<ResultWindow>(context, std::move(closed)));
+}
+
+void Module::check_saved_state(const Settings& restored) {
+  Key key;
+  build_scale(key, restored.tongeschl, restored.abfr_iv);
+  if (std::holds_alternative<SavedTrainingFault>(
+          from_record(restored.AntwSicherung, restored, key))) {
+    throw RuntimeError(RuntimeError::kTypeMismatch,
+                       "The saved state does not fit the settings saved with it",
+                       "check_saved_state");
+  }
+}
+
+void Module::tell_sound_problem() {
+  if (sound_problem_told_ || !outside_.sound_problem) return;
+  const auto problem = outside_.sound_problem();
+  if (!problem) return;
+  sound_problem_told_ = true;
+  outside_.dialogs.show(
+      {"Tonarix 2000", outside_.language.Wort(*problem), MessageStyle::warning, "", ""},
+      [](Reply) {});
+}
+
+void Module::show_help() {
+  static const std::map<std::string, TextKey> kHelp{{"grd_einst", 1283_text},
+                                                    {"einstellung1", 1284_text},
+                                                    {"arbeitsblatt1", 1285_text},
+                                                    {"testergebnis", 1286_text}};
+  const Window* newest = outside_.windows.newest();
+  const auto found = newest != nullptr ? kHelp.find(newest->name()) : kHelp.end();
+  if (found == kHelp.end()) return;
+  outside_.dialogs.show({outside_.language.Wort(1282_text), outside_.language.Wort(found->second),
+                         MessageStyle::plain, "", ""},
+                        [](Reply) {});
+}
+
+}  // namespace tonarix

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "base/chance.h"
+#include "base/dialogs.h"
+#include "base/wall_clock.h"
+#include "base/window.h"
+#include "config/settings.h"
+#include "engine/records/records.h"
+#include "host/error_report.h"
+#include "host/language.h"
+#include "host/selection_window.h"
+#include "host/server.h"
+#include "host/text_tables.h"
+#include "music/interval.h"
+#include "music/key.h"
+#include "music/tones.h"
+#include "results/protocol/protokoll.h"
+#include "results/sheet_printer.h"
+#include "sound/midi.h"
+
+namespace tonarix {
+
+class SettingsWindow;
+
+/// What the module takes from outside: clock, chance, host, devices, and the ways to the user.
+struct Outside {
+  Scheduler& scheduler;
+  WindowList& windows;
+  Language& language;
+  const WallClock& clock;
+  Chance& chance;
+  Dialogs& dialogs;
+  MidiDevices& devices;
+  DocumentWriter& documents;
+  SheetPrinter& printer;
+  Server::HostFactory create_host;
+  ProtocolFolders folders;
+  Server::Application application;
+  std::string computer_user;
+  int screen_width = 1024;  ///< pixels
+  /// Why the chosen device is silent, told once before the first exercise.
+  std::function<std::optional<TextKey>()> sound_problem;
+  std::function<void(const std::string& document)> put_listing;
+  std::function<void()> quit;
+};
+
+/// The whole exercise module but for the toolkit: the state that exists once, and the windows' way
+/// from one to the next.
+class Module {
+ public:
+  explicit Module(Outside outside);
+  ~Module();
+
+  /// Opens the first window and connects to the host.
+  void open();
+
+  const Settings& settings() const { return settings_; }
+  const TaskRow& row() const { return row_; }
+
+ private:
+  void open_settings(SettingsWindowKind kind);
+  void open_exercise(SettingsWindow& caller);
+  void open_result(std::function<void()> closed);
+  void check_saved_state(const Settings& restored);
+  void load_names();
+  void tell_sound_problem();
+  void show_help();
+
+  Outside outside_;
+  Server server_;
+  TextTables tables_;
+  ErrorReport errors_;
+  Settings settings_;
+  TaskRow row_;
+  Key key_;
+  Auswertung statistics_;
+  Ergebnis best_;
+  Midi midi_;
+  MidiEvent midi_event_;
+  Protokoll protocol_;
+  std::optional<ToneNames> tone_names_;
+  std::optional<IntervalNames> interval_names_;
+  bool sound_problem_told_ = false;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tonarix {
+
+/// What the command line asks for.
+struct Options {
+  enum class Task { open_module, list_midi, show_version, show_help };
+  Task task = Task::open_module;
+  std::filesystem::path data;       ///< embedded host's folder; empty: the usual place
+  std::optional<std::string> user;  ///< "Name;Vorname;Matrikel-Nr."; none: not logged on
+  int role = 2;                     ///< 2 ordinary user, 4 supervisor
+  std::string language = "Deutsch";
+  std::optional<int> midi;              ///< device number
+  std::vector<std::string> parameters;  ///< the host's own "/P=" list; not used
+};
+
+/// A command line that can't be understood; what() is one line for the user.
+struct OptionError {
+  std::string line;
+};
+
+/// Reads the arguments behind the program's name.
+std::optional<OptionError> parse_options(const std::vector<std::string>& arguments,
+                                         Options& options);
+
+/// The folder `tonarix` among the user's data: $XDG_DATA_HOME, else ~/.local/share.
+std::filesystem::path usual_data_folder();
+
+std::string help_text();
+
+}  // namespace tonarix

@@ -1,0 +1,138 @@
+#include "app/program.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <QScreen>
+#include <array>
+#include <chrono>
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+#include <iostream>
+
+#include "config/windows/einstellung1_view.h"
+#include "exercises/determine/windows/arbeitsblatt1_view.h"
+#include "host/local/catalogue_folder.h"
+#include "host/windows/selection_view.h"
+#include "results/windows/result_view.h"
+
+namespace tonarix {
+
+namespace {
+
+std::uint64_t clock_seed() {
+  return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
+/// "name on computer"
+std::string computer_user() {
+  const passwd* entry = getpwuid(getuid());
+  std::array<char, HOST_NAME_MAX + 1> host{};
+  gethostname(host.data(), host.size() - 1);
+  std::string user = entry != nullptr ? entry->pw_name : "?";
+  return host[0] != '\0' ? user + " (" + host.data() + ")" : user;
+}
+
+std::filesystem::path data_folder(const Options& options) {
+  return options.data.empty() ? usual_data_folder() : options.data;
+}
+
+LocalHostOptions host_options(const Options& options) {
+  return {data_folder(options), options.user, options.role, options.language, options.midi};
+}
+
+}  // namespace
+
+CivilTime SystemClock::now() const {
+  const std::time_t moment = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&moment, &local);
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
+          local.tm_hour,        local.tm_min,     local.tm_sec};
+}
+
+Server::Application application_facts() {
+  Server::Application facts;
+  facts.executable = "vemo06";
+  facts.title = "Tonarix 2000";
+  return facts;
+}
+
+std::filesystem::path catalogue_place() {
+  const std::filesystem::path program =
+      std::filesystem::read_symlink("/proc/self/exe").parent_path();
+  for (const auto& place : {program / "lang", program / ".." / ".." / "lang",
+                            std::filesystem::path("/usr/share/tonarix/lang")}) {
+    std::error_code ignored;
+    if (std::filesystem::exists(place / "tonarixlang.deutsch.qm", ignored)) return place;
+  }
+  return program / "lang";
+}
+
+Program::Program(QApplication& application, const Options& options)
+    : application_(application),
+      chance_(clock_seed()),
+      windows_(scheduler_),
+      language_(catalogue_folder(catalogue_place())),
+      presenter_(windows_),
+      dialogs_(language_, presenter_),
+      printer_(language_, [this] { return presenter_.newest_visible(); }),
+      devices_(scheduler_,
+               [this](Scheduler::Task task) { scheduler_.post_from_thread(std::move(task)); }),
+      host_(host_options(options), clock_),
+      module_(outside(options)) {
+  presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
+  presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
+  presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);
+  presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
+}
+
+Program::~Program() = default;
+
+Outside Program::outside(const Options& options) {
+  return {scheduler_,
+          windows_,
+          language_,
+          clock_,
+          chance_,
+          dialogs_,
+          devices_,
+          documents_,
+          printer_,
+          host_.factory(),
+          {protocol_folder(), data_folder(options)},
+          application_facts(),
+          computer_user(),
+          QGuiApplication::primaryScreen()->size().width(),
+          [this] { return sound_problem(); },
+          [](const std::string& document) { std::clog << document << std::flush; },
+          [this] { application_.quit(); }};
+}
+
+void Program::open() {
+  module_.open();
+  scheduler_.post(milliseconds(0), [this] { tell_problems(); });
+}
+
+std::optional<TextKey> Program::sound_problem() const {
+  switch (devices_.problem()) {
+    case Synthesizer::Problem::none:
+      return {};
+    case Synthesizer::Problem::no_sound_font:
+      return 1281_text;
+    case Synthesizer::Problem::no_sound_hardware:
+      return 1280_text;
+  }
+  return {};
+}
+
+void Program::tell_problems() {
+  for (const Problem& problem : host_.problems()) {
+    dialogs_.show({"Tonarix 2000", language_.Wort(problem.text) + "\n" + problem.detail,
+                   MessageStyle::warning, "", ""},
+                  [](Reply) {});
+  }
+}
+
+}  // namespace tonarix

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QApplication>
+#include <memory>
+
+#include "app/module.h"
+#include "app/options.h"
+#include "base/chance.h"
+#include "base/windows/presenter.h"
+#include "base/windows/qt_dialogs.h"
+#include "base/windows/qt_scheduler.h"
+#include "host/local/local_host.h"
+#include "results/windows/qt_sheet_printer.h"
+#include "sound/devices/system_devices.h"
+
+namespace tonarix {
+
+/// The civil time of this computer.
+class SystemClock final : public WallClock {
+ public:
+  CivilTime now() const override;
+};
+
+/// The running program: the real clock, devices, host and windows around the module.
+class Program {
+ public:
+  Program(QApplication& application, const Options& options);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// Opens the first window; the application's event loop does the rest.
+  void open();
+
+  Module& module() { return module_; }
+  Presenter& presenter() { return presenter_; }
+  WindowList& windows() { return windows_; }
+
+ private:
+  Outside outside(const Options& options);
+  std::optional<TextKey> sound_problem() const;
+  void tell_problems();
+
+  QApplication& application_;
+  QtScheduler scheduler_;
+  SystemClock clock_;
+  SeededChance chance_;
+  WindowList windows_;
+  Language language_;
+  Presenter presenter_;
+  QtDialogs dialogs_;
+  QtSheetPrinter printer_;
+  FileDocumentWriter documents_;
+  SystemDevices devices_;
+  LocalHostHome host_;
+  Module module_;
+};
+
+/// Name and version of the program, as logs and windows show them.
+Server::Application application_facts();
+/// Folder of the compiled catalogues: beside the program, in its build tree, or installed.
+std::filesystem::path catalogue_place();
+
+}  // namespace tonarix

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "base/controls.h"
+
+namespace tonarix {
+
+/// The controls that every exercise window has, under their given names.
+struct ExerciseControls {
+  explicit ExerciseControls(Window& window)
+      : CmdNextAufg(window, "CmdNextAufg"),
+        LbNextAufg(window, "LbNextAufg"),
+        wieder(window, "wieder"),
+        wieder2(window, "wieder2"),
+        grundton(window, "grundton"),
+        zurueck(window, "zurueck"),
+        cmd_test_ein(window, "cmd_test_ein"),
+        cmd_test_aus(window, "cmd_test_aus"),
+        ergebnis_anz(window, "ergebnis_anz"),
+        matboxanz(window, "matboxanz"),
+        lab_aufgaben(window, "lab_aufgaben"),
+        stop_uhr(window, "stop_uhr"),
+        Uhr(window, "Uhr"),
+        zaehler(window, "zaehler"),
+        whlgzaehler(window, "whlgzaehler"),
+        GrdtonWhlg(window, "GrdtonWhlg"),
+        ergebnis(window, "ergebnis"),
+        nriv(window, "nriv"),
+        true_false(window, "true_false"),
+        WaitMeldung(window, "WaitMeldung"),
+        repeat_label(window, "repeat_label"),
+        keynote_label(window, "keynote_label"),
+        question(window, "question"),
+        hint(window, "hint"),
+        sounding(window, "sounding") {}
+
+  Control CmdNextAufg;  ///< next task, order by hand
+  Control LbNextAufg;   ///< shown while the automatic order waits
+  Control wieder;       ///< repeat during the task
+  Control wieder2;      ///< repeat after its end
+  Control grundton;     ///< keynote check
+  Control zurueck;
+  Control cmd_test_ein;
+  Control cmd_test_aus;
+  ControlArray<Control, 0, 2> ergebnis_anz;  ///< training status, solved, too difficult
+  ControlArray<Control, 0, 15> matboxanz;    ///< percentage bar; element 15 carries the value
+  Control lab_aufgaben;                      ///< tasks left
+  Control stop_uhr;                          ///< time left
+  Control Uhr;
+  ControlArray<Control, 0, 1> zaehler;   ///< right, wrong
+  Control whlgzaehler;                   ///< repeats
+  Control GrdtonWhlg;                    ///< keynote checks
+  ControlArray<Control, 0, 4> ergebnis;  ///< answer fields
+  ControlArray<Control, 0, 4> nriv;      ///< number of the interval being asked
+  ControlArray<Control, 0, 1> true_false;
+  Control WaitMeldung;
+  Control repeat_label;
+  Control keynote_label;
+  Control question;                      ///< the one question of the window
+  Control hint;                          ///< what comes next, where it would be a riddle
+  ControlArray<Control, 0, 5> sounding;  ///< the tone that sounds now, by its place in the row
+};
+
+}  // namespace tonarix

@@ -1,0 +1,42 @@
+#include "app/options.h"
+
+#include <gtest/gtest.h>
+
+namespace tonarix {
+namespace {
+
+TEST(Options, AreReadInEitherForm) {
+  Options options;
+  EXPECT_FALSE(parse_options({"--data", "/tmp/x", "--user=Lovelace;Ada;4711", "--role", "4",
+                              "--language", "English", "--midi=0", "/P=a;;b"},
+                             options));
+  EXPECT_EQ(options.data, "/tmp/x");
+  EXPECT_EQ(options.user, "Lovelace;Ada;4711");
+  EXPECT_EQ(options.role, 4);
+  EXPECT_EQ(options.language, "English");
+  EXPECT_EQ(options.midi, 0);
+  EXPECT_EQ(options.parameters, (std::vector<std::string>{"a", "", "b"}));
+}
+
+TEST(Options, AnEmptyHostListIsAccepted) {
+  Options options;
+  EXPECT_FALSE(parse_options({"/P="}, options));
+  EXPECT_TRUE(options.parameters.empty());
+}
+
+TEST(Options, MistakesAreNamedInOneLine) {
+  const std::vector<std::vector<std::string>> mistakes{
+      {"--dat", "x"}, {"x"},        {"--data"},       {"--data", ""}, {"--role", "3"},
+      {"--role=5"},   {"--midi=x"}, {"--midi", "-1"}, {"--midi=1x"},  {"--midi=99999"},
+      {"--user", ""}, {"--user=;"}, {"--language="}};
+  for (const auto& arguments : mistakes) {
+    Options options;
+    const auto error = parse_options(arguments, options);
+    ASSERT_TRUE(error) << arguments.front();
+    EXPECT_EQ(error->line.find('\n'), std::string::npos);
+    EXPECT_NE(error->line.find(arguments.front().substr(0, 5)), std::string::npos) << error->line;
+  }
+}
+
+}  // namespace
+}  // namespace tonarix

@@ -1,0 +1,174 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <cmath>
+#include <memory>
+#include <string>
+
+#include "app/module.h"
+#include "config/einstellung1.h"
+#include "exercises/determine/arbeitsblatt1.h"
+#include "results/result_window.h"
+#include "support/fake_dialogs.h"
+#include "support/fake_document_writer.h"
+#include "support/fake_host.h"
+#include "support/recording_midi.h"
+#include "support/recording_printer.h"
+#include "support/virtual_scheduler.h"
+
+namespace tonarix {
+
+/// Texts that show their key: "[629s]".
+struct KeyLanguage final : LanguageObject {
+  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
+};
+struct TwoLanguages final : LanguageList {
+  std::vector<LanguageRow> languages() override {
+    return {{"English", "english"}, {"Deutsch", "deutsch"}};
+  }
+};
+
+/// A calendar that stands still at 21 November 2026, 09:05:32.
+struct StandingClock final : WallClock {
+  CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
+};
+
+/// The whole module between fakes, in virtual time. Several processes can follow each other on one
+/// host.
+class FlowBed {
+ public:
+  explicit FlowBed(FakeHost& shared_host, std::uint64_t seed = 1)
+      : host(shared_host), chance(seed) {
+    module.open();
+    scheduler.advance_ms(10);
+  }
+
+  template <typename Kind>
+  Kind& window(const std::string& name) {
+    Window* newest = windows.newest();
+    if (newest == nullptr || newest->name() != name) {
+      throw std::logic_error("The newest window is not " + name);
+    }
+    return dynamic_cast<Kind&>(*newest);
+  }
+  SelectionWindow& selection() { return window<SelectionWindow>("grd_einst"); }
+  Einstellung1& settings() { return window<Einstellung1>("einstellung1"); }
+  Arbeitsblatt1& exercise() { return window<Arbeitsblatt1>("arbeitsblatt1"); }
+  ResultWindow& result() { return window<ResultWindow>("testergebnis"); }
+
+  Einstellung1& open_settings() {
+    selection().cmdOk_click();
+    scheduler.advance_ms(50);
+    return settings();
+  }
+  Arbeitsblatt1& open_exercise() {
+    Einstellung1& window = settings();
+    window.click(window.cmdOk);
+    scheduler.advance_ms(1);
+    return exercise();
+  }
+
+  /// Beat in milliseconds and the time a row takes with its pauses and fades.
+  double beat() const {
+    return module.settings().tempo_ms[static_cast<std::size_t>(module.settings().tempo)];
+  }
+  int tones() const { return module.settings().invzahl + 2; }
+  void hear_row() { scheduler.advance_ms(beat() * tones() + 500); }
+
+  /// The code that is right for the interval being asked.
+  std::int16_t right_code(int iv_nr) const {
+    return static_cast<std::int16_t>(std::abs(module.row().iv[static_cast<std::size_t>(iv_nr)]));
+  }
+  /// An offered code that is wrong and still open.
+  std::int16_t wrong_code(Arbeitsblatt1& window, int iv_nr) const {
+    for (int code = 1; code <= 21; ++code) {
+      const Control* button = window.find(
+          (module.settings().abfr_iv == 0 ? "st_int_" : "intervall_") + std::to_string(code));
+      if (button != nullptr && button->open() && code != right_code(iv_nr)) {
+        return static_cast<std::int16_t>(code);
+      }
+    }
+    return 0;
+  }
+  void press(Arbeitsblatt1& window, std::int16_t code) {
+    if (module.settings().abfr_iv == 0) {
+      window.st_int_click(code);
+    } else {
+      window.intervall_click(code);
+    }
+  }
+  /// Index of the interval being asked, -1 when none is.
+  static int asked(const Arbeitsblatt1& window) {
+    for (int i = 0; i <= 4; ++i) {
+      if (window.nriv[i].visible) return i;
+    }
+    return -1;
+  }
+
+  /// Answers the whole row rightly, each interval after `seconds`, wrong first with the chance
+  /// `wrong`.
+  void answer_row(Arbeitsblatt1& window, double seconds = 1, double wrong = 0) {
+    for (int iv_nr = asked(window); iv_nr >= 0; iv_nr = asked(window)) {
+      scheduler.advance_ms(seconds * 1000);
+      if (student.Rnd() < wrong) press(window, wrong_code(window, iv_nr));
+      press(window, right_code(iv_nr));
+      if (asked(window) == iv_nr) throw std::logic_error("The right answer was not taken");
+    }
+  }
+  /// Hears the row once more and goes on by the order in force.
+  void next_task(Arbeitsblatt1& window) {
+    window.wieder2_click();
+    hear_row();
+    if (module.settings().abfrage == 1) {
+      scheduler.advance_ms(1800);
+    } else {
+      window.CmdNextAufg_click();
+    }
+    hear_row();
+  }
+  /// Leaves by `zurueck`, past the result sheet, and reads the document that was written.
+  const pugi::xml_document& leave(Arbeitsblatt1& window) {
+    window.zurueck_click();
+    scheduler.advance_ms(400);
+    result().cmdOk_click();
+    scheduler.advance_ms(50);
+    document.load_string(documents.written.back().content.c_str());
+    return document;
+  }
+
+  FakeHost& host;
+  VirtualScheduler scheduler;
+  StandingClock clock;
+  SeededChance chance;
+  SeededChance student{99};
+  WindowList windows{scheduler};
+  Language language{{[] { return std::make_unique<TwoLanguages>(); },
+                     [](const std::string&) { return std::make_unique<KeyLanguage>(); }}};
+  RecordingDialogs dialogs{scheduler};
+  RecordingDevices devices{scheduler};
+  FakeDocumentWriter documents;
+  RecordingPrinter printer;
+  std::string listing;
+  bool ended = false;
+  pugi::xml_document document;
+  Module module{{scheduler,
+                 windows,
+                 language,
+                 clock,
+                 chance,
+                 dialogs,
+                 devices,
+                 documents,
+                 printer,
+                 host.factory(),
+                 {"/protocols", "/data"},
+                 {"vemo06", "Tonarix 2000"},
+                 "ada (desk)",
+                 1280,
+                 {},
+                 [this](const std::string& text) { listing += text; },
+                 [this] { ended = true; }}};
+};
+
+}  // namespace tonarix
