@@ -195,6 +195,12 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
   painter->restore();
 }
 
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+  return control == CC_ComboBox && part == SC_ComboBoxEditField ? rect.adjusted(4, 0, 0, 0) : rect;
+}
+
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                               const QWidget* widget) const {
   QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);

@@ -243,11 +243,13 @@ Card::Card(QWidget* parent) : QFrame(parent) {
   body_ = new QVBoxLayout;
   body_->setSpacing(theme::inside);
   outer->addLayout(body_, 1);
+  outer->addStretch();
 }
 
 Label& Card::title() {
   if (!title_) {
     title_ = new TitleLabel(*this);
+    title_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     head_->insertWidget(0, title_, 1);
   }
   return *title_;

@@ -40,6 +40,7 @@ WindowView::WindowView(Window& window, const Texts& texts)
   scroll_->setFocusPolicy(Qt::NoFocus);
   content_ = new QWidget;
   scroll_->setWidget(content_);
+  content_->installEventFilter(this);
   whole->addWidget(scroll_, 1);
   actions_ = new QHBoxLayout;
   actions_->setContentsMargins(theme::edge, theme::inside, theme::edge, 0);
@@ -96,22 +97,35 @@ void WindowView::set_place(const QWidget* before) {
   if (before) place_ = before->geometry().center();
 }
 
-void WindowView::place_first() {
-  if (placed_) return;
-  placed_ = true;
-  const QScreen* at = place_ ? QGuiApplication::screenAt(*place_) : nullptr;
-  const QRect room = (at ? at : screen())->availableGeometry();
-  QSize size = sizeHint();
+QSize WindowView::with_bars(QSize size, const QSize& room) const {
   // A bar for one direction takes room from the other.
   const int bar = scroll_->verticalScrollBar()->sizeHint().width();
   if (size.height() > room.height()) size.rwidth() += bar;
   if (size.width() > room.width()) size.rheight() += bar;
-  size = size.boundedTo(room.size());
-  QRect frame(QPoint(), size);
+  return size.boundedTo(room);
+}
+
+void WindowView::place_first() {
+  if (own_size_.isValid()) return;
+  const QScreen* at = place_ ? QGuiApplication::screenAt(*place_) : nullptr;
+  const QRect room = (at ? at : screen())->availableGeometry();
+  QRect frame(QPoint(), with_bars(sizeHint(), room.size()));
   frame.moveCenter(place_ ? *place_ : room.center());
-  frame.moveLeft(std::clamp(frame.left(), room.left(), room.right() + 1 - size.width()));
-  frame.moveTop(std::clamp(frame.top(), room.top(), room.bottom() + 1 - size.height()));
+  frame.moveLeft(std::clamp(frame.left(), room.left(), room.right() + 1 - frame.width()));
+  frame.moveTop(std::clamp(frame.top(), room.top(), room.bottom() + 1 - frame.height()));
   setGeometry(frame);
+  own_size_ = frame.size();
+  // No control has the keyboard until the user asks for one: Return is the way on.
+  setFocus(Qt::OtherFocusReason);
+}
+
+void WindowView::grow() {
+  // Texts that come after the window has opened may need more room.
+  if (!isVisible() || size() != own_size_) return;
+  const QSize need = content_->minimumSizeHint() + sizeHint() - content_->sizeHint();
+  if (need.width() <= width() && need.height() <= height()) return;
+  own_size_ = with_bars(need, screen()->availableGeometry().size()).expandedTo(size());
+  resize(own_size_);
 }
 
 Button* WindowView::button(const Control& control, Bindings::Handler pressed, Binding look) {
@@ -203,6 +217,19 @@ void WindowView::keyReleaseEvent(QKeyEvent* event) {
 void WindowView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange && !isActiveWindow()) show_mnemonics(false);
   QWidget::changeEvent(event);
+}
+
+bool WindowView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == content_ && event->type() == QEvent::LayoutRequest) {
+    grow();
+    fit();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  fit();
 }
 
 void WindowView::showEvent(QShowEvent* event) {

@@ -95,14 +95,21 @@ class WindowView : public QWidget {
   /// After each `apply`, for what a subclass draws itself.
   virtual void applied() {}
 
+  /// The size, or what stands in `content()`, has changed: a subclass may lay itself out anew.
+  virtual void fit() {}
+
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void place_first();
+  void grow();
+  QSize with_bars(QSize size, const QSize& room) const;
   void show_mnemonics(bool shown);
 
   Window* logic_;
@@ -115,7 +122,7 @@ class WindowView : public QWidget {
   std::vector<Button*> way_back_;
   Button* help_ = nullptr;
   std::optional<QPoint> place_;
-  bool placed_ = false;
+  QSize own_size_;  ///< the last size that the user did not choose
 };
 
 }  // namespace tonarix

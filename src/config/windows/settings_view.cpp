@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QMenu>
 #include <algorithm>
+#include <numeric>
 
 namespace tonarix {
 namespace {
@@ -47,13 +48,14 @@ void SettingsView::put(Card* card, int row, int column, int columns) {
 }
 
 int SettingsView::width_of(int columns) const {
-  int frame_width = columns == 4 ? kFrameWidth : 0;
+  std::vector<int> widths(static_cast<std::size_t>(columns), columns == 4 ? kFrameWidth : 0);
   for (const Place& place : places_) {
     const int least = place.card->minimumSizeHint().width();
     const int spanned = std::min(place.columns, columns);
-    frame_width = std::max(frame_width, (least - (spanned - 1) * kGap) / spanned);
+    int& width = widths[static_cast<std::size_t>(place.column % columns)];
+    width = std::max(width, (least - (spanned - 1) * kGap) / spanned);
   }
-  return columns * frame_width + (columns - 1) * kGap + 2 * theme::edge;
+  return std::accumulate(widths.begin(), widths.end(), 0) + (columns - 1) * kGap + 2 * theme::edge;
 }
 
 void SettingsView::arrange(int columns) {
@@ -82,8 +84,7 @@ void SettingsView::arrange(int columns) {
   }
 }
 
-void SettingsView::resizeEvent(QResizeEvent* event) {
-  WindowView::resizeEvent(event);
+void SettingsView::fit() {
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   arrange(width() >= width_of(4) ? 4 : width() >= width_of(2) + bar ? 2 : 1);
 }

@@ -38,7 +38,7 @@ class SettingsView : public WindowView {
   /// Help, the supervisor's two, back, OK; a notice between them where there is one.
   void add_buttons(const Control* notice = nullptr);
   void applied() override;
-  void resizeEvent(QResizeEvent* event) override;
+  void fit() override;
 
  private:
   struct Place {

@@ -14,6 +14,8 @@ SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
   rows->addWidget(question_);
   rows->addWidget(subject_);
   rows->addSpacing(theme::between - 4);
+  // As wide as looks calm, narrower where the screen is.
+  rows->addItem(new QSpacerItem(584, 0, QSizePolicy::Preferred, QSizePolicy::Fixed));
 
   auto* groups = new QHBoxLayout;
   groups->setSpacing(theme::between);
@@ -26,12 +28,9 @@ SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
   exercises_ = options(window.ueb_typ, exercises->body(),
                        [&window](int index) { window.ueb_typ_click(index); });
   exercises->body().addStretch();
-  for (Card* group : {areas, exercises}) {
-    group->setMinimumWidth(284);
-    groups->addWidget(group, 1);
-  }
+  for (Card* group : {areas, exercises}) groups->addWidget(group, 1);
   // Room for all four, so that nothing jumps when theory hides two of them.
-  exercises->setMinimumHeight(212);
+  groups->addStrut(232);
   rows->addLayout(groups, 1);
 
   Label* version = label(window.version, TextRole::note);
