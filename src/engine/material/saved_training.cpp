@@ -157,7 +157,7 @@ void resume(const SavedTraining& training, const Settings& settings, FrequencyBo
     const std::int16_t place = statistic_row(row.box.value, settings.abfr_iv);
     std::int16_t column = 0;
     for (const float value : row.statistics) statistics.Save(place, column++, value);
-    statistics.Increment(place, 3);
+    statistics.Save(place, 3, 1);
   }
   box.restore(rows);
 }

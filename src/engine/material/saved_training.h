@@ -50,8 +50,8 @@ std::variant<SavedTraining, SavedTrainingFault> from_record(const std::vector<st
                                                             const Settings& settings,
                                                             const Key& key);
 
-/// Goes on with a training at the start of a window: each row gets its weight, its statistics and
-/// its occurrence.
+/// Goes on with a training at the start of a window, after `BoxAufbau`: each row gets its weight,
+/// its statistics and its occurrence.
 void resume(const SavedTraining& training, const Settings& settings, FrequencyBox& box,
             Auswertung& statistics);
 

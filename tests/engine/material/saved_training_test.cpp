@@ -38,7 +38,6 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
     Settings settings = left.settings;
     settings.Uebungsmodus = 2;
     MaterialBed next(settings, 22);
-    next.statistics.init_arr(3, kStatisticRows - 1);
     const auto read = from_record(record, settings, next.key);
     ASSERT_TRUE(std::holds_alternative<SavedTraining>(read));
     const auto& saved = std::get<SavedTraining>(read);
