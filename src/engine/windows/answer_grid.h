@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "base/windows/widgets.h"
+
+namespace tonarix {
+
+/// An answer button, with the number key that presses it in grey at its edge.
+class AnswerButton final : public Button {
+ public:
+  using Button::Button;
+  /// 1 to 9, 0 for the tenth; -1 for none.
+  void set_digit(int digit);
+  int digit() const { return digit_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int digit_ = -1;
+};
+
+/// The answers in a fixed grid, row by row. Each button keeps its place, also while others are
+/// hidden; only a window too narrow for the columns gets fewer of them.
+class AnswerGrid final : public QWidget {
+ public:
+  /// At most this many columns.
+  AnswerGrid(int columns, QWidget* parent);
+  void add(AnswerButton& button);
+  const std::vector<AnswerButton*>& buttons() const { return buttons_; }
+  /// The shown buttons in reading order.
+  std::vector<AnswerButton*> shown() const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void arrange();
+  QSize cell() const;
+  int columns_for(int width) const;
+  int rows_for(int columns) const;
+
+  int columns_;
+  std::vector<AnswerButton*> buttons_;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,297 @@
+#include "engine/windows/exercise_view.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "base/windows/mnemonics.h"
+
+namespace tonarix {
+namespace {
+
+constexpr QSize kUsualSize(1024, 600);
+constexpr int kColumnWidth = 228;
+constexpr int kNarrow = 860;  // below this the column goes under the answers
+
+bool pressable(const Button* button) {
+  return button->isVisible() && button->isEnabled();
+}
+
+}  // namespace
+
+ExerciseView::ExerciseView(ExerciseWindow& window, const Texts& texts, Sound sound)
+    : WindowView(window, texts), window_(window), sound_(sound) {
+  // The focus begins at the window itself, so that Return never leaves by accident.
+  setFocusPolicy(Qt::ClickFocus);
+  halves_ = new QBoxLayout(QBoxLayout::LeftToRight, &content());
+  halves_->setContentsMargins(theme::edge, 12, theme::edge, 4);
+  halves_->setSpacing(theme::between);
+  middle_ = new QVBoxLayout;
+  middle_->setSpacing(12);
+  halves_->addLayout(middle_, 1);
+}
+
+QSize ExerciseView::sizeHint() const {
+  return kUsualSize;
+}
+
+void ExerciseView::build_head(const Control& explanation) {
+  head_ = new QBoxLayout(QBoxLayout::LeftToRight);
+  head_->setSpacing(theme::between);
+  Label* question = label(window_.question, TextRole::question);
+  question->setMinimumHeight(28);
+  head_->addWidget(question);
+  explained_ = label(explanation, TextRole::note);
+  explained_->setWordWrap(true);
+  head_->addWidget(explained_, 1);
+  middle_->addLayout(head_);
+}
+
+void ExerciseView::build_row(const Control& title, const Control* lead) {
+  Card* row_card = card(nullptr, nullptr);
+  row_card->head().addWidget(label(title, TextRole::title));
+  auto* messages = new Place(row_card);
+  for (const Control* message : {&window_.hint, &window_.WaitMeldung}) {
+    Label* shown = label(*message, TextRole::plain);
+    shown->setWordWrap(true);
+    shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    messages->add(*shown);
+  }
+  row_card->head().addWidget(messages, 1);
+
+  row_ = new AnswerRow(sound_ == Sound::heard, row_card);
+  if (lead) row_->set_lead(*label(*lead, TextRole::note));
+  for (int i = 0; i < AnswerRow::kFields; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const Control& number = window_.nriv[i];
+    bindings().bind(*row_->marks[at], number,
+                    [this, i, &number] { row_->set_number(i, to_qstring(number.text)); });
+    bindings().bind(*row_->fields[at], window_.ergebnis[i], {.signs = true});
+  }
+  for (int i = 0; sound_ == Sound::heard && i <= AnswerRow::kFields; ++i) {
+    SoundingMark* mark = row_->sounding[static_cast<std::size_t>(i)];
+    bindings().bind(*mark, window_.sounding[i], [this, mark, i] {
+      mark->setAccessibleName(word(1127_text) + QLatin1Char(' ') + QString::number(i + 1));
+    });
+  }
+  row_card->body().addWidget(row_);
+  middle_->addWidget(row_card);
+}
+
+void ExerciseView::build_standing() {
+  column_box_ = new QWidget(&content());
+  column_ = new QVBoxLayout(column_box_);
+  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setSpacing(12);
+  halves_->addWidget(column_box_);
+
+  training_card_ = card(nullptr, nullptr);
+  build_training(*training_card_);
+  test_card_ = card(nullptr, nullptr);
+  build_test(*test_card_);
+  Card* counters = card(nullptr, nullptr);
+  build_counters(*counters);
+  for (Card* made : {training_card_, test_card_, counters}) column_->addWidget(made);
+}
+
+void ExerciseView::build_training(Card& card) {
+  auto* place = new Place(&card);
+  place->add(*label(window_.ergebnis_anz[0], TextRole::title));
+  for (const int end : {1, 2}) {
+    auto* verdict = new Verdict(end == 1 ? Label::Sign::right : Label::Sign::wrong, &card);
+    bindings().bind(*verdict, window_.ergebnis_anz[end]);
+    place->add(*verdict);
+  }
+  card.body().addWidget(place);
+  const Control& value = window_.matboxanz[window_.matboxanz.last];
+  auto* bar = new PercentBar({word(1132_text), word(1130_text), word(1131_text)}, &card);
+  bindings().bind(*bar, value, [this, bar, &value] {
+    if (value.text.empty()) return;
+    bar->set_percent(std::stoi(value.text));
+    bar->setAccessibleName(to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') +
+                           bar->number());
+  });
+  card.body().addWidget(bar);
+}
+
+void ExerciseView::build_test(Card& card) {
+  card.title().setText(word(1133_text));
+  for (const Control* line : {&window_.lab_aufgaben, &window_.stop_uhr}) {
+    Label* shown = label(*line, TextRole::choice, {.keep_place = true});
+    shown->setWordWrap(true);
+    card.body().addWidget(shown);
+  }
+  auto* place = new Place(&card);
+  place->add(*action(window_.cmd_test_ein, [this] { window_.cmd_test_ein_click(); }));
+  place->add(*action(window_.cmd_test_aus, [this] { window_.cmd_test_aus_click(); }));
+  card.body().addWidget(place);
+}
+
+void ExerciseView::build_counters(Card& card) {
+  struct Line {
+    const Control& number;
+    const Control& name;
+    bool shown;
+  };
+  const bool heard = sound_ == Sound::heard;
+  const Line lines[] = {{window_.zaehler[0], window_.true_false[0], true},
+                        {window_.zaehler[1], window_.true_false[1], true},
+                        {window_.whlgzaehler, window_.repeat_label, heard},
+                        {window_.GrdtonWhlg, window_.keynote_label, heard}};
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(theme::inside);
+  grid->setVerticalSpacing(2);
+  grid->setColumnStretch(1, 1);
+  int row = 0;
+  for (const Line& line : lines) {
+    if (!line.shown) continue;
+    Label* number = label(line.number, TextRole::number);
+    number->setMinimumWidth(44);
+    grid->addWidget(number, row, 0);
+    Label* name = label(line.name, TextRole::note);
+    name->setWordWrap(true);
+    grid->addWidget(name, row, 1);
+    ++row;
+  }
+  card.body().addLayout(grid);
+}
+
+void ExerciseView::build_actions(const Control* frame) {
+  auto* line = action_line_ = new ActionLine(this);
+  if (frame) bindings().bind(*line, *frame, {});
+  if (sound_ == Sound::heard) {
+    line->add_left(*action(window_.grundton, [this] { window_.grundton_click(); }));
+    auto* repeats = new Place(line);
+    repeats->add(*action(window_.wieder, [this] { window_.wieder_click(); }));
+    repeats->add(*action(window_.wieder2, [this] { window_.wieder2_click(); }));
+    line->add_left(*repeats);
+  }
+  auto* next = new Place(line);
+  next->add(*action(window_.CmdNextAufg, [this] { window_.CmdNextAufg_click(); }));
+  next->add(*label(window_.LbNextAufg, TextRole::plain), Qt::AlignRight | Qt::AlignVCenter);
+  line->add_right(*next);
+  Button* back = action(window_.zurueck, [this] { window_.zurueck_click(); });
+  for (const TextKey key : {640_text, 625_text}) {
+    back->setText(word(key));
+    back->setMinimumWidth(std::max(back->minimumWidth(), back->sizeHint().width()));
+  }
+  line->add_right(*back);
+  clock_ = label(window_.Uhr, TextRole::note);
+  clock_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  line->add_right(*clock_);
+  actions().addWidget(line, 1);
+}
+
+Button* ExerciseView::action(const Control& control, Bindings::Handler pressed) {
+  action_buttons_.push_back({button(control, std::move(pressed)), &control});
+  return action_buttons_.back().button;
+}
+
+Button* ExerciseView::button_of(const Control* control) const {
+  const auto found =
+      std::find_if(action_buttons_.begin(), action_buttons_.end(),
+                   [control](const ActionButton& action) { return action.control == control; });
+  return found == action_buttons_.end() ? nullptr : found->button;
+}
+
+void ExerciseView::applied() {
+  // Before the captions are there nothing would be seen but empty frames.
+  const bool prepared = !window_.zurueck.text.empty();
+  content().setVisible(prepared);
+  action_line_->setVisible(prepared);
+
+  const Button* way_on = button_of(window_.default_button());
+  for (const ActionButton& action : action_buttons_) {
+    action.button->set_primary(action.button == way_on);
+    // A hidden one holds its place by its caption.
+    if (!action.control->visible) {
+      action.button->setText(plain_caption(to_qstring(action.control->text)));
+    }
+  }
+
+  int fields = 0;
+  int current = -1;
+  for (int i = 0; i < AnswerRow::kFields; ++i) {
+    if (window_.ergebnis[i].visible) fields = i + 1;
+    if (window_.nriv[i].visible) current = i;
+  }
+  row_->show_state(fields, current);
+
+  const bool training = window_.matboxanz[window_.matboxanz.last].visible;
+  const bool test = window_.cmd_test_ein.visible || window_.cmd_test_aus.visible;
+  training_card_->setVisible(training);
+  test_card_->setVisible(test);
+  for (AnswerGrid* grid : grids_) {
+    int place = 0;
+    for (AnswerButton* answer : grid->shown()) {
+      ++place;
+      answer->set_digit(place > 10 ? -1 : place % 10);
+    }
+  }
+}
+
+bool ExerciseView::press_answer(int key) {
+  if (key < Qt::Key_0 || key > Qt::Key_9) return false;
+  const int digit = key - Qt::Key_0;
+  for (const AnswerGrid* grid : grids_) {
+    if (!grid->isVisible()) continue;
+    for (AnswerButton* answer : grid->shown()) {
+      if (answer->digit() != digit) continue;
+      answer->click();
+      return true;
+    }
+  }
+  return false;
+}
+
+bool ExerciseView::press_letter(const QString& text) {
+  if (text.size() != 1 || !text[0].isLetter()) return false;
+  const QKeySequence alt(QStringLiteral("Alt+") + text.toUpper());
+  for (const ActionButton& action : action_buttons_) {
+    if (!pressable(action.button) || action.button->shortcut() != alt) continue;
+    action.button->click();
+    return true;
+  }
+  return false;
+}
+
+void ExerciseView::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat() || !bindings().live()) return;
+  const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+  if (plain && event->key() == Qt::Key_Escape) {
+    window_.escape_key();
+    return;
+  }
+  if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    auto* target = dynamic_cast<Button*>(focusWidget());
+    if (!target || !pressable(target)) target = button_of(window_.default_button());
+    if (target) target->click();
+    return;
+  }
+  if (plain && (press_answer(event->key()) || press_letter(event->text()))) return;
+  WindowView::keyPressEvent(event);
+}
+
+void ExerciseView::resizeEvent(QResizeEvent* event) {
+  WindowView::resizeEvent(event);
+  const bool narrow = width() < kNarrow;
+  halves_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  if (head_) {
+    head_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    head_->setSpacing(narrow ? 0 : theme::between);
+    explained_->setAlignment(Qt::AlignVCenter | (narrow ? Qt::AlignLeft : Qt::AlignRight));
+  }
+  if (!column_box_) return;
+  column_box_->setMinimumWidth(narrow ? 0 : kColumnWidth);
+  column_box_->setMaximumWidth(narrow ? QWIDGETSIZE_MAX : kColumnWidth);
+  // The clock stands at the foot of the column, the actions end where the answers end.
+  if (clock_) clock_->setMinimumWidth(narrow ? 0 : kColumnWidth + theme::inside);
+}
+
+void ExerciseView::showEvent(QShowEvent* event) {
+  setFocus();
+  WindowView::showEvent(event);
+}
+
+}  // namespace tonarix

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <vector>
+
+#include "base/windows/window_view.h"
+#include "engine/exercise_window.h"
+#include "engine/windows/answer_grid.h"
+#include "engine/windows/answer_row.h"
+#include "engine/windows/places.h"
+#include "engine/windows/standing.h"
+
+class QBoxLayout;
+class QVBoxLayout;
+
+namespace tonarix {
+
+/// What all exercise windows look like: the question on top, the tone row, below it the answers of
+/// the exercise itself, beside them a narrow column with standing, counters and further cards, and
+/// one line of actions. A subclass calls the build functions in this order, which is the reading
+/// and the tab order, and puts its answers into `middle()` and its own cards into `column()`.
+///
+/// Keys beside those of every window: Return presses the default button of the logic, Escape asks
+/// it, 1 to 9 and 0 press the shown answers in reading order, and the letters that are marked for
+/// Alt press the actions without Alt too, as nothing here takes typed text.
+class ExerciseView : public WindowView {
+ public:
+  enum class Sound { heard, silent };
+
+  ExerciseView(ExerciseWindow& window, const Texts& texts, Sound sound = Sound::heard);
+  QSize sizeHint() const override;
+
+ protected:
+  /// The question, and on the right what explains it.
+  void build_head(const Control& explanation);
+  /// Card with the tone row; `lead` is a short heading above the place of the first tone, or null.
+  void build_row(const Control& title, const Control* lead);
+  /// Standing and counters.
+  void build_standing();
+  /// The line of actions, in the frame of the logic where it has one.
+  void build_actions(const Control* frame);
+
+  /// Below the row: the answers.
+  QVBoxLayout& middle() { return *middle_; }
+  QVBoxLayout& column() { return *column_; }
+  /// A grid of buttons for the codes, in their order.
+  template <int First, int Last, typename Codes>
+  AnswerGrid* answer_grid(const ControlArray<Control, First, Last>& controls, const Codes& codes,
+                          int columns, const Bindings::NumberHandler& pressed) {
+    auto* grid = new AnswerGrid(columns, &content());
+    for (const int code : codes) {
+      auto* made = new AnswerButton(&content());
+      bindings().bind(*made, controls[code], [pressed, code] { pressed(code); },
+                      {.keep_place = true, .mnemonic = false});
+      grid->add(*made);
+    }
+    grids_.push_back(grid);
+    return grid;
+  }
+
+  void applied() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  struct ActionButton {
+    Button* button;
+    const Control* control;
+  };
+  Button* action(const Control& control, Bindings::Handler pressed);
+  Button* button_of(const Control* control) const;
+  bool press_answer(int key);
+  bool press_letter(const QString& text);
+  void build_training(Card& card);
+  void build_test(Card& card);
+  void build_counters(Card& card);
+
+  ExerciseWindow& window_;
+  Sound sound_;
+  QBoxLayout* halves_ = nullptr;
+  QBoxLayout* head_ = nullptr;
+  QVBoxLayout* middle_ = nullptr;
+  QVBoxLayout* column_ = nullptr;
+  QWidget* column_box_ = nullptr;
+  AnswerRow* row_ = nullptr;
+  ActionLine* action_line_ = nullptr;
+  Label* explained_ = nullptr;
+  Label* clock_ = nullptr;
+  Card* training_card_ = nullptr;
+  Card* test_card_ = nullptr;
+  std::vector<AnswerGrid*> grids_;
+  std::vector<ActionButton> action_buttons_;
+};
+
+}  // namespace tonarix
