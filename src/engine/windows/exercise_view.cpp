@@ -51,14 +51,14 @@ void ExerciseView::build_head(const Control& explanation) {
 void ExerciseView::build_row(const Control& title, const Control* lead) {
   Card* row_card = card(nullptr, nullptr);
   row_card->head().addWidget(label(title, TextRole::title));
-  auto* messages = new Place(row_card);
+  messages_ = new Place(row_card);
   for (const Control* message : {&window_.hint, &window_.WaitMeldung}) {
     Label* shown = label(*message, TextRole::plain);
     shown->setWordWrap(true);
     shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    messages->add(*shown);
+    messages_->add(*shown);
   }
-  row_card->head().addWidget(messages, 1);
+  row_card->head().addWidget(messages_, 1);
 
   row_ = new AnswerRow(sound_ == Sound::heard, row_card);
   if (lead) row_->set_lead(*label(*lead, TextRole::note));
@@ -91,6 +91,7 @@ void ExerciseView::build_standing() {
   test_card_ = card(nullptr, nullptr);
   build_test(*test_card_);
   Card* counters = card(nullptr, nullptr);
+  counters->setAccessibleName(word(1134_text));
   build_counters(*counters);
   for (Card* made : {training_card_, test_card_, counters}) column_->addWidget(made);
 }
@@ -282,6 +283,8 @@ void ExerciseView::resizeEvent(QResizeEvent* event) {
     head_->setSpacing(narrow ? 0 : theme::between);
     explained_->setAlignment(Qt::AlignVCenter | (narrow ? Qt::AlignLeft : Qt::AlignRight));
   }
+  // Room for a message that takes two lines, so that the row below it stays where it is.
+  if (messages_) messages_->setMinimumHeight(narrow ? 2 * fontMetrics().lineSpacing() : 0);
   if (!column_box_) return;
   column_box_->setMinimumWidth(narrow ? 0 : kColumnWidth);
   column_box_->setMaximumWidth(narrow ? QWIDGETSIZE_MAX : kColumnWidth);

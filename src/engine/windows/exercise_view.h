@@ -85,6 +85,7 @@ class ExerciseView : public WindowView {
   AnswerRow* row_ = nullptr;
   ActionLine* action_line_ = nullptr;
   Label* explained_ = nullptr;
+  Place* messages_ = nullptr;
   Label* clock_ = nullptr;
   Card* training_card_ = nullptr;
   Card* test_card_ = nullptr;
