@@ -19,4 +19,14 @@ RuntimeError as_runtime_error(const std::exception& error) {
   return {RuntimeError::kOther, error.what(), "vemo06"};
 }
 
+bool is_device_failure(const std::exception_ptr& error) {
+  try {
+    std::rethrow_exception(error);
+  } catch (const RuntimeError& failure) {
+    return failure.number() == RuntimeError::kDeviceError;
+  } catch (...) {
+    return false;
+  }
+}
+
 }  // namespace tonarix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -35,5 +36,8 @@ class RuntimeError : public std::runtime_error {
 
 /// The same three facts of any exception that reaches a handler; foreign ones get kOther.
 RuntimeError as_runtime_error(const std::exception& error);
+
+/// True when the exception, never null, says that a device is gone or refuses (kDeviceError).
+bool is_device_failure(const std::exception_ptr& error);
 
 }  // namespace tonarix

@@ -27,20 +27,10 @@ void SettingsWindow::with_sound(const std::function<void()>& work) {
   if (!has_sound()) return;
   try {
     work();
-  } catch (const RuntimeError& failure) {
-    if (failure.number() != RuntimeError::kDeviceError) throw;
+  } catch (const RuntimeError&) {
+    if (!is_device_failure(std::current_exception())) throw;
     context_.midi.detach(MIDI);
     tell_device_failure("start_timer.", std::current_exception(), 1094_text);
-  }
-}
-
-bool SettingsWindow::is_device_failure(std::exception_ptr error) {
-  try {
-    std::rethrow_exception(error);
-  } catch (const RuntimeError& failure) {
-    return failure.number() == RuntimeError::kDeviceError;
-  } catch (...) {
-    return false;
   }
 }
 

@@ -171,7 +171,6 @@ class SettingsWindow : public Window {
   };
   void start_up();
   void attach_midi();
-  static bool is_device_failure(std::exception_ptr error);
   void tell_device_failure(std::string_view tag, std::exception_ptr error,
                            std::optional<TextKey> how_it_goes_on = std::nullopt);
   void fill_levels(bool saved);

@@ -11,16 +11,6 @@ constexpr double kAutomaticWait = 1800;   // ms between two tasks in the automat
 constexpr double kClockInterval = 10000;  // ms
 constexpr double kResetPause = 50;        // ms for a device to fall silent
 
-bool is_device_failure(std::exception_ptr error) {
-  try {
-    std::rethrow_exception(error);
-  } catch (const RuntimeError& failure) {
-    return failure.number() == RuntimeError::kDeviceError;
-  } catch (...) {
-    return false;
-  }
-}
-
 }  // namespace
 
 ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
