@@ -1286,9 +1286,9 @@ Vorzeichen!</translation>
         <translation>gemischt (0 - 2 Okt)</translation>
     </message>
     <message id="1074s">
-        <source>fest (a'440 Hz)</source>
+        <source>fest (a' 440 Hz)</source>
         <extracomment>Settings: option: frequency; keep the stroke behind the a</extracomment>
-        <translation>fest (a'440 Hz)</translation>
+        <translation>fest (a' 440 Hz)</translation>
     </message>
     <message id="1075s">
         <source>variabel</source>

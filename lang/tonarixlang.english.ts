@@ -1286,9 +1286,9 @@ in any order.</translation>
         <translation>Mixed (0 - 2 oct.)</translation>
     </message>
     <message id="1074s">
-        <source>fest (a'440 Hz)</source>
+        <source>fest (a' 440 Hz)</source>
         <extracomment>Settings: option: frequency; keep the stroke behind the a</extracomment>
-        <translation>Fixed (a'440 Hz)</translation>
+        <translation>Fixed (a' 440 Hz)</translation>
     </message>
     <message id="1075s">
         <source>variabel</source>

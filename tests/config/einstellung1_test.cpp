@@ -129,7 +129,7 @@ TEST(Einstellung1, InstrumentsFollowTheVoice) {
 
 TEST(Einstellung1, AcceptsAndOpensTheExercise) {
   SettingsBed bed;
-  bed.texts.given[1074] = "fest (a'440 Hz)";
+  bed.texts.given[1074] = "fest (a' 440 Hz)";
   Einstellung1& window = bed.open();
   window.click(window.cmdOk);
   EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
@@ -137,8 +137,8 @@ TEST(Einstellung1, AcceptsAndOpensTheExercise) {
   EXPECT_TRUE(bed.settings.EinstSicherung.empty()) << "kept at level 1 alone";
   EXPECT_THAT(bed.settings.EinstDatSave,
               ElementsAre("30", "Übungsmodus", "[136]", "Klangfarbe", "Acoustic Grand Piano",
-                          "Tempo", "40 (Largo)", "Frequenz", "fest (a1440 Hz)", "Abfolge", "[1065]",
-                          "Iv-Anzahl", "2", "Iv-Größe", "[1071]", "Tonraum", "2 [1072]",
+                          "Tempo", "40 (Largo)", "Frequenz", "fest (a1 440 Hz)", "Abfolge",
+                          "[1065]", "Iv-Anzahl", "2", "Iv-Größe", "[1071]", "Tonraum", "2 [1072]",
                           "Oktavbereich", "[682] [702] [695]", "Stimmung", "[546]", "Grdton zus.",
                           "[1070]", "Tongeschlecht", "[1062]", "Tonart", "[1067]", "Iv-Bestimmung",
                           "[1076]", "Stufen", "[1078]"));

@@ -169,7 +169,7 @@ TEST(PairList, TrimsValuesAndCountsToTheHighestIndex) {
   pairs.add("Tempo", " 40 (Largo)      ");
   pairs.add("Klangfarben: ", "  ");
   EXPECT_THAT(pairs.finish(), ElementsAre("4", "Tempo", "40 (Largo)", "Klangfarben: ", ""));
-  EXPECT_EQ(frequency_value("fest (a'440 Hz)'"), "fest (a1440 Hz)'");
+  EXPECT_EQ(frequency_value("fest (a' 440 Hz)'"), "fest (a1 440 Hz)'");
 }
 
 }  // namespace
