@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <sstream>
+#include <vector>
 
 #include "base/colour.h"
 
@@ -122,9 +123,11 @@ std::string TestListing::write(const Window& window, const Head& head) {
 }
 
 void TestListing::read(const Window& window, const ValueSet& values, const Target& target) {
+  std::vector<Control*> frames;
   for (Control* control : window.controls()) {
     const auto found = control->tag.empty() ? values.end() : values.find(control->tag);
     if (found == values.end()) continue;
+    if (control->container) frames.push_back(control->container);
     if (auto* option = dynamic_cast<OptionControl*>(control)) {
       if (option->index() == found->second) target.set_option(*option);
     } else if (auto* list = dynamic_cast<ListControl*>(control)) {
@@ -134,10 +137,11 @@ void TestListing::read(const Window& window, const ValueSet& values, const Targe
         target.set_list(*list, found->second);
       }
     }
-    if (control->container) {
-      control->container->enabled = false;
-      control->container->back = kReadLock;
-    }
+  }
+  // A locked frame takes no choice, so the locks come last.
+  for (Control* frame : frames) {
+    frame->enabled = false;
+    frame->back = kReadLock;
   }
 }
 

@@ -92,12 +92,16 @@ TEST(TestListing, ReadsValuesThatMeetAGroup) {
   Einstellung1& window = bed.open();
   std::vector<std::string> set;
   TestListing::Target target;
-  target.set_option = [&](OptionControl& option) { set.push_back(option.object_name()); };
+  target.set_option = [&](OptionControl& option) {
+    set.push_back(option.object_name());
+    window.click(option);
+  };
   target.set_list = [&](ListControl& list, int entry) {
     set.push_back(list.name() + "=" + std::to_string(entry));
   };
   TestListing::read(window, {{"Tonart", 1}, {"Tempo", 4}, {"Tonraum", 9}, {"Ambitus", 2}}, target);
   EXPECT_THAT(set, testing::UnorderedElementsAre("Tonart_1", "temp_Combo=4"));
+  EXPECT_EQ(bed.settings.Tonart, 1) << "chosen before its frame is locked";
   EXPECT_EQ(window.grdeinst[0].back, RGB(255, 128, 128));
   EXPECT_FALSE(window.grdeinst[0].enabled);
   EXPECT_TRUE(window.grdeinst[5].enabled);
