@@ -81,6 +81,8 @@ Settings read_EinstSicherung(const Settings& settings, SettingsKind kind,
     set_choice(restored, choice, value);
   }
   require(static_cast<int>(record.size()) == kDegreeSlot + restored.ton_st_wahl);
+  // A chosen degree was saved with a single interval, also where the number has no slot.
+  if (kind == SettingsKind::einstellung2 && restored.ton_st_wahl == 1) restored.invzahl = 1;
   check_together(restored);
   return restored;
 }

@@ -66,6 +66,7 @@ void SettingsWindow::restore() {
   if (context_.check_saved_state) context_.check_saved_state(restored);
   settings().EinstSicherung = std::move(record);
   settings().AntwSicherung = std::move(state);
+  set(Choice::invzahl, restored.invzahl);
   for (std::size_t slot = 0; slot < settings().EinstSicherung.size(); ++slot) {
     const Choice choice = kSlots[slot].of(kind_);
     if (choice != Choice::none) set(choice, choice_value(restored, choice));
