@@ -1145,6 +1145,11 @@ Vorzeichen!</translation>
         <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
         <translation>noch nicht verfügbar</translation>
     </message>
+    <message id="1003s">
+        <source>tonale Intervalle sukzessiv</source>
+        <extracomment>First window: end of its title, behind 'Exercise type: '</extracomment>
+        <translation>tonale Intervalle sukzessiv</translation>
+    </message>
     <message id="1010s">
         <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
         <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>

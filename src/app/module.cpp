@@ -4,6 +4,7 @@
 #include <variant>
 
 #include "config/einstellung1.h"
+#include "config/settings_tables.h"
 #include "engine/material/saved_training.h"
 #include "exercises/determine/arbeitsblatt1.h"
 #include "results/result_window.h"
@@ -31,7 +32,9 @@ Module::Module(Outside outside)
   outside_.windows.on_empty = outside_.quit;
 }
 
-Module::~Module() { outside_.windows.clear(); }
+Module::~Module() {
+  outside_.windows.clear();
+}
 
 void Module::open() {
   SelectionContext context{outside_.scheduler,
@@ -43,6 +46,7 @@ void Module::open() {
                            outside_.dialogs,
                            {settings_.Theoriewahl, settings_.ueb_typ, settings_.tempo_ms,
                             settings_.supervisor, settings_.klein_bildschirm},
+                           tempo_beats(),
                            outside_.screen_width,
                            [this](SettingsWindowKind kind) { open_settings(kind); },
                            [this] { show_help(); },

@@ -6,19 +6,8 @@ namespace tonarix {
 
 namespace {
 
-constexpr const char* kSubject = "tonale Intervalle sukzessiv";
 constexpr int kWideScreen = 1000;  // pixels
-
-/// Beat in milliseconds for the metronome numbers 30, 40, 60 and on to 200.
-constexpr std::array<std::int16_t, 10> kTempoMs{2000, 1500, 1000, 750, 600,
-                                                500,  428,  375,  333, 300};
-
 constexpr std::array kExerciseCaptions{154_text, 160_text, 496_text, 690_text};
-
-template <typename Options>
-auto chosen(Options& options) {
-  return std::find_if(options.begin(), options.end(), [](const auto& one) { return one.value; });
-}
 
 }  // namespace
 
@@ -70,10 +59,11 @@ Sequence SelectionWindow::start_up() {
   step([&] {
     if (context_.join_companion) context_.join_companion(context_.server.ServerObject());
   });
-  caption = context_.tables.theory_kinds[0] + context_.language.Wort(700_text) + kSubject;
+  caption = context_.tables.theory_kinds[0] + context_.language.Wort(700_text) +
+            context_.language.Wort(1003_text);
   version.text = context_.language.Wort(699_text) + " " + context_.server.application().version();
   choose_exercise(1);
-  context_.fields.tempo_ms = kTempoMs;
+  context_.fields.tempo_ms = context_.tempo_beats;
   context_.fields.klein_bildschirm = context_.screen_width >= kWideScreen;
   choose_theory(context_.fields.Theoriewahl);
   if (all_well) co_return;

@@ -35,7 +35,8 @@ struct SelectionContext {
   ErrorReport& errors;
   Dialogs& dialogs;
   SelectionFields fields;
-  int screen_width = 1024;  ///< pixels
+  std::array<std::int16_t, 10> tempo_beats;  ///< milliseconds, by `tempo`
+  int screen_width = 1024;                   ///< pixels
 
   /// Opens the settings window, or throws when it can't.
   std::function<void(SettingsWindowKind)> open_settings;
@@ -92,7 +93,6 @@ class SelectionWindow final : public Window {
   void choose_theory(int index);
   void choose_exercise(int index);
   void offer_exercises();
-  bool exercise_open(int index) const;
   SettingsWindowKind wanted_settings() const;
 
   SelectionContext context_;

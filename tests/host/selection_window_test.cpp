@@ -33,6 +33,7 @@ struct SelectionWindowTest : testing::Test {
             .errors = errors,
             .dialogs = dialogs,
             .fields = {Theoriewahl, ueb_typ, tempo_ms, supervisor, klein_bildschirm},
+            .tempo_beats = {30, 20, 10},
             .screen_width = 1000,
             .open_settings =
                 [this](SettingsWindowKind kind) {
@@ -81,9 +82,8 @@ TEST_F(SelectionWindowTest, StartsInOrderAndIsReady) {
   EXPECT_EQ(ueb_typ, 1);
   EXPECT_TRUE(window.ueb_typ[1].value);
   EXPECT_TRUE(window.Theoriewahl[0].value);
-  EXPECT_EQ(tempo_ms.front(), 2000);
-  EXPECT_EQ(tempo_ms.back(), 300);
-  EXPECT_EQ(window.caption, "[287s][700s]tonale Intervalle sukzessiv");
+  EXPECT_THAT(tempo_ms, ElementsAre(30, 20, 10, 0, 0, 0, 0, 0, 0, 0));
+  EXPECT_EQ(window.caption, "[287s][700s][1003s]");
   EXPECT_EQ(window.version.text, "[699s] 1.0.0000");
   EXPECT_EQ(window.chosen_exercise(), "[154s]");
   EXPECT_EQ(tables.exercise_kind(4), "[715s]");

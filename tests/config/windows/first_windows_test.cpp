@@ -5,6 +5,7 @@
 #include <QScrollBar>
 
 #include "base/windows/presenter.h"
+#include "config/settings_tables.h"
 #include "config/windows/einstellung1_view.h"
 #include "host/local/catalogue_folder.h"
 #include "host/windows/selection_view.h"
@@ -32,6 +33,7 @@ struct FirstWindowsTest : testing::TestWithParam<const char*> {
                          .dialogs = dialogs,
                          .fields = {settings.Theoriewahl, settings.ueb_typ, settings.tempo_ms,
                                     settings.supervisor, settings.klein_bildschirm},
+                         .tempo_beats = tempo_beats(),
                          .screen_width = 1024,
                          .open_settings = [this](SettingsWindowKind) { open_settings(); },
                          .show_help = [this] { ++helped; },

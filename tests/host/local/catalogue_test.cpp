@@ -85,8 +85,11 @@ TEST(CatalogueFolder, FindsItsLanguagesByTheirOwnNames) {
   EXPECT_EQ(language(kCatalogues, "Deutsch").Wort(131_text), "aufwärts");
   EXPECT_EQ(language(kCatalogues, "English").Wort(131_text), "upward");
   TextTables tables;
-  tables.load(language(kCatalogues, "Deutsch"));
+  const Language texts = language(kCatalogues, "Deutsch");
+  tables.load(texts);
   EXPECT_EQ(tables.theory_kind(1), "Musiklehre");
+  EXPECT_EQ(tables.theory_kinds[0] + texts.Wort(700_text) + texts.Wort(1003_text),
+            "Übungsart: tonale Intervalle sukzessiv");
   EXPECT_EQ(tables.levels[0], "Freies Üben");
 }
 
