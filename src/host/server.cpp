@@ -63,9 +63,9 @@ Host& Server::ServerObject() {
 
 void Server::call(std::string key, Variant& input) {
   Host& host = ServerObject();
-  const Variant last = HostLang_;
-  host.Request(key, input, HostLang_);
-  if (!HostLang_.is_text() || HostLang_.text().empty()) HostLang_ = last;
+  Variant language = HostLang_;
+  host.Request(key, input, language);
+  if (language.is_text() && !language.text().empty()) HostLang_ = language;
 }
 
 Server::Status Server::ServerInit(const std::string& module) {

@@ -15,6 +15,13 @@ std::filesystem::path make_folder(const std::filesystem::path& folder, std::erro
   return folder;
 }
 
+/// The user's fields without blanks around them.
+QStringList fields_of(const std::string& user) {
+  QStringList fields = QString::fromStdString(user).split(QLatin1Char(';'));
+  for (QString& field : fields) field = field.trimmed();
+  return fields;
+}
+
 }  // namespace
 
 LocalHostHome::LocalHostHome(LocalHostOptions options, const WallClock& clock)
@@ -78,16 +85,13 @@ bool LocalHost::Request(std::string& key, Variant& input, Variant& output) {
 }
 
 std::string LocalHost::user() const {
-  return home_.options_.user.value_or("");
+  return fields_of(home_.options_.user.value_or("")).join(QLatin1Char(';')).toStdString();
 }
 
 void LocalHost::login(Variant& output) const {
-  const QString name = QString::fromStdString(user()).trimmed();
-  if (name.isEmpty()) return;
+  if (user().empty()) return;
   Variant::Array fields;
-  for (const QString& field : name.split(QLatin1Char(';'))) {
-    fields.push_back(field.trimmed().toStdString());
-  }
+  for (const QString& field : fields_of(user())) fields.push_back(field.toStdString());
   output = fields;
 }
 

@@ -65,6 +65,7 @@ class LocalHost final : public Host {
   void store(const Variant& input);
   void read(const Variant& input, Variant& output);
   void log_error(const Variant& input);
+  /// Half of each record's key: the same however the fields were spaced; empty for nobody.
   std::string user() const;
 
   LocalHostHome& home_;

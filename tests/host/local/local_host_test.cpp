@@ -77,7 +77,7 @@ TEST_F(LocalHostTest, EachUserFindsOwnRecordsInTheNextRun) {
     server.ServerStore("A1", Variant::strings({user}));
     server.ServerStore("A1", Variant::strings(state));
   }
-  LocalHostHome home(options("A;a;1"), clock);
+  LocalHostHome home(options(" A; a;1"), clock);
   Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
   std::vector<std::string> target;
   EXPECT_TRUE(server.ServerRead("A1", target));
