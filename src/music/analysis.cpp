@@ -8,7 +8,8 @@ namespace {
 AnalysedInterval analyse_interval(Tone from, Tone to, const Key& key, const IntervalNames& names) {
   AnalysedInterval interval;
   interval.difference = to_int16(to.chr - from.chr);
-  const int direction = Sgn(interval.difference);
+  // A repeated tone is a prime and no octave; it counts as falling, as its sign tells.
+  const int direction = interval.difference > 0 ? 1 : -1;
   const int position = position_in_list(to.qz, key.skala, key.anz_stufen);
   interval.degree = to_int16(position * direction);
   interval.degree_text =

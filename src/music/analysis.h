@@ -20,7 +20,7 @@ struct AnalysedTone {
 /// One interval of a finished row, named over the keynote and from tone to tone.
 struct AnalysedInterval {
   std::int16_t difference = 0;  ///< semitones, upward positive
-  std::int16_t degree = 0;      ///< 1 to anz_stufen with the direction, 0 when not in the key
+  std::int16_t degree = 0;      ///< from 1 on, with the direction; 0 when not in the key
   std::string degree_text;      ///< interval over the keynote, or "Stufe nicht leitereigen"
   std::int16_t code = 0;        ///< direct code from the tone before
   std::string interval_text;
