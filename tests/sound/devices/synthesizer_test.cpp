@@ -6,7 +6,6 @@
 #include <cmath>
 #include <numeric>
 
-#include "sound/midi.h"
 #include "support/rendered_row.h"
 
 namespace tonarix {
@@ -102,14 +101,14 @@ TEST_F(SynthesizerTest, ABendStepIsAnEvenThirtySecondOfASemitone) {
 TEST_F(SynthesizerTest, StoppingOrClosingSilencesAtOnceAndOpeningCentresTheBends) {
   SynthPort port(synthesizer, scheduler);
   int ended = 0;
-  port.start_queue({note_on(0, 60), {0x80, 60, 0, 60'000, 0}}, [&] { ++ended; });
+  port.start_queue({note_on(0, 60), {0x80, 60, 0, 1000, 0}}, [&] { ++ended; });
   render_ms(200);
   EXPECT_GT(loudness(sound), 0.001);
   port.stop_queue();
   render_ms(20);
   render_ms(200);
   EXPECT_EQ(loudness(sound), 0);
-  render_ms(60'000);
+  render_ms(1000);
   EXPECT_TRUE(posted.empty());
   {
     SynthPort other(synthesizer, scheduler);
@@ -191,35 +190,6 @@ TEST_F(SynthesizerTest, SixLoudTonesAndTheKeynoteStayUnclipped) {
   }
   render_ms(500);
   EXPECT_LT(*std::max_element(sound.begin(), sound.end()), 1.0F);
-}
-
-TEST_F(SynthesizerTest, TheWholeLayerPlaysARowThroughIt) {
-  struct OneDevice final : MidiDevices {
-    OneDevice(std::shared_ptr<Synthesizer> one, Scheduler& clock)
-        : synth(std::move(one)), scheduler(clock) {}
-    std::vector<MidiDeviceInfo> list() override { return {{0, "synthesiser"}}; }
-    std::unique_ptr<MidiPort> open(int) override {
-      return std::make_unique<SynthPort>(synth, scheduler);
-    }
-    std::shared_ptr<Synthesizer> synth;
-    Scheduler& scheduler;
-  } devices(synthesizer, scheduler);
-  MIDIOutput control(devices);
-  int ended = 0;
-  control.on_queue_empty = [&] { ++ended; };
-  Midi midi;
-  midi.MidiAnschluss(control);
-  midi.send_patches({kFlute, kFlute, 0, 0, 0, 0, 0, 0});
-  midi.MidiNote(60, 100, 180, 0, 1);
-  control.action(MIDIOutput::Action::start_queue);
-  render_ms(90);
-  EXPECT_EQ(loudness(sound), 0);
-  render_ms(150);
-  EXPECT_GT(loudness(sound), 0.001);
-  render_ms(500);
-  ASSERT_EQ(posted.size(), 1u);
-  posted[0]();
-  EXPECT_EQ(ended, 1);
 }
 
 TEST(SynthesizerProblems, AMissingOrBrokenFontIsTold) {
