@@ -70,7 +70,7 @@ int main(int argc, char* argv[]) {
   QApplication application(one, argv);
   application.setQuitOnLastWindowClosed(false);
   tonarix::theme::apply(application);
-  tonarix::Program program(application, options);
+  tonarix::Program program(options);
   program.open();
   return application.exec();
 }

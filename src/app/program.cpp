@@ -3,6 +3,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <array>
 #include <chrono>
@@ -62,17 +63,17 @@ Server::Application application_facts() {
 std::filesystem::path catalogue_place() {
   const std::filesystem::path program =
       std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  for (const auto& place : {program / "lang", program / ".." / ".." / "lang",
-                            std::filesystem::path("/usr/share/tonarix/lang")}) {
+  for (const auto& place :
+       {program / "lang", program / ".." / "lang", program / ".." / ".." / "lang",
+        std::filesystem::path("/usr/share/tonarix/lang")}) {
     std::error_code ignored;
     if (std::filesystem::exists(place / "tonarixlang.deutsch.qm", ignored)) return place;
   }
   return program / "lang";
 }
 
-Program::Program(QApplication& application, const Options& options)
-    : application_(application),
-      chance_(clock_seed()),
+Program::Program(const Options& options)
+    : chance_(clock_seed()),
       windows_(scheduler_),
       language_(catalogue_folder(catalogue_place())),
       presenter_(windows_),
@@ -107,7 +108,7 @@ Outside Program::outside(const Options& options) {
           QGuiApplication::primaryScreen()->size().width(),
           [this] { return sound_problem(); },
           [](const std::string& document) { std::clog << document << std::flush; },
-          [this] { application_.quit(); }};
+          [] { QCoreApplication::exit(0); }};
 }
 
 void Program::open() {

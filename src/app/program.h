@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QApplication>
 #include <memory>
 
 #include "app/module.h"
@@ -24,7 +23,8 @@ class SystemClock final : public WallClock {
 /// The running program: the real clock, devices, host and windows around the module.
 class Program {
  public:
-  Program(QApplication& application, const Options& options);
+  /// Needs the QApplication.
+  explicit Program(const Options& options);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
@@ -41,7 +41,6 @@ class Program {
   std::optional<TextKey> sound_problem() const;
   void tell_problems();
 
-  QApplication& application_;
   QtScheduler scheduler_;
   SystemClock clock_;
   SeededChance chance_;

@@ -76,6 +76,7 @@ void ExerciseWindow::set_common_captions() {
     ergebnis[i].visible = i <= settings().invzahl;
   }
   for (Control& mark : sounding) mark.visible = false;
+  name_next_task();
   withdraw_next_task();
   wieder2.visible = false;
   wieder.enabled = false;
@@ -148,7 +149,7 @@ Sequence ExerciseWindow::mat_wahl() {
 
 void ExerciseWindow::reset_display() {
   ++lesson_nr_;
-  CmdNextAufg.text = LbNextAufg.text = Wort(129_text) + " " + std::to_string(lesson_nr_);
+  name_next_task();
   antw_seconds_ = 0;
   AntwDau_ = 0;
   wdh_gesamt_ = 0;
@@ -168,6 +169,10 @@ void ExerciseWindow::reset_display() {
   wieder.visible = true;
   wieder.enabled = grundton.enabled = false;
   set_answers_enabled(false);
+}
+
+void ExerciseWindow::name_next_task() {
+  CmdNextAufg.text = LbNextAufg.text = Wort(129_text) + " " + std::to_string(lesson_nr_ + 1);
 }
 
 void ExerciseWindow::give_first_interval() {
@@ -215,7 +220,6 @@ Sequence ExerciseWindow::play_task() {
 }
 
 void ExerciseWindow::all_notes_off() {
-  sounding_timer_.disable();
   show_sounding(-1);
   context_.midi.MidiReset();
 }
@@ -225,7 +229,11 @@ void ExerciseWindow::show_sounding(int place) {
   for (int i = sounding.first; i <= sounding.last; ++i) {
     sounding[i].visible = i == sounding_place_;
   }
-  if (sounding_place_ >= 0) sounding_timer_.enable();
+  if (sounding_place_ >= 0) {
+    sounding_timer_.enable();
+  } else {
+    sounding_timer_.disable();
+  }
 }
 
 void ExerciseWindow::MIDI_QueueEmpty() {

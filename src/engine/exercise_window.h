@@ -123,6 +123,7 @@ class ExerciseWindow : public Window, public ExerciseControls {
   void resume_training();
   Sequence mat_wahl();
   void reset_display();
+  void name_next_task();
   void give_first_interval();
   void open_lesson();
   Sequence play(SpielArt spiel_art);
