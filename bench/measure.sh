@@ -21,6 +21,10 @@ if [ -z "${DISPLAY:-}" ]; then
   export DISPLAY=:$number
 fi
 export QT_QPA_PLATFORM=xcb
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+  XDG_RUNTIME_DIR=$(mktemp -d)
+  export XDG_RUNTIME_DIR
+fi
 
 "$programs/program_figures"
 "$programs/mat_wahl"

@@ -52,18 +52,21 @@ class PaintWatch final : public QObject {
   std::function<void()> painted_;
 };
 
-/// Proportional share of this process's memory in MB.
+/// Proportional share of this process's memory in MB, without the pool that a JACK server keeps for
+/// all its clients.
 double pss_mb() {
-  std::ifstream rollup("/proc/self/smaps_rollup");
-  std::string word;
-  while (rollup >> word) {
-    if (word == "Pss:") {
-      double kilobytes = 0;
-      rollup >> kilobytes;
-      return kilobytes / 1024.0;
+  std::ifstream maps("/proc/self/smaps");
+  std::string line;
+  bool own = true;
+  double kilobytes = 0;
+  while (std::getline(maps, line)) {
+    if (line.rfind("Pss:", 0) == 0) {
+      if (own) kilobytes += std::stod(line.substr(4));
+    } else if (line.find('-') < line.find(' ')) {
+      own = line.find("/dev/shm/jack") == std::string::npos;
     }
   }
-  return 0;
+  return kilobytes / 1024.0;
 }
 
 tonarix::Options options_for(const std::filesystem::path& folder) {
