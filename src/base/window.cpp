@@ -71,7 +71,9 @@ void Window::changed() {
   if (on_changed) on_changed();
 }
 
-WindowList::~WindowList() { clear(); }
+WindowList::~WindowList() {
+  clear();
+}
 
 void WindowList::clear() {
   scheduler_.cancel(release_);
