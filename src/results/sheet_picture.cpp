@@ -9,7 +9,6 @@ namespace {
 constexpr double kLeftWidth = 330;
 constexpr double kGap = 16;
 constexpr double kTableWidth = 448;
-constexpr double kTableLeft = kLeftWidth + kGap;
 constexpr double kPadding = 12;
 constexpr double kTitleHeight = 36;
 constexpr double kLineStep = 20;
@@ -29,19 +28,22 @@ constexpr double kTotalWidth = 112;
 
 class Composer {
  public:
-  Composer(const SheetContent& content, SheetGround ground) : content_(content), ground_(ground) {}
+  Composer(const SheetContent& content, SheetGround ground, SheetShape shape)
+      : content_(content), ground_(ground), tall_(shape == SheetShape::tall) {}
 
   SheetPicture compose() {
     const double head_end = frame(0, content_.head_title, content_.head);
-    const double left_end =
-        content_.settings.empty()
-            ? head_end
-            : frame(head_end + kGap, content_.settings_title, content_.settings);
-    const double height = std::max(left_end, table_end());
-    table(height);
+    if (tall_) table_top_ = head_end + kGap;
+    const double table_end = table_top_ + table_height();
+    double end = tall_ ? table_end : head_end;
+    if (!content_.settings.empty()) {
+      end = frame(end + kGap, content_.settings_title, content_.settings);
+    }
+    const double height = std::max(end, table_end);
+    table(tall_ ? table_end : height);
     picture_.name = content_.caption;
     picture_.ground = ground_;
-    picture_.width = kTableLeft + kTableWidth;
+    picture_.width = table_left() + kTableWidth;
     picture_.height = height;
     return std::move(picture_);
   }
@@ -50,6 +52,8 @@ class Composer {
   void text(SheetBox box, const std::string& words, SheetFont font, bool at_right = false) {
     picture_.texts.push_back({box, words, font, at_right});
   }
+  double left_width() const { return tall_ ? kTableWidth : kLeftWidth; }
+  double table_left() const { return tall_ ? 0 : kLeftWidth + kGap; }
   void card(SheetBox box) { picture_.surfaces.push_back({box, signal::white, true, kCorner}); }
 
   template <typename Lines>
@@ -58,19 +62,19 @@ class Composer {
     const auto shown = std::count_if(lines.begin(), lines.end(),
                                      [](const SheetLine& line) { return line.visible; });
     const double end = line_top + static_cast<double>(shown) * kLineStep + kFrameEnd;
-    card({0, top, kLeftWidth, end - top});
-    text({kPadding, top + 8, kLeftWidth - 2 * kPadding, kRowHeight}, title, SheetFont::title);
+    card({0, top, left_width(), end - top});
+    text({kPadding, top + 8, left_width() - 2 * kPadding, kRowHeight}, title, SheetFont::title);
     for (const SheetLine& line : lines) {
       if (!line.visible) continue;
       text({kPadding, line_top, kValueLeft - kPadding, kLineStep}, line.label, SheetFont::label);
-      text({kValueLeft, line_top, kLeftWidth - kPadding - kValueLeft, kLineStep}, line.value,
+      text({kValueLeft, line_top, left_width() - kPadding - kValueLeft, kLineStep}, line.value,
            SheetFont::plain);
       line_top += kLineStep;
     }
     return end;
   }
 
-  double table_end() const {
+  double table_height() const {
     double end = kTableTop;
     for (const ResultRow& row : content_.table.rows) {
       end = std::max(end, kTableTop + row.top + kRowHeight);
@@ -85,24 +89,27 @@ class Composer {
     text({box.left, box.top, box.width - margin, box.height}, field.text, font, true);
   }
 
-  void table(double height) {
+  void table(double end) {
     const ResultTable& table = content_.table;
-    card({kTableLeft, 0, kTableWidth, height});
-    const double right = kTableLeft + kTableWidth - kPadding;
-    const SheetBox total{right - kTotalWidth, 6, kTotalWidth, 34};
-    text({kTableLeft + kColumnLeft, 8, 150, 30}, content_.results_title, SheetFont::title);
-    text({total.left - 128, 8, 120, 30}, content_.total_label, SheetFont::total_label, true);
+    card({table_left(), table_top_, kTableWidth, end - table_top_});
+    const double right = table_left() + kTableWidth - kPadding;
+    const SheetBox total{right - kTotalWidth, table_top_ + 6, kTotalWidth, 34};
+    text({table_left() + kColumnLeft, table_top_ + 8, 150, 30}, content_.results_title,
+         SheetFont::title);
+    text({total.left - 128, table_top_ + 8, 120, 30}, content_.total_label, SheetFont::total_label,
+         true);
     field(total, table.total, SheetFont::total);
     if (table.by_interval) {
       for (const int column : {0, 1}) {
-        text({kTableLeft + kColumnLeft + kColumnStep * column, kTableTop, kFieldLeft, kRowHeight},
+        text({table_left() + kColumnLeft + kColumnStep * column, table_top_ + kTableTop, kFieldLeft,
+              kRowHeight},
              content_.directions[static_cast<std::size_t>(column)], SheetFont::heading);
       }
     }
     for (const ResultRow& row : table.rows) {
-      const double left = kTableLeft + kColumnLeft + kColumnStep * row.column;
+      const double left = table_left() + kColumnLeft + kColumnStep * row.column;
       const double to_field = kFieldLeft + (table.by_interval ? 0 : kColumnStep);
-      const double top = kTableTop + row.top;
+      const double top = table_top_ + kTableTop + row.top;
       text({left, top, to_field - 4, kRowHeight}, row.label, SheetFont::plain);
       field({left + to_field, top, kFieldWidth, kRowHeight}, row.field, SheetFont::field);
     }
@@ -110,6 +117,8 @@ class Composer {
 
   const SheetContent& content_;
   SheetGround ground_;
+  bool tall_;
+  double table_top_ = 0;
   SheetPicture picture_;
 };
 
@@ -123,8 +132,8 @@ void speak(std::string& spoken, const std::string& title, const Lines& lines) {
 
 }  // namespace
 
-SheetPicture sheet_picture(const SheetContent& content, SheetGround ground) {
-  return Composer(content, ground).compose();
+SheetPicture sheet_picture(const SheetContent& content, SheetGround ground, SheetShape shape) {
+  return Composer(content, ground, shape).compose();
 }
 
 std::string spoken_sheet(const SheetContent& content) {

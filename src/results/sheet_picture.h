@@ -54,6 +54,11 @@ enum class SheetGround {
   paper,   ///< black on white, the numbers carry the content
 };
 
+enum class SheetShape {
+  wide,  ///< the table beside the head block and the settings, as on the page
+  tall,  ///< head block, table and settings below each other, for a narrow window
+};
+
 /// The sheet as shapes and texts, for whatever paints it: screen, printer, PDF, test image.
 struct SheetPicture {
   std::string name;
@@ -64,7 +69,8 @@ struct SheetPicture {
   std::vector<SheetText> texts;
 };
 
-SheetPicture sheet_picture(const SheetContent& content, SheetGround ground);
+SheetPicture sheet_picture(const SheetContent& content, SheetGround ground,
+                           SheetShape shape = SheetShape::wide);
 
 /// The whole sheet in words, a line each in reading order, for a screen reader.
 std::string spoken_sheet(const SheetContent& content);

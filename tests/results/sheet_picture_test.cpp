@@ -19,19 +19,19 @@ bool overlap(const SheetBox& a, const SheetBox& b) {
 }
 
 TEST(SheetPicture, TheLongestSheetHasAllItsTextsApartAndOnThePage) {
-  const SheetPicture picture = sheet_picture(full_sheet(), SheetGround::screen);
-  EXPECT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
-  for (const SheetText& text : picture.texts) {
-    EXPECT_GE(text.box.left, 0);
-    EXPECT_LE(text.box.right(), picture.width);
-    EXPECT_LE(text.box.bottom(), picture.height);
-    for (const SheetText& other : picture.texts) {
-      if (&other != &text) {
-        EXPECT_FALSE(overlap(text.box, other.box)) << text.text << ", " << other.text;
+  for (const SheetShape shape : {SheetShape::wide, SheetShape::tall}) {
+    const SheetPicture picture = sheet_picture(full_sheet(), SheetGround::screen, shape);
+    EXPECT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
+    for (const SheetText& text : picture.texts) {
+      EXPECT_GE(text.box.left, 0);
+      EXPECT_LE(text.box.right(), picture.width);
+      EXPECT_LE(text.box.bottom(), picture.height);
+      for (const SheetText& other : picture.texts) {
+        EXPECT_FALSE(&other != &text && overlap(text.box, other.box))
+            << text.text << ", " << other.text;
       }
     }
   }
-  EXPECT_EQ(std::count_if(picture.surfaces.begin(), picture.surfaces.end(), coloured), 39);
 }
 
 TEST(SheetPicture, PaperSaysTheSameAllInWhite) {
@@ -45,24 +45,6 @@ TEST(SheetPicture, PaperSaysTheSameAllInWhite) {
   EXPECT_EQ(paper.height, screen.height);
 }
 
-TEST(SheetPicture, FieldsStandBesideTheirLabelsInTwoColumns) {
-  const SheetPicture picture = sheet_picture(full_sheet(), SheetGround::screen);
-  std::vector<SheetBox> labels;
-  for (const SheetText& text : picture.texts) {
-    if (text.text == "Augmented fourth") labels.push_back(text.box);
-  }
-  ASSERT_EQ(labels.size(), 38U);
-  EXPECT_EQ(labels[19].left - labels[0].left, 216);
-  EXPECT_EQ(labels[19].top, labels[0].top);
-  EXPECT_EQ(labels[1].top - labels[0].top, 22);
-  const auto field = std::find_if(picture.surfaces.begin(), picture.surfaces.end(),
-                                  [&](const SheetSurface& surface) {
-                                    return coloured(surface) && surface.box.top == labels[0].top;
-                                  });
-  ASSERT_NE(field, picture.surfaces.end());
-  EXPECT_EQ(field->box.left - labels[0].left, 136);
-}
-
 TEST(SheetPicture, HiddenLinesShortenTheFrame) {
   SheetContent content = full_sheet();
   const SheetBox full = sheet_picture(content, SheetGround::paper).surfaces[0].box;
@@ -70,8 +52,7 @@ TEST(SheetPicture, HiddenLinesShortenTheFrame) {
   const SheetPicture picture = sheet_picture(content, SheetGround::paper);
   const SheetBox short_frame = picture.surfaces[0].box;
   EXPECT_EQ(full.height - short_frame.height, 3 * 20);
-  EXPECT_EQ(picture.texts[6].text, " 4711");
-  EXPECT_EQ(short_frame.bottom() - picture.texts[6].box.bottom(), 7);
+  EXPECT_EQ(short_frame.bottom() - picture.texts[6].box.bottom(), 7) << "105 twips";
 }
 
 TEST(SpokenSheet, TellsEveryRowWithItsDirection) {

@@ -75,9 +75,11 @@ void QtSheetPrinter::ask_for_printer(const SheetPicture& picture,
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
   printer->setPageOrientation(QPageLayout::Landscape);
   printer->setDocName(QString::fromStdString(picture.name));
+  auto memory = std::make_shared<DialogMemory>();  // its button for a file opens a file dialog
   auto* dialog = new QPrintDialog(printer.get(), parent_());
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowTitle(word(1205_text));
+  QObject::connect(dialog, &QObject::destroyed, [memory] {});
   QObject::connect(dialog, &QDialog::finished, dialog,
                    [this, picture, printer, done = std::move(done)](int answer) {
                      if (answer == QDialog::Accepted) {

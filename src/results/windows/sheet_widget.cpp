@@ -9,7 +9,6 @@
 namespace tonarix {
 
 namespace {
-constexpr double kSmallest = 0.8;
 constexpr QSize kLongest{794, 560};  // the longest sheet, asked for before it is filled
 }  // namespace
 
@@ -19,10 +18,9 @@ SheetWidget::SheetWidget(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void SheetWidget::set_picture(SheetPicture picture, const QString& name, const QString& spoken) {
+void SheetWidget::set_picture(SheetPicture picture, double smallest) {
   picture_ = std::move(picture);
-  setAccessibleName(name);
-  setAccessibleDescription(spoken);
+  smallest_ = smallest;
   updateGeometry();
   update();
 }
@@ -32,7 +30,7 @@ QSize SheetWidget::sizeHint() const {
 }
 
 QSize SheetWidget::minimumSizeHint() const {
-  return (QSizeF(picture_.width, picture_.height) * kSmallest).toSize();
+  return (QSizeF(picture_.width, picture_.height) * smallest_).toSize();
 }
 
 void SheetWidget::paintEvent(QPaintEvent*) {

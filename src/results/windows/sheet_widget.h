@@ -6,13 +6,12 @@
 
 namespace tonarix {
 
-/// The sheet on the screen: the picture of the page, in colour. It grows with its window and can
-/// shrink to four fifths of its natural size.
+/// The sheet on the screen: the picture of the page, in colour. It grows with its window.
 class SheetWidget final : public QWidget {
  public:
   explicit SheetWidget(QWidget* parent);
-  /// `spoken` is the same in words, a line each.
-  void set_picture(SheetPicture picture, const QString& name, const QString& spoken);
+  /// Shrinks no further than to `smallest`, 1 for its natural size.
+  void set_picture(SheetPicture picture, double smallest);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -21,6 +20,7 @@ class SheetWidget final : public QWidget {
 
  private:
   SheetPicture picture_;
+  double smallest_ = 1;
 };
 
 }  // namespace tonarix
