@@ -99,6 +99,7 @@ TEST(IntervalFraction, SumsOfTenthsKeptInThirtyTwoBitsFallOnTheRightSide) {
 }
 
 TEST(Fractions, AnyStatisticsGiveANumberOrNothing) {
+  using Limits = std::numeric_limits<float>;
   const float hard[] = {0,
                         -0.0F,
                         1,
@@ -106,9 +107,9 @@ TEST(Fractions, AnyStatisticsGiveANumberOrNothing) {
                         16384,
                         1e30F,
                         -1e30F,
-                        std::numeric_limits<float>::max(),
-                        std::numeric_limits<float>::infinity(),
-                        std::numeric_limits<float>::quiet_NaN()};
+                        Limits::max(),
+                        Limits::infinity(),
+                        Limits::quiet_NaN()};
   for (const float c0 : hard) {
     for (const float c1 : hard) {
       for (const float c2 : hard) {

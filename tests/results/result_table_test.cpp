@@ -45,15 +45,12 @@ TEST_F(ResultTableTest, IntervalsStandInOrderOfSizeRisingAtLeft) {
   for (std::int16_t row = 1; row <= 42; ++row) statistics.Increment(row, 3);
   EXPECT_THAT(shown(0),
               ElementsAre(11, 4, 18, 21, 7, 8, 17, 3, 12, 13, 2, 16, 9, 6, 20, 19, 5, 10, 1));
-  EXPECT_THAT(shown(1), ElementsAre(32, 25, 39, 42, 28, 29, 38, 24, 33, 34, 23, 37, 30, 27, 41, 40,
-                                    26, 31, 22));
   const ResultTable full = table();
-  EXPECT_EQ(full.rows[0].label, KeyTexts::shown(358_text));
-  EXPECT_EQ(full.rows[20].label, KeyTexts::shown(281_text));
-  EXPECT_EQ(full.rows[0].top, 21);
-  EXPECT_EQ(full.rows[1].top, 43);
-  EXPECT_EQ(full.rows[19].top, 21);
-  EXPECT_EQ(full.rows[18].top, 21 + 18 * 22);
+  ASSERT_EQ(full.rows.size(), 38U);
+  for (std::size_t i = 0; i < 19; ++i) {
+    EXPECT_EQ(full.rows[i + 19].control, full.rows[i].control + 21);
+    EXPECT_EQ(full.rows[i + 19].label, full.rows[i].label);
+  }
 }
 
 TEST_F(ResultTableTest, OnlyIntervalsThatWereOfferedShowAndCount) {

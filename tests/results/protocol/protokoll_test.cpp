@@ -6,6 +6,7 @@
 #include <locale>
 
 #include "support/fake_document_writer.h"
+#include "support/fake_host.h"
 
 namespace tonarix {
 namespace {
@@ -16,14 +17,6 @@ using testing::Pair;
 
 struct StandingClock final : WallClock {
   CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
-};
-
-/// A host that knows the user and nothing else.
-struct LoginHost final : Host {
-  bool Request(std::string& key, Variant&, Variant& output) override {
-    if (key == "LOGIN") output = Variant::Array{"Lovelace & Söhne", "Ada", "4711"};
-    return true;
-  }
 };
 
 using Facts = std::vector<std::pair<std::string, std::string>>;
@@ -37,7 +30,10 @@ Facts facts_of(pugi::xml_node parent, const char* item = "property") {
 }
 
 struct ProtokollTest : testing::Test {
-  ProtokollTest() { server.ServerInit("vemo06"); }
+  ProtokollTest() {
+    server.ServerInit("vemo06");
+    host.answers["LOGIN"] = Variant::Array{"Lovelace & Söhne", "Ada", "4711"};
+  }
 
   pugi::xml_node read(std::size_t document = 0) {
     EXPECT_TRUE(parsed.load_string(writer.written.at(document).content.c_str()));
@@ -52,7 +48,8 @@ struct ProtokollTest : testing::Test {
     return facts;
   }
 
-  Server server{[] { return std::make_unique<LoginHost>(); }, {"vemo06", "test"}};
+  FakeHost host;
+  Server server{host.factory(), {"vemo06", "test"}};
   StandingClock clock;
   FakeDocumentWriter writer;
   std::vector<std::string> logged;
@@ -138,13 +135,21 @@ TEST_F(ProtokollTest, WritingRecordsTheTonesAndOpensItsAnswersLater) {
               ElementsAre(Pair("Antwort", "true")));
 }
 
-TEST_F(ProtokollTest, AnExerciseLeftAtOnceHasEmptyLessons) {
-  protokoll.ProtokollNeu();
-  protokoll.ProtokollSchluss("bestimmen", "", {});
-  const pugi::xml_node root = read();
-  ASSERT_TRUE(root.child("lessons"));
-  EXPECT_FALSE(root.child("lessons").first_child());
-  EXPECT_FALSE(root.child("settings").first_child());
+TEST_F(ProtokollTest, WhatWasNeverAnsweredIsLeftOut) {
+  for (const bool answered : {false, true}) {
+    protokoll.ProtokollNeu();
+    protokoll.ProtokollAufgabe(two_intervals());
+    if (answered) {
+      protokoll.ProtokollMesswerte(1, 0);
+      protokoll.ProtokollAntwort(2, 0);
+    }
+    protokoll.ProtokollSchluss("bestimmen", "", {});
+    const pugi::xml_node lessons = read(answered ? 1 : 0).child("lessons");
+    ASSERT_TRUE(lessons);
+    const auto answers = lessons.child("lesson").child("answers").children();
+    EXPECT_EQ(std::distance(answers.begin(), answers.end()), answered ? 1 : 0);
+    EXPECT_EQ(lessons.first_child().empty(), !answered);
+  }
 }
 
 TEST_F(ProtokollTest, EachExerciseHasItsOwnDocumentTheSameSecondTheSameName) {

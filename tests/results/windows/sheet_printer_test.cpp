@@ -51,19 +51,6 @@ TEST_F(SheetPrinterTest, FieldsHaveTheirColourOnTheScreenAtAnyResolution) {
   }
 }
 
-TEST_F(SheetPrinterTest, PaperIsWhiteWithGreysOnly) {
-  const QImage image = painted(page, 1.0);
-  int dark = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor pixel = image.pixelColor(x, y);
-      EXPECT_LE(pixel.saturation(), 10) << x << ", " << y;
-      dark += pixel.lightness() < 128;
-    }
-  }
-  EXPECT_GT(dark, 5000) << "the texts are there";
-}
-
 TEST_F(SheetPrinterTest, NoTextLeavesItsBoxHoweverLong) {
   SheetPicture picture;
   picture.width = 300;
