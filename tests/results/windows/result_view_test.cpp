@@ -30,7 +30,7 @@ TEST_F(ResultViewTest, ShowsTheSheetAndTheChartAndSaysThemInWords) {
   auto* sheet = view->findChild<QWidget*>("sheet");
   auto* chart = view->findChild<QWidget*>("chart");
   EXPECT_TRUE(sheet->accessibleDescription().contains("[281] [132]: 100.0%"));
-  EXPECT_TRUE(chart->accessibleDescription().endsWith("[281] [132][700]100.0%"));
+  EXPECT_TRUE(chart->accessibleDescription().contains("[281] [132][700]100.0%"));
 }
 
 TEST_F(ResultViewTest, NothingIsClippedNorScrolledToTheSideOnASmallScreen) {
