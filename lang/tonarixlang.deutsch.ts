@@ -1511,6 +1511,10 @@ Vorzeichen!</translation>
         <source>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</source>
         <translation>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</translation>
     </message>
+    <message id="1129s">
+        <source>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</source>
+        <translation>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</translation>
+    </message>
     <message id="1130s">
         <source>gelöst</source>
         <extracomment>left end of the training bar</extracomment>

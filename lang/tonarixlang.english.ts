@@ -1511,6 +1511,10 @@ in any order.</translation>
         <source>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</source>
         <translation>The MIDI device does not answer. The exercise stays open: “Repeat” tries again, “Back” leads to the result.</translation>
     </message>
+    <message id="1129s">
+        <source>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</source>
+        <translation>The saved training could not be marked as finished. It will still be offered for continuing.</translation>
+    </message>
     <message id="1130s">
         <source>gelöst</source>
         <extracomment>left end of the training bar</extracomment>

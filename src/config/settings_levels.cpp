@@ -22,6 +22,14 @@ void SettingsWindow::training_finished() {
   changed();
 }
 
+void SettingsWindow::training_refused() {
+  training_Combo.selected = level::training;
+  training_Combo_change();
+  settings().EinstDatSave = build_EinstDatSave();
+  settings().EinstSicherung = build_EinstSicherung(settings(), kind_);
+  changed();
+}
+
 void SettingsWindow::training_saved() {
   fill_levels(true);
   training_Combo.selected = settings().Uebungsmodus;

@@ -73,6 +73,8 @@ class SettingsWindow : public Window {
 
   /// The saved training is used up: level 2 is off, level 1 chosen.
   void training_finished();
+  /// The saved training could not be gone on with after all: level 1, all frames open.
+  void training_refused();
   /// The training can be gone on with: the list gets its five captions and the level in force.
   void training_saved();
   /// The exercise has closed.

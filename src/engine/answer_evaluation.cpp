@@ -73,7 +73,6 @@ void ExerciseWindow::wrong_answer(std::int16_t code) {
   gesperrt_.at(static_cast<std::size_t>(code)) = 1;
   AntwortenFrei();
   wdh_gesamt_ = 0;
-  ++antw_nr_;
   open_answer();
 }
 
@@ -97,7 +96,6 @@ void ExerciseWindow::next_interval() {
   nriv[iv_nr_].visible = true;
   AntwortenFrei();
   wdh_gesamt_ = 0;
-  antw_nr_ = 1;
   open_answer();
 }
 

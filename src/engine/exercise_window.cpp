@@ -31,6 +31,8 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
         changed();
       }) {
   context_.midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+  name_window();
+  clear_statistics();
   start_.enable();
 }
 
@@ -47,12 +49,31 @@ void ExerciseWindow::start_timer() {
     set_answers_enabled(false);
     prepared_ = true;
   });
-  if (prepared_) run("mat_wahl.", mat_wahl());
+  if (!prepared_) return;
+  if (!resume_refused_) return run("mat_wahl.", mat_wahl());
+  tell(Wort(196_text) + " " + Wort(565_text), [this] { run("mat_wahl.", mat_wahl()); });
+}
+
+void ExerciseWindow::tell(const std::string& text, std::function<void()> then) {
+  context_.dialogs.show({"Tonarix 2000", text, MessageStyle::warning, "", ""},
+                        [then = std::move(then), alive = std::weak_ptr<bool>(alive_)](Reply) {
+                          if (!alive.expired() && then) then();
+                        });
+}
+
+void ExerciseWindow::name_window() {
+  static constexpr std::array<TextKey, 4> kTitles{291_text, 292_text, 293_text, 715_text};
+  caption = Wort(kTitles.at(static_cast<std::size_t>(settings().ueb_typ - 1)));
+}
+
+void ExerciseWindow::clear_statistics() {
+  context_.statistics.init_arr(3, kStatisticRows - 1);
+  context_.statistics.Clear();
+  context_.best.init_arr(kStatisticRows - 1);
+  context_.best.Clear();
 }
 
 void ExerciseWindow::set_common_captions() {
-  static constexpr std::array<TextKey, 5> kTitles{0_text, 291_text, 292_text, 293_text, 715_text};
-  caption = Wort(kTitles.at(static_cast<std::size_t>(settings().ueb_typ)));
   wieder.text = Wort(629_text);
   wieder2.text = Wort(632_text);
   grundton.text = Wort(300_text);
@@ -96,11 +117,6 @@ void ExerciseWindow::prepare_timers() {
 
 void ExerciseWindow::prepare_level() {
   build_scale(context_.key, settings().tongeschl, settings().abfr_iv);
-  context_.statistics.init_arr(3, 42);
-  context_.statistics.Clear();
-  context_.best.init_arr(42);
-  context_.best.Clear();
-
   if (settings().Uebungsmodus > 0) {
     box_.BoxAufbau(
         {to_int16(spieltimer_.interval()), to_int16(WahlAutomat_.interval()), zeit_grenze_});
@@ -120,21 +136,17 @@ void ExerciseWindow::prepare_level() {
 }
 
 void ExerciseWindow::resume_training() {
-  const auto refused = [this] {
-    context_.settings.Uebungsmodus = 1;
-    context_.dialogs.show(
-        {"Tonarix 2000", Wort(196_text) + " " + Wort(565_text), MessageStyle::warning, "", ""},
-        [](Reply) {});
-  };
-  if (!context_.server.ServerRead(record_key('A'), context_.settings.AntwSicherung)) {
-    return refused();
+  resume_refused_ = true;
+  if (context_.server.ServerRead(record_key('A'), context_.settings.AntwSicherung)) {
+    const auto read = from_record(context_.settings.AntwSicherung, settings(), key());
+    if (const auto* saved = std::get_if<SavedTraining>(&read)) {
+      resume(*saved, settings(), box_, context_.statistics);
+      zaehler[1].text = std::to_string(saved->zaehler);
+      whlgzaehler.text = std::to_string(saved->whlgzaehler);
+      resume_refused_ = false;
+    }
   }
-  const auto read = from_record(context_.settings.AntwSicherung, settings(), key());
-  const auto* saved = std::get_if<SavedTraining>(&read);
-  if (saved == nullptr) return refused();
-  resume(*saved, settings(), box_, context_.statistics);
-  zaehler[1].text = std::to_string(saved->zaehler);
-  whlgzaehler.text = std::to_string(saved->whlgzaehler);
+  if (resume_refused_) context_.caller.training_refused();
 }
 
 Sequence ExerciseWindow::mat_wahl() {
@@ -154,7 +166,6 @@ void ExerciseWindow::reset_display() {
   AntwDau_ = 0;
   wdh_gesamt_ = 0;
   iv_nr_ = 0;
-  antw_nr_ = 1;
   gesperrt_.fill(0);
   for (int i = ergebnis.first; i <= ergebnis.last; ++i) {
     ergebnis[i].text.clear();
@@ -179,6 +190,7 @@ void ExerciseWindow::give_first_interval() {
   const std::int16_t code = settings().abfr_iv == 0 ? to_int16(settings().stufe_wahl + 1)
                                                     : to_int16(std::abs(context_.row.iv[0]));
   ergebnis[0].text = answer_text(code);
+  ergebnis[0].accessible_name = nriv[0].text + ": " + ergebnis[0].text;
   ergebnis[0].back = signal::right;
   ergebnis[0].fore = signal::black;
   iv_nr_ = 1;
@@ -261,8 +273,11 @@ void ExerciseWindow::NachSpiel() {
     return;
   }
   wieder2.enabled = grundton.enabled = true;
-  const bool over = zustand_ == Zustand::training_finished || zustand_ == Zustand::test_finished;
-  if (!over && !waits().closed()) offer_next_task();
+  if (over()) {
+    hint.text = Wort(test() ? 1117_text : 1114_text);
+  } else if (!waits().closed()) {
+    offer_next_task();
+  }
 }
 
 void ExerciseWindow::offer_next_task() {
@@ -317,6 +332,7 @@ void ExerciseWindow::wieder2_click() {
 
 Sequence ExerciseWindow::wieder2_sequence() {
   wieder2.enabled = grundton.enabled = false;
+  spiel_art_ = SpielArt::wieder2;
   withdraw_next_task();
   all_notes_off();
   co_await Delay(kResetPause);
@@ -332,6 +348,7 @@ Sequence ExerciseWindow::grundton_sequence() {
   const bool during_task = wieder.open();
   grundton.enabled = false;
   wieder.enabled = wieder2.enabled = false;
+  spiel_art_ = during_task ? SpielArt::grundton : SpielArt::wieder2;
   withdraw_next_task();
   if (during_task) {
     set_answers_enabled(false);
@@ -347,7 +364,6 @@ Sequence ExerciseWindow::grundton_sequence() {
     wdh_gesamt_ += 0.5F;
   }
   hint.text = Wort(1122_text);
-  spiel_art_ = during_task ? SpielArt::grundton : SpielArt::wieder2;
   co_await play_keynote();
 }
 
@@ -413,6 +429,7 @@ void ExerciseWindow::escape_key() {
 }
 
 void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
+  if (leaving_ && tag == kLeavingTag) return give_up_leaving(error);
   if (exit_ == Exit::error || leaving_) {
     context_.errors.log(tag, error);
     return;
@@ -420,7 +437,8 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
   if (is_device_failure(error)) return device_failed(tag, error);
   exit_ = Exit::error;
   stop_all();
-  context_.errors.report_exercise(name(), tag, error, [this] {
+  context_.errors.report_exercise(name(), tag, error, [this, alive = std::weak_ptr<bool>(alive_)] {
+    if (alive.expired()) return;
     testtimer_.set_interval(0);
     testtimer_.enable();
   });
@@ -432,9 +450,9 @@ void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr erro
   context_.errors.log(tag, error);
   spieltimer_.disable();
   grdton_Timer_.disable();
-  context_.dialogs.show({"Tonarix 2000", Wort(1128_text), MessageStyle::warning, "", ""},
-                        [](Reply) {});
   NachSpiel();
+  // The time that goes into reading the message is not the student's.
+  tell(Wort(1128_text), [this] { antw_start_ = now(); });
 }
 
 }  // namespace tonarix

@@ -114,10 +114,15 @@ class ExerciseWindow : public Window, public ExerciseControls {
 
  private:
   enum class Exit { ok, error };
+  static constexpr const char* kLeavingTag = "zurueck_click.";
 
   // exercise_window.cpp
   void start_timer();
+  void name_window();
+  void clear_statistics();
   void set_common_captions();
+  /// A warning; `then` runs once it is read, unless the window has gone meanwhile.
+  void tell(const std::string& text, std::function<void()> then = {});
   void prepare_timers();
   void prepare_level();
   void resume_training();
@@ -161,6 +166,7 @@ class ExerciseWindow : public Window, public ExerciseControls {
   void count(Control& counter);
 
   // leaving.cpp
+  void give_up_leaving(std::exception_ptr error);
   Sequence leave();
   Sequence ask_to_save();
   bool save_training();
@@ -171,6 +177,9 @@ class ExerciseWindow : public Window, public ExerciseControls {
 
   double now() const { return seconds(context_.scheduler.now()); }
   bool training() const { return settings().Uebungsmodus == 1 || settings().Uebungsmodus == 2; }
+  bool over() const {
+    return zustand_ == Zustand::training_finished || zustand_ == Zustand::test_finished;
+  }
   bool test() const { return settings().Uebungsmodus > 2; }
 
   ExerciseContext context_;
@@ -192,18 +201,21 @@ class ExerciseWindow : public Window, public ExerciseControls {
   Exit exit_ = Exit::ok;
   bool leaving_ = false;
   bool prepared_ = false;
+  bool resume_refused_ = false;  ///< the saved training did not fit
+  bool result_closed_ = false;
+  bool result_stood_ = false;  ///< the sheet has stood long enough
   std::int16_t iv_nr_ = 0;
   float wdh_gesamt_ = 0;
   double antw_start_ = 0;    ///< seconds
   double antw_seconds_ = 0;  ///< answer time so far, before the clock last started
   float AntwDau_ = 0;        ///< tenths of a second
   std::int16_t zeit_grenze_ = 0;
-  std::int16_t antw_nr_ = 1;     ///< answers to the running interval, from 1
   std::int16_t answer_lfd_ = 1;  ///< answers in the lesson, from 1
   int lesson_nr_ = 0;
   int tasks_done_ = 0;
   int sounding_place_ = -1;
   std::array<std::int16_t, 22> gesperrt_{};
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace tonarix

@@ -32,23 +32,27 @@ std::string ExerciseWindow::record_key(char record) const {
 void ExerciseWindow::zurueck_click() {
   if (leaving_) return;
   leaving_ = true;
-  run("zurueck_click.", leave());
+  run(kLeavingTag, leave());
 }
 
 Sequence ExerciseWindow::leave() {
   zurueck.enabled = false;
   stop_all();
   wieder.enabled = wieder2.enabled = grundton.enabled = false;
-  const bool over = zustand_ == Zustand::training_finished || zustand_ == Zustand::test_finished;
-  if (!over && exit_ == Exit::ok && training() && tasks_done_ > 0) co_await ask_to_save();
+  if (!over() && exit_ == Exit::ok && training() && tasks_done_ > 0) co_await ask_to_save();
 
   zurueck.text = Wort(640_text);
   zurueck.back.reset();
   zurueck.fore = signal::leaving;
   hint.text.clear();
   enabled = false;
-  context_.open_result([this] { run("zurueck_click.", write_protocol()); });
+  context_.open_result([this] {
+    result_closed_ = true;
+    if (result_stood_) run(kLeavingTag, write_protocol());
+  });
   co_await waits().FullDelay(kResultPause);
+  result_stood_ = true;
+  if (result_closed_) co_await write_protocol();
 }
 
 Sequence ExerciseWindow::ask_to_save() {
@@ -63,8 +67,13 @@ Sequence ExerciseWindow::ask_to_save() {
   }
 }
 
+// Both records or none: the settings of one training beside the state of another would go on with
+// nonsense.
 bool ExerciseWindow::save_training() {
+  std::vector<std::string> former;
+  bool had_former = false;
   try {
+    had_former = context_.server.ServerRead(record_key('E'), former);
     context_.settings.AntwSicherung = to_record(
         training_state(box_, settings(), context_.statistics, to_int16(std::stoi(zaehler[1].text)),
                        to_int16(std::stoi(whlgzaehler.text))),
@@ -74,9 +83,14 @@ bool ExerciseWindow::save_training() {
     context_.caller.training_saved();
     return true;
   } catch (const std::exception&) {
-    context_.errors.log("zurueck_click.", std::current_exception());
-    return false;
+    context_.errors.log(kLeavingTag, std::current_exception());
   }
+  try {
+    if (had_former) context_.server.ServerStore(record_key('E'), Variant::strings(former));
+  } catch (const std::exception&) {
+    context_.errors.log(kLeavingTag, std::current_exception());
+  }
+  return false;
 }
 
 void ExerciseWindow::forget_saved_training() {
@@ -84,8 +98,18 @@ void ExerciseWindow::forget_saved_training() {
     context_.server.ServerStore(record_key('A'), Variant::strings({"False"}));
   } catch (const std::exception&) {
     context_.errors.log("intervall_antw.", std::current_exception());
+    tell(Wort(1129_text));
   }
   context_.caller.training_finished();
+}
+
+// What can still be done is done: the student is told and is back at the settings.
+void ExerciseWindow::give_up_leaving(std::exception_ptr error) {
+  busy = false;
+  WaitMeldung.visible = false;
+  context_.errors.report(kLeavingTag, error);
+  context_.caller.show_again();
+  context_.windows.unload(*this);
 }
 
 Sequence ExerciseWindow::write_protocol() {

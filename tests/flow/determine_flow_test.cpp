@@ -89,6 +89,8 @@ TEST(DetermineFlow, EveryCombinationRunsFromTheFirstWindowToTheDocument) {
         EXPECT_EQ(FlowBed::asked(window), 0);
         bed.hear_row();
         expect_row_sounds(bed, 0);
+        bed.scheduler.advance_ms(bed.beat());
+        for (const Control& mark : window.sounding) EXPECT_FALSE(mark.visible);
       }
       bed.answer_row(window, 1.5);
       EXPECT_EQ(FlowBed::asked(window), -1);

@@ -239,6 +239,26 @@ TEST_F(LevelFlowTest, ABrokenSavedTrainingIsToldAndLeftAsItIs) {
     EXPECT_EQ(host.records.at("vemo06/A1"), record);
     bed.open_exercise();
   }
+  // A record that breaks only when the exercise reads it begins a new training, once the message is
+  // read.
+  host.records["vemo06/A1"] = good;
+  {
+    FlowBed bed(host);
+    Einstellung1& settings = bed.open_settings();
+    settings.choose(settings.training_Combo, 2);
+    EXPECT_EQ(settings.training_Combo.selected, 2);
+    host.failing = {"READ"};
+    bed.dialogs.hold = true;
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.scheduler.advance_ms(5000);
+    EXPECT_TRUE(bed.devices.notes().empty());
+    EXPECT_EQ(settings.training_Combo.selected, 1);
+    EXPECT_EQ(bed.module.settings().EinstDatSave.at(2), "[564s]");
+    bed.dialogs.answer(Reply::ok);
+    bed.hear_row();
+    EXPECT_EQ(percent(window), 50);
+    host.failing.clear();
+  }
   for (const char* flag : {"True", "False", "NIL", ""}) {
     host.records["vemo06/A1"] = changed(0, flag);
     FlowBed bed(host);

@@ -33,6 +33,52 @@ TEST_F(TroubleFlowTest, ADeviceThatVanishesLeavesTheExerciseOpenAndComesBack) {
   bed.leave(window);
 }
 
+TEST_F(TroubleFlowTest, ADeviceGoneAfterTheRowOpensNoAnswers) {
+  for (const bool by_keynote : {false, true}) {
+    FlowBed bed(host);
+    bed.open_settings();
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.hear_row();
+    bed.answer_row(window);
+    bed.devices.refuses = true;
+    by_keynote ? window.grundton_click() : window.wieder2_click();
+    bed.hear_row();
+    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+    for (const Control& button : window.st_int) EXPECT_FALSE(button.enabled);
+    EXPECT_TRUE(window.CmdNextAufg.open());
+    bed.devices.refuses = false;
+    window.CmdNextAufg_click();
+    bed.hear_row();
+    EXPECT_EQ(FlowBed::asked(window), 0);
+    bed.answer_row(window);
+    EXPECT_EQ(window.zaehler[0].text, "4");
+  }
+}
+
+TEST_F(TroubleFlowTest, ReadingAMessageIsNotAnswerTime) {
+  FlowBed bed(host);
+  bed.dialogs.hold = true;
+  bed.open_settings();
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
+  bed.devices.refuses = true;
+  window.wieder_click();
+  bed.scheduler.advance_ms(60000);
+  ASSERT_TRUE(bed.dialogs.open());
+  bed.dialogs.answer(Reply::ok);
+  bed.scheduler.advance_ms(1000);
+  bed.press(window, bed.right_code(0));
+  bed.devices.refuses = false;
+  const pugi::xml_node answer = bed.leave(window)
+                                    .child("exercise")
+                                    .child("lessons")
+                                    .child("lesson")
+                                    .child("answers")
+                                    .child("answer");
+  const auto time = answer.find_child_by_attribute("key", "AntwDau").attribute("value");
+  EXPECT_LT(time.as_double(), 30);
+}
+
 TEST_F(TroubleFlowTest, NoDeviceAtAllStillRunsTheExercise) {
   FlowBed bed(host);
   bed.devices.refuses = true;
