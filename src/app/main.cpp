@@ -7,6 +7,7 @@
 #include "app/options.h"
 #include "app/program.h"
 #include "base/windows/theme.h"
+#include "host/local/catalogue_folder.h"
 
 namespace {
 
@@ -32,10 +33,29 @@ int list_midi(int argc, char* argv[]) {
   return 0;
 }
 
+/// One line when the catalogues are there but none of them is the language asked for.
+bool language_missing(const std::string& name) {
+  try {
+    const auto languages =
+        tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
+    if (languages.empty()) return false;
+    std::string known;
+    for (const auto& language : languages) {
+      if (language.name == name) return false;
+      known += (known.empty() ? "" : ", ") + language.name;
+    }
+    std::cerr << "vemo06: --language: \"" << name << "\" is not one of " << known << ".\n";
+    return true;
+  } catch (const std::exception&) {
+    return false;  // without catalogues the program runs without texts
+  }
+}
+
 void quiet_qt(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type == QtFatalMsg) {
-    std::cerr << "vemo06: the display can't be used: " << text.section('\n', 0, 0).toStdString()
-              << '\n';
+    const char* display = std::getenv("DISPLAY");
+    std::cerr << "vemo06: the display" << (display != nullptr ? std::string(" ") + display : "")
+              << " can't be opened.\n";
     std::_Exit(1);
   }
   if (std::getenv("QT_LOGGING_RULES") != nullptr) std::cerr << text.toStdString() << '\n';
@@ -61,6 +81,7 @@ int main(int argc, char* argv[]) {
     case Options::Task::open_module:
       break;
   }
+  if (language_missing(options.language)) return 2;
   if (display_missing()) {
     std::cerr << "vemo06: no display; the program needs a graphical session.\n";
     return 1;

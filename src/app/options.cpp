@@ -42,7 +42,8 @@ std::optional<OptionError> take_value(const std::string& option, const std::stri
     if (value.empty()) return bad_value(option, value, "a folder");
     options.data = value;
   } else if (option == "--user") {
-    if (value.empty() || value.front() == ';') {
+    const auto first = value.find_first_not_of(' ');
+    if (first == std::string::npos || value[first] == ';') {
       return bad_value(option, value, "of the form \"Name;Vorname;Matrikel-Nr.\"");
     }
     options.user = value;

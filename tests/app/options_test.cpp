@@ -26,9 +26,9 @@ TEST(Options, AnEmptyHostListIsAccepted) {
 
 TEST(Options, MistakesAreNamedInOneLine) {
   const std::vector<std::vector<std::string>> mistakes{
-      {"--dat", "x"}, {"x"},        {"--data"},       {"--data", ""}, {"--role", "3"},
-      {"--role=5"},   {"--midi=x"}, {"--midi", "-1"}, {"--midi=1x"},  {"--midi=99999"},
-      {"--user", ""}, {"--user=;"}, {"--language="}};
+      {"--dat", "x"}, {"x"},          {"--data"},       {"--data", ""}, {"--role", "3"},
+      {"--role=5"},   {"--midi=x"},   {"--midi", "-1"}, {"--midi=1x"},  {"--midi=99999"},
+      {"--user", ""}, {"--user= ;x"}, {"--language="}};
   for (const auto& arguments : mistakes) {
     Options options;
     const auto error = parse_options(arguments, options);
