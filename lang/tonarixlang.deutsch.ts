@@ -1444,8 +1444,8 @@ Vorzeichen!</translation>
         <translation>Welches Intervall folgt?</translation>
     </message>
     <message id="1112s">
-        <source>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</source>
-        <translation>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</translation>
+        <source>Das Protokoll konnte nicht geschrieben werden nach</source>
+        <translation>Das Protokoll konnte nicht geschrieben werden nach</translation>
     </message>
     <message id="1113s">
         <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
@@ -1539,6 +1539,10 @@ Vorzeichen!</translation>
         <source>Stand</source>
         <extracomment>title of the card with the counters</extracomment>
         <translation>Stand</translation>
+    </message>
+    <message id="1135s">
+        <source>Es liegt stattdessen hier:</source>
+        <translation>Es liegt stattdessen hier:</translation>
     </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>

@@ -1444,8 +1444,8 @@ in any order.</translation>
         <translation>Which interval follows?</translation>
     </message>
     <message id="1112s">
-        <source>Das Protokoll konnte nicht in den vorgesehenen Ordner geschrieben werden. Es liegt stattdessen hier:</source>
-        <translation>The protocol could not be written to its folder. It has been saved here instead:</translation>
+        <source>Das Protokoll konnte nicht geschrieben werden nach</source>
+        <translation>The protocol could not be written to</translation>
     </message>
     <message id="1113s">
         <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
@@ -1539,6 +1539,10 @@ in any order.</translation>
         <source>Stand</source>
         <extracomment>title of the card with the counters</extracomment>
         <translation>Standing</translation>
+    </message>
+    <message id="1135s">
+        <source>Es liegt stattdessen hier:</source>
+        <translation>It has been saved here instead:</translation>
     </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>

@@ -119,15 +119,17 @@ Sequence ExerciseWindow::write_protocol() {
   FinishResult result = context_.protocol.ProtokollSchluss(context_.caller.exercise_caption(),
                                                            caption, settings().EinstDatSave);
   while (result.failed) {
-    const Message told{"Tonarix 2000", Wort(1113_text) + "\n" + result.reason, MessageStyle::yes_no,
-                       Wort(1107_text), Wort(1126_text)};
+    const Message told{"Tonarix 2000",
+                       Wort(1113_text) + "\n" + result.wanted.string() + ": " + result.reason,
+                       MessageStyle::yes_no, Wort(1107_text), Wort(1126_text)};
     const Reply reply = co_await ask(waits(), context_.dialogs, told);
     if (reply != Reply::yes) break;
     result = context_.protocol.finish_again();
   }
   if (result.fell_back) {
     const Message told{"Tonarix 2000",
-                       Wort(1112_text) + "\n" + result.path.string() + "\n" + result.reason,
+                       Wort(1112_text) + " " + result.wanted.string() + ": " + result.reason +
+                           "\n" + Wort(1135_text) + "\n" + result.path.string(),
                        MessageStyle::warning, "", ""};
     co_await ask(waits(), context_.dialogs, told);
   }
