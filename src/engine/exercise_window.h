@@ -114,9 +114,10 @@ class ExerciseWindow : public Window, public ExerciseControls {
 
  private:
   enum class Exit { ok, error };
+  static constexpr double kResetPause = 50;  ///< ms for a device to fall silent
   static constexpr const char* kLeavingTag = "zurueck_click.";
 
-  // exercise_window.cpp
+  // exercise_start.cpp, exercise_window.cpp, exercise_sound.cpp
   void start_timer();
   void name_window();
   void clear_statistics();
