@@ -73,6 +73,7 @@ inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) 
     }
     return false;
   };
+  int thirds = 0;
   for (int i = 0; i <= s.invzahl + 1; ++i) {
     const Tone tone = bed.row.inv_ton[static_cast<std::size_t>(i)];
     if (!has_name(tone.qz)) return "qz outside the table";
@@ -85,6 +86,9 @@ inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) 
       return "a tone equal to the one two before";
     }
     if (i == 0) continue;
+    const int pitch_over_keynote = (tone.chr - bed.key.skala[0].chr + 120) % 12;
+    if (pitch_over_keynote == 3) thirds |= 1;
+    if (pitch_over_keynote == 4) thirds |= 2;
     const Tone before = bed.row.inv_ton[static_cast<std::size_t>(i - 1)];
     const int iv = bed.row.iv[static_cast<std::size_t>(i - 1)];
     const int direction = tone.chr > before.chr ? 1 : -1;
@@ -106,7 +110,15 @@ inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) 
     const int least = s.ivg == 1 ? 13 : 1;
     if (semitones > most || semitones < least) return "an interval beyond the chosen size";
   }
+  if (s.tongeschl == 2 && bed.material.terz_typ != thirds) return "thirds that aren't remembered";
   return {};
+}
+
+/// One cell of the statistics.
+inline float statistic(const MaterialBed& bed, int row, int column) {
+  float value = -1000;
+  bed.statistics.read(to_int16(row), static_cast<float>(column), value);
+  return value;
 }
 
 }  // namespace tonarix

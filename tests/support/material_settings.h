@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/arithmetic.h"
 #include "config/settings.h"
 #include "music/key.h"
 
@@ -48,6 +49,15 @@ inline std::vector<Settings> material_settings(int step = 1) {
     }
   }
   return all;
+}
+
+/// The settings of a new window at a level, with the given mode and naming.
+inline Settings material_of(int level, double mode, double abfr_iv) {
+  Settings settings;
+  settings.Uebungsmodus = to_int16(level);
+  settings.tongeschl = to_int16(mode);
+  settings.abfr_iv = to_int16(abfr_iv);
+  return settings;
 }
 
 inline std::string describe(const Settings& s) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 
 #include "engine/material/worked_examples.h"
@@ -14,23 +15,13 @@
 namespace tonarix {
 namespace {
 
-Settings training_settings(int tongeschl, int abfr_iv) {
-  Settings settings;
-  settings.Uebungsmodus = 1;
-  settings.tongeschl = to_int16(tongeschl);
-  settings.abfr_iv = to_int16(abfr_iv);
-  return settings;
-}
-
 // The drawing list is what the sorted rows ask for: each value weight + offset times, those of
 // positive weight first.
 void expect_list_matches_weights(const FrequencyBox& box) {
   const BoxRow* const first = &box.mathaeufgk_box[1];
   const BoxRow* const end = first + box.box_zeilen;
   EXPECT_TRUE(std::is_sorted(first, end, [](auto a, auto b) { return a.weight > b.weight; }));
-  const int lowest =
-      std::min_element(first, end, [](auto a, auto b) { return a.weight < b.weight; })->weight;
-  const int offset = lowest >= 1 ? 0 : 1 - lowest;
+  const int offset = std::max(0, 1 - end[-1].weight);
   std::map<int, int> expected;
   int front = 0;
   for (const BoxRow* row = first; row != end; ++row) {
@@ -42,15 +33,6 @@ void expect_list_matches_weights(const FrequencyBox& box) {
   EXPECT_EQ(found, expected);
   EXPECT_EQ(box.matbox_vorn, front);
   EXPECT_EQ(static_cast<int>(box.matbox.size()), box.matboxmax + 1);
-}
-
-TEST(FrequencyBox, StartsWithAboutThirtyEntriesInASmallBox) {
-  constexpr struct {
-    int rows, weight;
-  } kStart[] = {{2, 15}, {5, 6}, {6, 5}, {7, 4}, {8, 4}, {24, 4}, {42, 4}};
-  for (const auto [rows, weight] : kStart) {
-    EXPECT_EQ(FrequencyBox::start_gewicht_of(rows), weight) << rows;
-  }
 }
 
 TEST(FrequencyBox, AsksWhatHasAButtonAndHasTheRowsOfItsScale) {
@@ -78,9 +60,7 @@ TEST(FrequencyBox, AsksWhatHasAButtonAndHasTheRowsOfItsScale) {
     for (int row = 1; row < kStatisticRows; ++row) {
       const int half = settings.abfr_iv == 0 ? 11 : 21;
       const int value = row > half ? half - row : row;
-      float occurrence = -1;
-      bed.statistics.read(to_int16(row), 3, occurrence);
-      EXPECT_EQ(occurrence, values.contains(value) ? 1 : 0) << describe(settings) << value;
+      EXPECT_EQ(statistic(bed, row, 3), values.contains(value)) << describe(settings) << value;
       EXPECT_TRUE(!values.contains(value) || codes[static_cast<std::size_t>(std::abs(value))]);
     }
     expect_list_matches_weights(bed.box);
@@ -104,47 +84,51 @@ TEST(FrequencyBox, ChosenDegreeIsTheRowOfTheScale) {
 }
 
 TEST(FrequencyBox, MovesAsWorkedOutByHand) {
-  for (const Training& training : kTrainings) {
-    MaterialBed bed(training_settings(training.tongeschl, training.abfr_iv), 1);
-    FrequencyBox& box = bed.box;
-    int number = 0;
-    for (const TrainingStep& step : training.steps) {
-      SCOPED_TRACE(testing::Message() << training.tongeschl << training.abfr_iv << " " << number++);
-      box.begin_task();
-      bed.row.iv[0] = to_int16(step.value);
-      int wrong = 0;
-      for (const int value : step.confused) {
-        if (value != 0) box.f_antw_wert[0][static_cast<std::size_t>(++wrong)] = to_int16(value);
-      }
-      box.rf[0] = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
-      box.zeit_gewicht[0] = static_cast<float>(step.late);
-      box.wdh_gewicht[0] = to_int16(step.repeats);
-      float before = 0;
-      float after = 0;
-      bed.statistics.read(statistic_row(bed.row.iv[0], bed.settings.abfr_iv), 1, before);
-      const BoxOutcome outcome = box.BoxAuswerten(bed.row, 1);
-      bed.statistics.read(statistic_row(bed.row.iv[0], bed.settings.abfr_iv), 1, after);
-
-      EXPECT_NEAR(after - before, step.statistic, 1e-4);
-      EXPECT_EQ(box.box_summe, step.box_summe);
-      EXPECT_EQ(outcome.zustand, step.zustand);
-      const int panel = step.zustand == 1 ? 0 : step.box_summe == 0 ? 1 : 2;
-      EXPECT_EQ(outcome.ergebnis_anz, panel);
-      EXPECT_EQ(static_cast<int>(box.percentage()), step.percentage);
-      for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(box.mathaeufgk_box[i + 1].weight, step.heaviest[i]);
-      }
-      EXPECT_EQ(box.mathaeufgk_box[static_cast<std::size_t>(box.box_zeilen)].weight, step.lightest);
-      if (step.matboxmax == 0) continue;  // at its ends the list is left as it is
-      EXPECT_EQ(box.matboxmax, step.matboxmax);
-      EXPECT_EQ(box.matbox_vorn, step.matbox_vorn);
-      expect_list_matches_weights(box);
+  std::optional<MaterialBed> bed;
+  for (std::istringstream& example : worked_examples("answer")) {
+    SCOPED_TRACE(example.str());
+    const auto next = [&example] {
+      double cell = 0;
+      EXPECT_TRUE(example >> cell);
+      return cell;
+    };
+    const auto mode = next();
+    const auto abfr_iv = next();
+    if (next() == 0) bed.emplace(material_of(1, mode, abfr_iv), 1);
+    FrequencyBox& box = bed->box;
+    box.begin_task();
+    bed->row.iv[0] = to_int16(next());
+    int wrong = 0;
+    for (int i = 0; i < 4; ++i) {
+      const std::int16_t value = to_int16(next());
+      if (value != 0) box.f_antw_wert[0][static_cast<std::size_t>(++wrong)] = value;
     }
+    box.rf[0] = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
+    box.wdh_gewicht[0] = to_int16(next());
+    box.zeit_gewicht[0] = static_cast<float>(next());
+    const std::int16_t row = statistic_row(bed->row.iv[0], bed->settings.abfr_iv);
+    const float before = statistic(*bed, row, 1);
+    const BoxOutcome outcome = box.BoxAuswerten(bed->row, 1);
+
+    EXPECT_NEAR(statistic(*bed, row, 1) - before, next(), 1e-4);
+    EXPECT_EQ(box.box_summe, next());
+    EXPECT_EQ(outcome.zustand, next());
+    EXPECT_EQ(outcome.ergebnis_anz, outcome.zustand == 1 ? 0 : box.box_summe == 0 ? 1 : 2);
+    EXPECT_EQ(static_cast<int>(box.percentage()), next());
+    const double entries = next();
+    const double entries_in_front = next();
+    for (const int place : {1, 2, 3, int{box.box_zeilen}}) {
+      EXPECT_EQ(box.mathaeufgk_box[static_cast<std::size_t>(place)].weight, next());
+    }
+    if (entries == 0) continue;  // at its ends the list is left as it is
+    EXPECT_EQ(box.matboxmax, entries);
+    EXPECT_EQ(box.matbox_vorn, entries_in_front);
+    expect_list_matches_weights(box);
   }
 }
 
 TEST(FrequencyBox, LeavesOutAGivenFirstInterval) {
-  Settings settings = training_settings(0, 1);
+  Settings settings = material_of(1, 0, 1);
   settings.ton_st_wahl = 1;
   settings.stufe_wahl = 4;
   MaterialBed bed(settings, 1);
@@ -159,14 +143,12 @@ TEST(FrequencyBox, LeavesOutAGivenFirstInterval) {
   EXPECT_EQ(weight(2), 5);
   EXPECT_EQ(weight(-3), 5);
   EXPECT_EQ(weight(6), 4);
-  float answered = 0;
-  bed.statistics.read(2, 0, answered);
-  EXPECT_EQ(answered, 0);
+  EXPECT_EQ(statistic(bed, 2, 0), 0);
 }
 
 // Near the end of a training most draws go to what still has weight.
 TEST(FrequencyBox, DrawsTheUnsolvedNearTheEnd) {
-  MaterialBed bed(training_settings(0, 0), 5);
+  MaterialBed bed(material_of(1, 0, 0), 5);
   std::vector<BoxRow> rows;
   for (const std::int16_t value : offered_intervals(bed.settings, bed.key)) {
     rows.push_back({value, to_int16(value == 3 ? 6 : -6)});

@@ -10,11 +10,8 @@
 namespace tonarix {
 namespace {
 
-Settings training(std::int16_t abfr_iv, std::int16_t tongeschl) {
-  Settings settings;
-  settings.Uebungsmodus = 1;
-  settings.abfr_iv = abfr_iv;
-  settings.tongeschl = tongeschl;
+Settings training(int abfr_iv, int tongeschl) {
+  Settings settings = material_of(1, tongeschl, abfr_iv);
   settings.invzahl = 2;
   return settings;
 }
@@ -24,7 +21,7 @@ std::vector<std::string> record_of(const MaterialBed& bed) {
 }
 
 TEST(SavedTraining, GoesOnWhereItStopped) {
-  for (const std::int16_t abfr_iv : {std::int16_t{0}, std::int16_t{1}}) {
+  for (const int abfr_iv : {0, 1}) {
     MaterialBed left(training(abfr_iv, 2), 21);
     for (int task = 0; task < 15; ++task) {
       left.material.mat_wahl();
@@ -49,13 +46,9 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
     EXPECT_EQ(next.box.matbox, left.box.matbox);
     EXPECT_EQ(next.box.matbox_vorn, left.box.matbox_vorn);
     EXPECT_EQ(next.box.percentage(), left.box.percentage());
-    for (std::int16_t row = 0; row < kStatisticRows; ++row) {
+    for (int row = 0; row < kStatisticRows; ++row) {
       for (int column = 0; column <= 3; ++column) {
-        float was = 0;
-        float is = 0;
-        left.statistics.read(row, static_cast<float>(column), was);
-        next.statistics.read(row, static_cast<float>(column), is);
-        EXPECT_EQ(is, was) << row << " " << column;
+        EXPECT_EQ(statistic(next, row, column), statistic(left, row, column));
       }
     }
     EXPECT_EQ(record_of(next), record);
@@ -76,40 +69,36 @@ TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
     EXPECT_TRUE(std::holds_alternative<Fault>(read));
     return std::holds_alternative<Fault>(read) ? std::get<Fault>(read) : Fault{};
   };
-  const auto changed = [&](std::size_t place, const char* text) {
-    std::vector<std::string> record = good;
-    record.at(place) = text;
-    return fault(record, bed.settings);
-  };
-
   EXPECT_EQ(fault({}, bed.settings), Fault::not_valid);
-  for (const char* flag : {"", "NIL", "True", "TRUE", "False", "true "}) {
-    EXPECT_EQ(changed(0, flag), Fault::not_valid) << flag;
-  }
   EXPECT_EQ(fault({"true"}, bed.settings), Fault::wrong_length);
   EXPECT_EQ(fault({good.begin(), good.end() - 1}, bed.settings), Fault::wrong_length);
   EXPECT_EQ(fault(good, training(1, 1)), Fault::wrong_length);
 
   const std::size_t weight = rows + 1;
-  const std::size_t statistic = 2 * rows + 1;
-  for (const char* text : {"", "vier", "4,0", " 4", "4 ", "4x", "32768", "-32769", "1e3"}) {
-    EXPECT_EQ(changed(weight, text), Fault::not_a_number) << text;
+  const std::size_t statistics = 2 * rows + 1;
+  const std::size_t last = good.size() - 1;
+  struct Case {
+    Fault fault;
+    std::size_t place;
+    std::vector<std::string> texts;
+  };
+  for (const Case& one : std::initializer_list<Case>{
+           {Fault::not_valid, 0, {"", "NIL", "True", "TRUE", "False", "true "}},
+           {Fault::not_a_number, weight, {"", "vier", "4,0", " 4", "4 ", "4x", "32768", "1e3"}},
+           {Fault::not_a_number, statistics + 2, {"inf", "nan", "-1,5", "1e99", ""}},
+           {Fault::not_a_number, last, {"x"}},
+           {Fault::foreign_row, 1, {"14", good[2], "-32768"}},
+           {Fault::foreign_row, statistics, {"0"}},
+           {Fault::impossible, statistics + 1, {"-1", "0.5"}},
+           {Fault::impossible, statistics + 2, {"-20000"}},
+           {Fault::impossible, weight, {"30000"}},
+           {Fault::impossible, last, {"-1"}}}) {
+    for (const std::string& text : one.texts) {
+      std::vector<std::string> record = good;
+      record.at(one.place) = text;
+      EXPECT_EQ(fault(record, bed.settings), one.fault) << one.place << ' ' << text;
+    }
   }
-  for (const char* text : {"inf", "nan", "-1,5", "1e99", ""}) {
-    EXPECT_EQ(changed(statistic + 2, text), Fault::not_a_number) << text;
-  }
-  EXPECT_EQ(changed(good.size() - 1, "x"), Fault::not_a_number);
-
-  EXPECT_EQ(changed(1, "14"), Fault::foreign_row);
-  EXPECT_EQ(changed(1, good[2].c_str()), Fault::foreign_row);
-  EXPECT_EQ(changed(1, "-32768"), Fault::foreign_row);
-  EXPECT_EQ(changed(statistic, "0"), Fault::foreign_row);
-
-  EXPECT_EQ(changed(statistic + 1, "-1"), Fault::impossible);
-  EXPECT_EQ(changed(statistic + 1, "0.5"), Fault::impossible);
-  EXPECT_EQ(changed(statistic + 2, "-20000"), Fault::impossible);
-  EXPECT_EQ(changed(weight, "30000"), Fault::impossible);
-  EXPECT_EQ(changed(good.size() - 1, "-1"), Fault::impossible);
   std::vector<std::string> solved = good;
   std::fill_n(solved.begin() + static_cast<std::ptrdiff_t>(weight), rows, "0");
   EXPECT_EQ(fault(solved, bed.settings), Fault::impossible);

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Works the rules of the frequency box out by themselves, in exact fractions, and writes
-worked_examples.h. Run it only when a rule changes; it shares nothing with the program.
+worked_examples.txt. Run it only when a rule changes; it shares nothing with the program.
 
 Tables of the scales by their places on the line of fifths, C = 15."""
 from fractions import Fraction as F
@@ -113,41 +113,31 @@ def training(mode, abfr_iv, seed, tasks, right):
 
 
 def main():
-    out = ['#pragma once', '', '// Written by worked_examples.py.', '', '#include <array>',
-           '#include <cstdint>', '#include <vector>', '', 'namespace tonarix {', '']
-    out += ['// mode, how often each row stands in the list of first degrees',
-            'inline const std::vector<std::vector<int>> kStepLists{']
-    out += ['    {' + ', '.join(map(str, step_list(m))) + '},' for m in (0, 1, 2)] + ['};', '']
-    out += ['struct TestLength {',
-            '  int tongeschl, abfr_iv, degree, invzahl, beat, aufg_gesamt, matboxmax, aufg_dauer;',
-            '};', '// degree -1: all', 'inline constexpr TestLength kTestLengths[] = {']
+    out = ['# Written by worked_examples.py.',
+           '# steps mode, then how often each row stands in the list of first degrees']
+    out += [row('steps', mode, *step_list(mode)) for mode in (0, 1, 2)]
+    out.append('# length mode abfr_iv degree(-1: all) invzahl beat aufg_gesamt matboxmax aufg_dauer')
     for mode in (0, 1, 2):
         for abfr in (0, 1):
             for degree in (None, 0, len(SCALES[mode]) - 1):
                 for invzahl in ((1, 2, 3, 4) if degree is None else (1,)):
                     for beat in (300, 428, 1500, 2000):
-                        row = (mode, abfr, -1 if degree is None else degree, invzahl, beat)
-                        row += test_length(mode, abfr, degree, invzahl, beat)
-                        out.append('    {' + ', '.join(map(str, row)) + '},')
-    out += ['};', '']
-    out += ['struct TrainingStep {', '  int value;', '  std::array<int, 4> confused;',
-            '  int repeats;', '  double late, statistic;',
-            '  int box_summe, zustand, percentage, matboxmax, matbox_vorn;',
-            '  std::array<int, 3> heaviest;', '  int lightest;', '};',
-            'struct Training {', '  int tongeschl, abfr_iv;', '  std::vector<TrainingStep> steps;',
-            '};', 'inline const std::vector<Training> kTrainings{']
+                        out.append(row('length', mode, abfr, -1 if degree is None else degree,
+                                       invzahl, beat, *test_length(mode, abfr, degree, invzahl, beat)))
+    out.append('# answer mode abfr_iv task value confused(4) repeats late statistic box_summe zustand'
+               ' percentage matboxmax matbox_vorn heaviest(3) lightest')
     for mode, abfr, seed, right in ((0, 0, 1, 0.9), (1, 1, 2, 0.75), (2, 0, 3, 0.35), (0, 1, 4, 0.5)):
-        out.append(f'    {{{mode}, {abfr}, {{')
-        for (value, confused, repeats, late, statistic, total, state, percent, entries, top,
-             low) in training(mode, abfr, seed, 60, right):
-            confused = ', '.join(map(str, (confused + [0] * 4)[:4]))
-            out.append(f'        {{{value}, {{{confused}}}, {repeats}, {float(late)}, '
-                       f'{float(statistic)}, {total}, {state}, {percent}, {entries[0]}, {entries[1]}, '
-                       f'{{{", ".join(map(str, top))}}}, {low}}},')
-        out.append('    }},')
-    out += ['};', '', '}  // namespace tonarix', '']
-    with open(__file__.replace('.py', '.h'), 'w', encoding='ascii') as header:
-        header.write('\n'.join(out))
+        for task, (value, confused, repeats, late, statistic, total, state, percent, entries, top,
+                   low) in enumerate(training(mode, abfr, seed, 60, right)):
+            confused = (confused + [0] * 4)[:4]
+            out.append(row('answer', mode, abfr, task, value, *confused, repeats, float(late),
+                           float(statistic), total, state, percent, *entries, *top, low))
+    with open(__file__.replace('.py', '.txt'), 'w', encoding='ascii') as table:
+        table.write('\n'.join(out) + '\n')
+
+
+def row(*cells):
+    return ' '.join(map(str, cells))
 
 
 if __name__ == '__main__':
