@@ -209,6 +209,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
       return {std::max(size.width() + 32, 76), std::max(size.height() + 14, 34)};
     case CT_ComboBox:
       return {result.width() + 8, std::max(result.height(), 30)};
+    case CT_ItemViewItem:  // an entry of an open list
+      return {result.width() + 8, std::max(result.height(), 24)};
     case CT_RadioButton:
       return {result.width() + 10, std::max(result.height(), 24)};
     default:

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QMargins>
 
 #include "base/colour.h"
 
@@ -37,6 +38,8 @@ inline constexpr int between = 16;  // between groups
 inline constexpr int edge = 20;     // to the window's edge
 inline constexpr int corner = 6;    // radius of cards
 inline constexpr int small_corner = 4;
+/// Room that the title bar and the frame of a window take, whatever draws them.
+inline constexpr QMargins window_frame(2, 30, 2, 6);
 
 QColor colour(const Colour& colour);
 QFont font(TextRole role);

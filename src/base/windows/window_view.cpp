@@ -22,6 +22,19 @@ Button* first_open(const std::vector<Button*>& buttons) {
   return found == buttons.end() ? nullptr : *found;
 }
 
+/// What a window can fill of its screen, its title bar and frame in view.
+QRect room_on(const QScreen& screen) {
+  return screen.availableGeometry().marginsRemoved(theme::window_frame);
+}
+
+QRect moved_inside(QRect frame, const QRect& room) {
+  frame.moveLeft(std::clamp(frame.left(), room.left(),
+                            std::max(room.left(), room.right() + 1 - frame.width())));
+  frame.moveTop(std::clamp(frame.top(), room.top(),
+                           std::max(room.top(), room.bottom() + 1 - frame.height())));
+  return frame;
+}
+
 bool is_return(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -108,12 +121,10 @@ QSize WindowView::with_bars(QSize size, const QSize& room) const {
 void WindowView::place_first() {
   if (own_size_.isValid()) return;
   const QScreen* at = place_ ? QGuiApplication::screenAt(*place_) : nullptr;
-  const QRect room = (at ? at : screen())->availableGeometry();
+  const QRect room = room_on(*(at ? at : screen()));
   QRect frame(QPoint(), with_bars(sizeHint(), room.size()));
   frame.moveCenter(place_ ? *place_ : room.center());
-  frame.moveLeft(std::clamp(frame.left(), room.left(), room.right() + 1 - frame.width()));
-  frame.moveTop(std::clamp(frame.top(), room.top(), room.bottom() + 1 - frame.height()));
-  setGeometry(frame);
+  setGeometry(moved_inside(frame, room));
   own_size_ = frame.size();
   // No control has the keyboard until the user asks for one: Return is the way on.
   setFocus(Qt::OtherFocusReason);
@@ -124,8 +135,9 @@ void WindowView::grow() {
   if (!isVisible() || size() != own_size_) return;
   const QSize need = content_->minimumSizeHint() + sizeHint() - content_->sizeHint();
   if (need.width() <= width() && need.height() <= height()) return;
-  own_size_ = with_bars(need, screen()->availableGeometry().size()).expandedTo(size());
-  resize(own_size_);
+  const QRect room = room_on(*screen());
+  own_size_ = with_bars(need, room.size()).expandedTo(size());
+  setGeometry(moved_inside({geometry().topLeft(), own_size_}, room));
 }
 
 Button* WindowView::button(const Control& control, Bindings::Handler pressed, Binding look) {
