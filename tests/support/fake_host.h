@@ -45,6 +45,12 @@ class FakeHost {
     }
     return found;
   }
+  /// The keys of all calls in their order, "STATUS MIDI ".
+  std::string keys() const {
+    std::string all;
+    for (const Call& call : calls) all += call.key + " ";
+    return all;
+  }
   /// The lines given to the host's log.
   std::vector<std::string> log_lines() const {
     std::vector<std::string> lines;

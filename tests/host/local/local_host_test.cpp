@@ -12,76 +12,78 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using Strings = std::vector<std::string>;
 
 struct FixedClock final : WallClock {
   CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
 };
 
-struct LocalHostTest : testing::Test {
-  LocalHostOptions options(std::optional<std::string> user = "Öl; Anna ;4711") {
-    LocalHostOptions result;
-    result.folder = folder.path / "data";
-    result.user = std::move(user);
-    result.role = 4;
-    result.language = "English";
-    result.midi = 3;
-    result.patience_ms = 0;
-    return result;
+/// One session of the module on its local host.
+struct Session {
+  explicit Session(const TemporaryFolder& folder,
+                   std::optional<std::string> user = "Öl; Anna ;4711")
+      : home({.folder = folder.path / "data",
+              .user = std::move(user),
+              .role = 4,
+              .language = "English",
+              .midi = 3,
+              .patience_ms = 0},
+             clock) {
+    status = server.ServerInit("vemo06").number;
   }
-  std::string log() const { return folder.content("data/host.log"); }
+  void store(const Strings& texts) { server.ServerStore("A1", Variant::strings(texts)); }
+  /// The record; "none" without one.
+  Strings read() {
+    Strings target{"none"};
+    server.ServerRead("A1", target);
+    return target;
+  }
+  TextKey problem() const { return home.problems().empty() ? TextKey{} : home.problems()[0].text; }
 
-  TemporaryFolder folder;
   FixedClock clock;
+  LocalHostHome home;
+  Server server{home.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
+  int status = 0;
+};
+
+struct LocalHostTest : testing::Test {
+  TemporaryFolder folder;
+  const std::filesystem::path file = folder.path / "data/host.sqlite";
 };
 
 TEST_F(LocalHostTest, AnswersEveryKey) {
-  LocalHostHome home(options(), clock);
-  EXPECT_TRUE(home.problems().empty());
-  int menus = 0;
-  home.on_menue = [&] { ++menus; };
+  Session session(folder);
+  EXPECT_TRUE(session.home.problems().empty());
+  bool left = false;
+  session.home.on_menue = [&] { left = true; };
   VirtualScheduler scheduler;
   WindowList windows(scheduler);
-  Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-  EXPECT_EQ(server.ServerInit("vemo06").number, 4);
-  EXPECT_EQ(server.ServerMidi(), 3);
-  EXPECT_EQ(server.ServerLang(), "English");
-  EXPECT_THAT(server.ServerLogin(), ElementsAre("Öl", "Anna", "4711"));
-  server.ServerLogMess("two\nlines");
-  server.ServerLogErr("mat_wahl.", RuntimeError::overflow("draw"));
-  server.ServerMenue(windows);
-  EXPECT_EQ(menus, 1);
-  EXPECT_EQ(log(),
+  EXPECT_EQ(session.status, 4);
+  EXPECT_EQ(session.server.ServerMidi(), 3);
+  EXPECT_EQ(session.server.ServerLang(), "English");
+  EXPECT_THAT(session.server.ServerLogin(), ElementsAre("Öl", "Anna", "4711"));
+  session.server.ServerLogMess("two\nlines");
+  session.server.ServerLogErr("mat_wahl.", RuntimeError::overflow("draw"));
+  session.server.ServerMenue(windows);
+  EXPECT_TRUE(left);
+  EXPECT_EQ(folder.content("data/host.log"),
             "2026-11-21 09:05:32 1.0.0000 Intervalle status: 4\n"
             "2026-11-21 09:05:32 two | lines\n"
             "2026-11-21 09:05:32 ERROR vemo06.mat_wahl. 6 Overflow of a 16-bit number (draw)\n"
             "2026-11-21 09:05:32 menu\n");
 }
 
-TEST_F(LocalHostTest, NobodyIsLoggedOnWithoutAName) {
-  for (const auto& user : {std::optional<std::string>(), std::optional<std::string>("  ")}) {
-    LocalHostHome home(options(user), clock);
-    Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-    server.ServerInit("vemo06");
-    EXPECT_THAT(server.ServerLogin(), ElementsAre("unbekannt"));
-  }
-}
-
 TEST_F(LocalHostTest, EachUserFindsOwnRecordsInTheNextRun) {
-  const std::vector<std::string> state{"true", "", "\"\\\n\x01", "ß♯𝄞", "-1.5"};
+  const Strings state{"true", "", "\"\\\n\x01", "ß♯𝄞", "-1.5"};
   for (const char* user : {"A;a;1", "B;b;2"}) {
-    LocalHostHome home(options(user), clock);
-    Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-    server.ServerInit("vemo06");
-    std::vector<std::string> target;
-    EXPECT_FALSE(server.ServerRead("A1", target)) << user;
-    server.ServerStore("A1", Variant::strings({user}));
-    server.ServerStore("A1", Variant::strings(state));
+    Session session(folder, user);
+    EXPECT_THAT(session.read(), ElementsAre("none")) << user;
+    session.store({user});
+    session.store(state);
   }
-  LocalHostHome home(options(" A; a;1"), clock);
-  Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-  std::vector<std::string> target;
-  EXPECT_TRUE(server.ServerRead("A1", target));
-  EXPECT_EQ(target, state);
+  EXPECT_EQ(Session(folder, " A; a;1").read(), state);
+  EXPECT_THAT(Session(folder, "  ").server.ServerLogin(), ElementsAre("unbekannt"));
+  EXPECT_THAT(Session(folder, {}).server.ServerLogin(), ElementsAre("unbekannt"));
 }
 
 TEST(RecordFormat, KeepsEveryKindOfDataAndRefusesTheRest) {
@@ -91,7 +93,6 @@ TEST(RecordFormat, KeepsEveryKindOfDataAndRefusesTheRest) {
         Variant(std::string("\0x", 2)), Variant(Array{"1", Array{Variant(), -2}}), Variant()}) {
     EXPECT_EQ(read_record(write_record(data)), data);
   }
-  EXPECT_EQ(write_record(Array{"true", "3"}), R"({"record":["true","3"]})");
   EXPECT_THROW(write_record("\xFF"), RuntimeError);
   const std::string whole = write_record(Array{"true", "ü"});
   for (std::size_t size = 0; size < whole.size(); ++size) {
@@ -100,87 +101,59 @@ TEST(RecordFormat, KeepsEveryKindOfDataAndRefusesTheRest) {
 }
 
 TEST_F(LocalHostTest, ADamagedRecordIsNoRecordAndStaysAsItIs) {
-  LocalHostHome home(options("A"), clock);
-  Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-  const std::filesystem::path file = folder.path / "data/host.sqlite";
+  Session session(folder, "A");
   const std::string half = R"({"record":["true","3)";
   RecordStore other(file, "x", 0);
   other.write("A", "vemo06", "A1", half);
-  std::vector<std::string> target{"old"};
-  EXPECT_FALSE(server.ServerRead("A1", target));
-  EXPECT_THAT(target, ElementsAre("old"));
-  EXPECT_THAT(log(), HasSubstr("Record A1 of vemo06 is damaged"));
+  EXPECT_THAT(session.read(), ElementsAre("none"));
+  EXPECT_THAT(folder.content("data/host.log"), HasSubstr("Record A1 of vemo06 is damaged"));
   EXPECT_EQ(other.read("A", "vemo06", "A1"), half);
 }
 
 TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
   folder.write("data", "a file stands where the folder should be");
-  LocalHostHome home(options(), clock);
-  ASSERT_EQ(home.problems().size(), 1u);
-  EXPECT_EQ(home.problems()[0].text, 1010_text);
-  EXPECT_THAT(home.problems()[0].detail, HasSubstr((folder.path / "data").string()));
-  Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-  EXPECT_TRUE(server.ServerInit("vemo06").running);
-  server.ServerStore("E1", Variant::strings({"1"}));
-  std::vector<std::string> target;
-  EXPECT_TRUE(server.ServerRead("E1", target));
-  EXPECT_THAT(target, ElementsAre("1"));
+  Session session(folder);
+  EXPECT_EQ(session.problem(), 1010_text);
+  EXPECT_THAT(session.home.problems()[0].detail, HasSubstr((folder.path / "data").string()));
+  session.store({"1"});
+  EXPECT_THAT(session.read(), ElementsAre("1"));
 }
 
 TEST_F(LocalHostTest, ADamagedFileIsKeptAndANewOneTakesItsPlace) {
-  const std::string garbage(4096, '?');
-  folder.write("data/host.sqlite", garbage);
-  folder.write("data/host.sqlite-journal", "journal of old");
-  for (int run = 0; run < 2; ++run) {
-    LocalHostHome home(options(), clock);
-    Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-    EXPECT_TRUE(server.ServerInit("vemo06").running);
-    std::vector<std::string> target;
-    EXPECT_EQ(server.ServerRead("E1", target), run == 1);
-    server.ServerStore("E1", Variant::strings({"kept"}));
-    ASSERT_EQ(home.problems().size(), run == 0 ? 1u : 0u);
-    if (run == 1) break;
-    EXPECT_EQ(home.problems()[0].text, 1011_text);
-    EXPECT_EQ(home.problems()[0].detail,
-              (folder.path / "data/host.sqlite.damaged-261121090532").string());
+  for (const bool cut_off : {false, true}) {
+    if (cut_off) {
+      Session(folder).store(Strings(4000, "longer than a page"));
+      std::filesystem::resize_file(file, 4096);
+    } else {
+      folder.write("data/host.sqlite", std::string(4096, '?'));
+      folder.write("data/host.sqlite-journal", "journal of old");
+    }
+    const std::string damaged = folder.content("data/host.sqlite");
+    {
+      Session session(folder);
+      EXPECT_EQ(session.problem(), 1011_text);
+      const std::string kept = session.home.problems()[0].detail;
+      EXPECT_EQ(kept, file.string() + ".damaged-261121090532");
+      session.store({"anew"});
+    }
+    EXPECT_THAT(Session(folder).read(), ElementsAre("anew"));
+    EXPECT_EQ(folder.content("data/host.sqlite.damaged-261121090532"), damaged);
+    std::filesystem::remove_all(folder.path / "data");
   }
-  EXPECT_EQ(folder.content("data/host.sqlite.damaged-261121090532"), garbage);
 }
 
-TEST_F(LocalHostTest, AFileInUseIsLeftAlone) {
-  { LocalHostHome home(options(), clock); }
+TEST_F(LocalHostTest, AFileInUseIsLeftAloneAndKeepsItsRecords) {
+  Session session(folder);
+  session.store({"old"});
   sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open((folder.path / "data/host.sqlite").c_str(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_open(file.c_str(), &other), SQLITE_OK);
   ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  {
-    LocalHostHome home(options(), clock);
-    ASSERT_EQ(home.problems().size(), 1u);
-    EXPECT_EQ(home.problems()[0].text, 1012_text);
-    Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-    server.ServerInit("vemo06");
-    server.ServerStore("E1", Variant::strings({"1"}));
-  }
+  EXPECT_THROW(session.store({"new"}), RuntimeError);
+  EXPECT_EQ(Session(folder).problem(), 1012_text);
   sqlite3_close(other);
-  LocalHostHome home(options(), clock);
-  EXPECT_TRUE(home.problems().empty());
-}
-
-TEST_F(LocalHostTest, AStoreThatFailsLaterRaisesAndKeepsTheOldRecord) {
-  LocalHostHome home(options(), clock);
-  Server server(home.factory(), {"vemo06", "Intervalle", 1, 0, 0});
-  server.ServerInit("vemo06");
-  server.ServerStore("E1", Variant::strings({"old"}));
-  sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open((folder.path / "data/host.sqlite").c_str(), &other), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-  EXPECT_THROW(server.ServerStore("E1", Variant::strings({"new"})), RuntimeError);
-  sqlite3_close(other);
-  std::vector<std::string> target;
-  EXPECT_TRUE(server.ServerRead("E1", target));
-  EXPECT_THAT(target, ElementsAre("old"));
-  server.ServerStore("E1", Variant::strings({"new"}));
-  EXPECT_TRUE(server.ServerRead("E1", target));
-  EXPECT_THAT(target, ElementsAre("new"));
+  EXPECT_THAT(session.read(), ElementsAre("old"));
+  session.store({"new"});
+  EXPECT_THAT(Session(folder).read(), ElementsAre("new"));
 }
 
 }  // namespace

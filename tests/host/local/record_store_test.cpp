@@ -54,19 +54,6 @@ TEST(RecordStore, SurvivesAKillAtAnyMoment) {
   }
 }
 
-TEST(RecordStore, DamageInsideTheFileIsFoundAtTheStart) {
-  TemporaryFolder folder;
-  const std::filesystem::path file = folder.path / "host.sqlite";
-  { RecordStore(file, "s", 0).write("user", "module", "A1", record_of(0)); }
-  std::string bytes = folder.content("host.sqlite");
-  // Everything behind the first page is lost.
-  folder.write("host.sqlite", bytes.substr(0, 4096));
-  RecordStore store(file, "s", 0);
-  EXPECT_EQ(store.place(), RecordStore::Place::file_renewed);
-  EXPECT_FALSE(store.read("user", "module", "A1").has_value());
-  EXPECT_EQ(folder.content("host.sqlite.damaged-s"), bytes.substr(0, 4096));
-}
-
 TEST(RecordStore, AFolderThatCannotBeWrittenStillGivesItsRecords) {
   TemporaryFolder folder;
   const std::filesystem::path file = folder.path / "host.sqlite";
