@@ -3,8 +3,10 @@
 #include <pugixml.hpp>
 
 #include <cmath>
+#include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/module.h"
 #include "config/einstellung1.h"
@@ -40,6 +42,12 @@ class FlowBed {
  public:
   explicit FlowBed(FakeHost& shared_host, std::uint64_t seed = 1)
       : host(shared_host), chance(seed) {
+    open();
+  }
+  /// With texts of its own, closed until `open()`.
+  FlowBed(FakeHost& shared_host, LanguageLibraries texts)
+      : host(shared_host), chance(1), language(std::move(texts)) {}
+  void open() {
     module.open();
     scheduler.advance_ms(10);
   }
@@ -67,6 +75,17 @@ class FlowBed {
     window.click(window.cmdOk);
     scheduler.advance_ms(1);
     return exercise();
+  }
+
+  /// The quickest way to the first row of a level and its exam, heard to its end.
+  Arbeitsblatt1& begin(int level = 0, int prfnr = 1) {
+    Einstellung1& window = open_settings();
+    window.choose(window.temp_Combo, 9);
+    if (level > 0) window.choose(window.training_Combo, level);
+    if (level == 4) window.choose(window.prfnr_Comb, prfnr - 1);
+    Arbeitsblatt1& exercise = open_exercise();
+    hear_row();
+    return exercise;
   }
 
   /// Beat in milliseconds and the time a row takes with its pauses and fades.
@@ -127,21 +146,32 @@ class FlowBed {
     }
     hear_row();
   }
-  /// The quickest way on: the keynote chord instead of the row.
-  void next_task_by_keynote(Arbeitsblatt1& window) {
-    window.grundton_click();
-    scheduler.advance_ms(beat() + 300 + 1800);
-    hear_row();
-  }
   /// Leaves by `zurueck`, past the result sheet, and reads the document that was written.
-  const pugi::xml_document& leave(Arbeitsblatt1& window) {
+  pugi::xml_node leave(Arbeitsblatt1& window) {
     window.zurueck_click();
     scheduler.advance_ms(400);
     result().cmdOk_click();
     scheduler.advance_ms(50);
     document.load_string(documents.written.back().content.c_str());
-    return document;
+    return document.child("exercise");
   }
+  /// What an exercise tells of the answers of each task.
+  using Facts = std::map<std::string, std::string>;
+  static std::vector<std::vector<Facts>> lessons(const pugi::xml_node& exercise) {
+    std::vector<std::vector<Facts>> found;
+    for (const pugi::xml_node lesson : exercise.child("lessons").children("lesson")) {
+      found.emplace_back();
+      for (const pugi::xml_node answer : lesson.child("answers").children("answer")) {
+        Facts& facts = found.back().emplace_back();
+        facts["lfd"] = answer.attribute("lfd").value();
+        for (const pugi::xml_node property : answer.children("property")) {
+          facts[property.attribute("key").value()] = property.attribute("value").value();
+        }
+      }
+    }
+    return found;
+  }
+  int playbacks() const { return devices.count(RecordingDevices::Kind::queue_started); }
 
   FakeHost& host;
   VirtualScheduler scheduler;
