@@ -141,7 +141,8 @@ int FrequencyBox::draw_test_place(const StatisticRowSet& wanted, int tries) {
   int failed = 0;
   const double u = chance_.Rnd();
   if (u >= chance) {
-    const double fails = std::log(1 - u) / std::log(1 - chance);
+    // A chance may be too small to be told from 0 in 1 - chance.
+    const double fails = std::log1p(-u) / std::log1p(-chance);
     if (fails >= tries) return tries;
     failed = static_cast<int>(fails);
   }

@@ -85,6 +85,15 @@ TEST(TestList, NeverRunsDry) {
   }
 }
 
+// Only the one used interval leads on, and it comes last: once in 10^50 tries.
+TEST(TestList, GivesUpOnAnAllButHopelessDraw) {
+  MaterialBed bed(material_of(3, 1, 1), 9);
+  bed.box.test_haeufgk[8] = 1;
+  StatisticRowSet wanted{};
+  wanted[8] = 1;
+  for (int i = 0; i < 10; ++i) EXPECT_EQ(bed.box.draw_interval(wanted, 20), 20);
+}
+
 // The rule told word for word: up to `box_zeilen` draws of an open entry until one is preferred;
 // all of it again until the interval leads on. Returns how many failed.
 int draw_word_for_word(const FrequencyBox& box, const StatisticRowSet& wanted, int tries,
