@@ -9,8 +9,6 @@
 namespace tonarix {
 namespace {
 
-constexpr float kAnsweredRightAtOnce = -4;
-
 // A full box holds the weights of an ordinary training many times over, so that refilling the
 // drawing list after a task does not allocate.
 constexpr std::size_t kUsualListLength = 1024;

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <optional>
 #include <type_traits>
 
@@ -74,17 +75,22 @@ bool is_count(float value) {
   return value >= 0 && value <= 32767 && value == std::floor(value);
 }
 
-// Each answer adds between -16 and 0; a training that goes on has something left to ask and has not
-// reached its ceiling.
+// Each answer adds between -16 and 0; a training that goes on has something left to ask, has not
+// reached its ceiling, and its drawing list, where the lowest weight has one entry, fits 16 bits.
 bool can_go_on(const SavedTraining& training) {
   std::int64_t sum = 0;
+  std::int64_t all = 0;
+  std::int64_t lowest = 1;
   for (const SavedTraining::Row& row : training.rows) {
     const auto [answers, values, confusions] = row.statistics;
     if (!is_count(answers) || !is_count(confusions)) return false;
     if (values > 0 || values < kLowestValue * answers) return false;
     sum += std::max<std::int16_t>(row.box.weight, 0);
+    all += row.box.weight;
+    lowest = std::min<std::int64_t>(lowest, row.box.weight);
   }
   const auto rows = static_cast<std::int64_t>(training.rows.size());
+  if (all + rows * (1 - lowest) > std::numeric_limits<std::int16_t>::max()) return false;
   const std::int64_t ceiling = FrequencyBox::start_gewicht_of(static_cast<int>(rows)) * rows * 2;
   return sum >= 1 && sum <= ceiling - 1 && training.zaehler >= 0 && training.whlgzaehler >= 0;
 }

@@ -91,7 +91,7 @@ TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
            {Fault::foreign_row, statistics, {"0"}},
            {Fault::impossible, statistics + 1, {"-1", "0.5"}},
            {Fault::impossible, statistics + 2, {"-20000"}},
-           {Fault::impossible, weight, {"30000"}},
+           {Fault::impossible, weight, {"30000", "-5000"}},
            {Fault::impossible, last, {"-1"}}}) {
     for (const std::string& text : one.texts) {
       std::vector<std::string> record = good;
