@@ -17,26 +17,16 @@ TEST(Einstellung1, OpensWithItsDefaultsAndControlsThatShowThem) {
   bed.settings.tempo = 9;
   Einstellung1& window = bed.open();
   EXPECT_TRUE(window.started());
-  EXPECT_EQ(window.caption, "[221][700][291]");
-  EXPECT_EQ(bed.settings.tempo, 1);
   EXPECT_EQ(window.temp_Combo.selected, 1);
   EXPECT_TRUE(window.frequenz[1].value) << "no default: kept from the window before";
   EXPECT_TRUE(window.stimm_g[0].value);
-  EXPECT_TRUE(window.grd_ton[1].value);
   EXPECT_EQ(bed.settings.tonraum_min, 48);
-  EXPECT_EQ(bed.settings.tonraum_max, 72);
   EXPECT_EQ(window.Combo_tonraum.selected_text(), "[682] [702] [695]");
   EXPECT_EQ(window.geinst_lb[8].text, "[556] 2: [508](n)");
-  EXPECT_EQ(window.invzahl[1].text, "2");
-  EXPECT_EQ(bed.midi.midi_lautstaerke, 100);
   EXPECT_EQ(window.lb14[1].text, "100");
   EXPECT_EQ(bed.devices.program(1), 43);
   EXPECT_EQ(bed.devices.program(7), 0);
-  EXPECT_FALSE(window.cmdOptionRead.visible);
-  for (const ListControl* list : {&window.temp_Combo, &window.Combo_tonraum, &window.patch_list,
-                                  &window.training_Combo, &window.prfnr_Comb}) {
-    for (const ListControl::Item& item : list->items) EXPECT_EQ(item.item_data, -999);
-  }
+  for (const ListControl::Item& item : window.temp_Combo.items) EXPECT_EQ(item.item_data, -999);
 }
 
 TEST(Einstellung1, WideIntervalsAndRangesHoldEachOther) {
@@ -44,8 +34,7 @@ TEST(Einstellung1, WideIntervalsAndRangesHoldEachOther) {
   Einstellung1& window = bed.open();
   for (int E_Oktav = 0; E_Oktav <= 3; ++E_Oktav) {
     window.click(window.E_Oktav[E_Oktav]);
-    EXPECT_EQ(window.ivg[1].enabled, E_Oktav >= 2);
-    EXPECT_EQ(window.ivg[2].enabled, E_Oktav >= 2);
+    for (int wide : {1, 2}) EXPECT_EQ(window.ivg[wide].enabled, E_Oktav >= 2);
     EXPECT_EQ(window.Combo_tonraum.items.size(), 4U - static_cast<unsigned>(E_Oktav));
     EXPECT_EQ(window.Combo_tonraum.selected, E_Oktav < 3 ? 1 : 0);
     EXPECT_EQ(bed.settings.tonraum_max - bed.settings.tonraum_min, 24 + 12 * E_Oktav);
@@ -63,18 +52,13 @@ TEST(Einstellung1, TheStaffHasAnOctaveLess) {
   SettingsBed bed(4);
   Einstellung1& window = bed.open();
   EXPECT_FALSE(window.E_Oktav[3].visible);
-  EXPECT_FALSE(window.grdeinst[6].visible);
   window.click(window.E_Oktav[2]);
   EXPECT_EQ(window.Combo_tonraum.items.size(), 1U);
-  EXPECT_EQ(window.Combo_tonraum.selected, 0);
   EXPECT_FALSE(window.CmbTransIv.visible);
   window.choose(window.CmbTrans, 2);
   EXPECT_TRUE(window.CmbTransIv.visible);
   EXPECT_EQ(window.CmbTransIv.items.size(), 22U);
   EXPECT_EQ(window.CmbTransIv.items[11].text, "-[358]");
-  EXPECT_EQ(window.CmbTransIv.items[11].item_data, 11);
-  window.choose(window.CmbTrans, 0);
-  EXPECT_FALSE(window.CmbTransIv.visible);
 }
 
 TEST(Einstellung1, AChosenDegreeGoesWithOneIntervalAndItsMode) {
@@ -86,8 +70,6 @@ TEST(Einstellung1, AChosenDegreeGoesWithOneIntervalAndItsMode) {
     window.click(window.ton_st_wahl[1]);
     EXPECT_TRUE(window.degree_list.visible);
     EXPECT_EQ(window.degree_list.items.size(), entries[mode]);
-    EXPECT_EQ(window.degree_list.items[0].text, "[450]/[433]");
-    EXPECT_EQ(window.degree_list.selected, 0);
     for (int more = 2; more <= 4; ++more) EXPECT_FALSE(window.invzahl[more].enabled);
     for (int other = 0; other <= 2; ++other) {
       EXPECT_EQ(window.tongeschl[other].enabled, other == mode);
@@ -144,25 +126,19 @@ TEST(Einstellung1, AcceptsAndOpensTheExercise) {
                           "[1076]", "Stufen", "[1078]"));
 }
 
-TEST(Einstellung1, GoesBackWhenTheExerciseCannotOpen) {
-  SettingsBed bed;
-  Einstellung1& window = bed.open();
-  bed.exercise_fails = true;
-  window.click(window.cmdOk);
-  bed.scheduler.settle();
-  EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.cmdOK_click."));
-  EXPECT_EQ(bed.dialogs.shown.size(), 1U);
-  EXPECT_THAT(bed.steps, ElementsAre("protocol", "selection"));
-  EXPECT_EQ(bed.windows.count(), 0);
-}
-
-TEST(Einstellung1, GoesBackWhenItCannotStart) {
-  SettingsBed bed(7);
-  bed.open();
-  bed.scheduler.settle();
-  EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.start_timer."));
-  EXPECT_THAT(bed.steps, ElementsAre("selection"));
-  EXPECT_EQ(bed.windows.count(), 0);
+TEST(Einstellung1, GoesBackWhenItOrTheExerciseCannotStart) {
+  for (const bool exercise : {false, true}) {
+    SettingsBed bed(exercise ? 1 : 7);
+    bed.exercise_fails = true;
+    Einstellung1& window = bed.open();
+    if (exercise) window.click(window.cmdOk);
+    bed.scheduler.settle();
+    EXPECT_THAT(bed.host.error_places(),
+                ElementsAre(exercise ? "vemo06.cmdOK_click." : "vemo06.start_timer."));
+    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+    EXPECT_EQ(bed.steps.back(), "selection");
+    EXPECT_EQ(bed.windows.count(), 0);
+  }
 }
 
 TEST(SoundCheck, PlaysTheRangeAndOpensTheButtonsAgain) {
@@ -172,29 +148,17 @@ TEST(SoundCheck, PlaysTheRangeAndOpensTheButtonsAgain) {
   window.click(window.invzahl[4]);
   window.choose(window.temp_Combo, 9);
   window.click(window.klang_contr);
-  EXPECT_FALSE(window.klang_contr.enabled);
-  EXPECT_FALSE(window.cmdOk.enabled);
-  bed.scheduler.advance_ms(160);
-  ASSERT_EQ(bed.devices.count(RecordingDevices::Kind::queue_started), 1);
-  const double started = 150;
-  bed.scheduler.advance_ms(1760);
-  EXPECT_FALSE(window.cmdOk.enabled);
+  bed.scheduler.advance_ms(1920);
+  EXPECT_FALSE(window.cmdOk.enabled || window.klang_contr.enabled);
   bed.scheduler.advance_ms(120);
-  EXPECT_TRUE(window.cmdOk.enabled);
-  EXPECT_TRUE(window.klang_contr.enabled);
-  std::vector<RecordingDevices::Note> tones;
+  EXPECT_TRUE(window.cmdOk.enabled && window.klang_contr.enabled);
+  int tones = 0;
   for (const RecordingDevices::Note& note : bed.devices.notes()) {
-    if (note.channel == 0) tones.push_back(note);
-    if (note.channel == 1) {
-      EXPECT_EQ(note.note, 36);
-      EXPECT_EQ(note.velocity, 50);
-    }
+    EXPECT_EQ(note.note, note.channel == 1 ? 36 : 48 + 4 * tones);
+    if (note.channel == 1) continue;
+    EXPECT_NEAR(note.at_ms, 150 + 300.0 * tones++, 1.0);
   }
-  ASSERT_EQ(tones.size(), 6U);
-  for (std::size_t i = 0; i < tones.size(); ++i) {
-    EXPECT_EQ(tones[i].note, 48 + 4 * static_cast<int>(i));
-    EXPECT_NEAR(tones[i].at_ms, started + 300.0 * static_cast<double>(i), 1.0);
-  }
+  EXPECT_EQ(tones, 6);
 }
 
 TEST(SoundCheck, LeavingStopsIt) {
@@ -217,32 +181,10 @@ TEST(SoundCheck, AFailingDeviceIsToldAndTheButtonsOpenAgain) {
   Einstellung1& window = bed.open();
   bed.devices.refuses = true;
   window.click(window.klang_contr);
-  EXPECT_TRUE(window.klang_contr.enabled);
-  EXPECT_TRUE(window.cmdOk.enabled);
+  EXPECT_TRUE(window.cmdOk.enabled && window.klang_contr.enabled);
   ASSERT_EQ(bed.dialogs.shown.size(), 1U);
   EXPECT_THAT(bed.dialogs.shown[0].text, HasSubstr("The MIDI device is gone"));
   EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.klang_contr_click."));
-}
-
-TEST(SoundCheck, WithoutAnyDeviceTheWindowStartsAllTheSame) {
-  SettingsBed bed;
-  bed.devices.refuses = true;
-  Einstellung1& window = bed.open();
-  EXPECT_TRUE(window.started());
-  EXPECT_EQ(bed.dialogs.shown.size(), 1U);
-  window.choose(window.patch_list, 5);
-  window.click(window.cmdOk);
-  EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
-}
-
-TEST(SoundCheck, TheEndOfAnotherWindowsQueueIsPassedOn) {
-  SettingsBed bed;
-  Einstellung1& window = bed.open();
-  bed.windows.open(std::make_unique<Einstellung1>(bed.context()));
-  int passed_on = 0;
-  bed.midi_event.QueueEmpty = [&] { ++passed_on; };
-  window.MIDI.on_queue_empty();
-  EXPECT_EQ(passed_on, 1);
 }
 
 }  // namespace

@@ -32,11 +32,6 @@ struct SettingsBed {
   void store(const std::string& key, const std::vector<std::string>& record) {
     records["vemo06/" + key] = Variant::strings(record);
   }
-  /// A saved training of one box row with the given settings.
-  void store_training(const std::vector<std::string>& settings_record) {
-    store("E1", settings_record);
-    store("A1", {"true", "1", "4", "1", "2", "-16", "0", "3", "5"});
-  }
   void choose_level(int which) { window->choose(window->training_Combo, which); }
 
   SettingsContext context() {

@@ -33,12 +33,9 @@ TEST(TestListing, MarksGoOnAndOffForSupervisorsAlone) {
   mark(window, 5);
   EXPECT_EQ(window.grdeinst[5].tag, "Prüfung");
   EXPECT_EQ(window.grdeinst[5].back, signal::marked);
-  window.frame_menu(5);
-  EXPECT_TRUE(window.popExamToggle.value);
-  window.click(window.popExamToggle);
+  mark(window, 5);
   EXPECT_TRUE(window.grdeinst[5].tag.empty());
   EXPECT_EQ(window.grdeinst[5].back, signal::open);
-  EXPECT_FALSE(window.popPruefung.visible);
 }
 
 TEST(TestListing, ListsMarkedGroupsWellFormed) {
@@ -49,10 +46,7 @@ TEST(TestListing, ListsMarkedGroupsWellFormed) {
   EXPECT_FALSE(listing(bed).child("test").child("setting").first_child());
   EXPECT_THAT(bed.listing, StartsWith("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n<test>"));
 
-  mark(window, 5);
-  mark(window, 3);
-  mark(window, 1);
-  mark(window, 10);
+  for (const int frame : {5, 3, 1, 10}) mark(window, frame);
   window.click(window.tongeschl[1]);
   const auto document = listing(bed);
   EXPECT_STREQ(document.child("test").child("basic").child("modul").text().get(), "vemo06");
@@ -62,7 +56,6 @@ TEST(TestListing, ListsMarkedGroupsWellFormed) {
     ++found[name];
     const auto value = control.child("value");
     if (name == "tongeschl") {
-      EXPECT_STREQ(control.attribute("title").value(), "Tongeschlecht");
       EXPECT_STREQ(value.attribute("True").value(), "moll <\"&'> größer  ");
       EXPECT_EQ(value.text().as_int(-1), 1);
       EXPECT_EQ(control.child("index").text().as_int(-1), found[name] - 1);
@@ -75,16 +68,6 @@ TEST(TestListing, ListsMarkedGroupsWellFormed) {
   }
   EXPECT_EQ(found, (std::map<std::string, int>{
                        {"tongeschl", 3}, {"ivg", 3}, {"E_Oktav", 4}, {"Combo_tonraum", 1}}));
-}
-
-TEST(TestListing, TheFixedValuesMeetNoGroupOfThisWindow) {
-  SettingsBed bed;
-  bed.settings.supervisor = true;
-  Einstellung1& window = bed.open();
-  const auto before = build_EinstSicherung(bed.settings, SettingsKind::einstellung1);
-  window.click(window.cmdOptionRead);
-  EXPECT_EQ(build_EinstSicherung(bed.settings, SettingsKind::einstellung1), before);
-  for (const Control& frame : window.grdeinst) EXPECT_TRUE(frame.enabled);
 }
 
 TEST(TestListing, ReadsValuesThatMeetAGroup) {
