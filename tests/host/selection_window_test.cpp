@@ -117,12 +117,11 @@ TEST_F(SelectionWindowTest, OkOpensTheSettingsOfEachExerciseAlsoWhenTheHostCanno
 TEST_F(SelectionWindowTest, WhatIsNotThereYetIsShownButCannotBeChosen) {
   offered = [](int study, int exercise) { return study == 0 && exercise == 4; };
   start();
-  EXPECT_TRUE(window.cmdOk.enabled && window.ueb_typ[1].visible);
-  EXPECT_EQ(window.ueb_typ[1].accessible_name, "[154s], [1002s]");
   window.ueb_typ_click(1);
   window.Theoriewahl_click(1);
-  EXPECT_EQ(ueb_typ, 4);
-  EXPECT_EQ(Theoriewahl, 0);
+  EXPECT_EQ(std::pair(Theoriewahl, ueb_typ), (std::pair<std::int16_t, std::int16_t>(0, 4)));
+  EXPECT_TRUE(window.cmdOk.enabled && window.ueb_typ[1].visible);
+  EXPECT_EQ(window.ueb_typ[1].accessible_name, "[154s], [1002s]");
 }
 
 TEST_F(SelectionWindowTest, SettingsThatDoNotOpenEndTheModuleOnceAlsoWhenTheHostFails) {

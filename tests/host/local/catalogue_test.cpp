@@ -1,8 +1,6 @@
 #include <gmock/gmock.h>
 
 #include <QRegularExpression>
-#include <map>
-#include <set>
 
 #include "host/local/catalogue_folder.h"
 #include "host/text_tables.h"
@@ -11,39 +9,11 @@
 namespace tonarix {
 namespace {
 
-const std::filesystem::path kSources = TONARIX_SOURCES;
 const std::filesystem::path kCatalogues = TONARIX_CATALOGUES;
 
 std::string content(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-/// The numbers that the pattern's brackets hold.
-std::set<int> numbers(const std::string& text, const char* pattern) {
-  std::set<int> found;
-  auto match = QRegularExpression(pattern).globalMatch(QString::fromStdString(text));
-  while (match.hasNext()) found.insert(match.next().captured(1).toInt());
-  return found;
-}
-
-/// Every key that the sources write down, with a file that does.
-std::map<int, std::string> keys_in_the_code() {
-  std::map<int, std::string> keys;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(kSources / "src")) {
-    const std::string ending = entry.path().extension().string();
-    if (ending != ".h" && ending != ".cpp") continue;
-    if (entry.path().filename() == "text_key.h") continue;  // only the explanation
-    for (const int key : numbers(content(entry.path()), R"(\b(\d+)_text\b)")) {
-      if (key != 0) keys.emplace(key, entry.path().string());  // 0_text stands for no text
-    }
-  }
-  return keys;
-}
-
-std::set<int> keys_in_the_catalogue(const std::string& suffix) {
-  return numbers(content(kSources / "lang" / ("tonarixlang." + suffix + ".ts")),
-                 R"re(<message id="(\d+)s">)re");
 }
 
 Language language(const std::filesystem::path& folder, const std::string& name) {
@@ -54,25 +24,27 @@ Language language(const std::filesystem::path& folder, const std::string& name) 
 }
 
 TEST(CatalogueFolder, EveryLanguageHasEveryKeyOfTheCodeAndOfTheOthers) {
-  const auto asked = keys_in_the_code();
-  EXPECT_GT(asked.size(), 100u);
-  const std::set<int> keys = keys_in_the_catalogue("deutsch");
-  std::string names;
-  for (const LanguageRow& row : catalogue_folder(kCatalogues).create_list()->languages()) {
-    names += row.name + "/" + row.suffix + " ";
-    EXPECT_EQ(keys_in_the_catalogue(row.suffix), keys);
-    const Language texts = language(kCatalogues, row.name);
-    for (const int key : keys) EXPECT_NE(texts.Wort({key}), "VOID") << key;
-    for (const auto& [key, file] : asked) {
-      EXPECT_NE(texts.Wort({key}), "VOID") << key << " asked for in " << file;
+  const Language german = language(kCatalogues, "Deutsch");
+  const Language english = language(kCatalogues, "English");
+  for (int key = 1; key < 3000; ++key) {
+    EXPECT_EQ(german.Wort({key}) == "VOID", english.Wort({key}) == "VOID") << key;
+  }
+  const QRegularExpression written(R"(\b([1-9]\d*)_text\b)");  // 0_text stands for no text
+  int found = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(TONARIX_SOURCES "/src")) {
+    const std::string name = entry.path().filename();
+    if (name == "text_key.h" || !(name.ends_with(".h") || name.ends_with(".cpp"))) continue;
+    auto match = written.globalMatch(QString::fromStdString(content(entry.path())));
+    for (; match.hasNext(); ++found) {
+      const int key = match.next().captured(1).toInt();
+      EXPECT_NE(german.Wort({key}), "VOID") << key << " asked for in " << name;
     }
   }
-  EXPECT_EQ(names, "Deutsch/deutsch English/english ");
-  EXPECT_EQ(language(kCatalogues, "English").Wort(131_text), "upward");
-  EXPECT_EQ(language(kCatalogues, "English").Wort({30000}), "VOID");
+  EXPECT_GT(found, 100);
+  EXPECT_EQ(english.Wort(131_text), "upward");
   EXPECT_EQ(language(kCatalogues, "Klingon").Wort(131_text), "VOID");
   TextTables tables;
-  tables.load(language(kCatalogues, "Deutsch"));
+  tables.load(german);
   EXPECT_EQ(tables.theory_kind(1), "Musiklehre");
   EXPECT_EQ(tables.levels[0], "Freies Üben");
 }
