@@ -12,73 +12,41 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::vector<std::string> joined(const std::vector<SheetLine>& lines) {
+template <typename Lines>
+std::vector<std::string> shown(const Lines& lines) {
   std::vector<std::string> texts;
-  for (const SheetLine& line : lines) texts.push_back(line.label + line.value);
+  for (const SheetLine& line : lines) {
+    if (line.visible) texts.push_back(line.label + line.value);
+  }
   return texts;
 }
 
-struct HeadBlockTest : testing::Test {
-  HeadBlockTest() {
-    texts.given = {{700, ": "}, {189, "Datum"}, {109, "Anwender"}, {154, "bestimmen"}};
-  }
-  std::vector<std::string> lines() const {
-    std::vector<SheetLine> shown;
-    for (const SheetLine& line : head_lines(facts, settings, texts)) {
-      if (line.visible) shown.push_back(line);
-    }
-    return joined(shown);
-  }
-
+TEST(HeadBlock, NamesAKnownUserOnLinesOfTheirOwn) {
   KeyTexts texts;
-  Settings settings;
-  HeadFacts facts{{2026, 11, 21, 14, 40, 0}, "praxis-3", {"Lovelace", "Ada", "4711"}, true};
-};
-
-TEST_F(HeadBlockTest, AKnownUserHasSixLines) {
-  EXPECT_THAT(lines(),
-              ElementsAre(" Datum:  21.11.2026 14:40", " [586]:  bestimmen", " Anwender:  praxis-3",
-                          " Name: Lovelace", " Vorname: Ada", " Matrikel-Nr.: 4711"));
-}
-
-TEST_F(HeadBlockTest, MissingFieldsShowEmptyAnUnknownUserNothing) {
-  facts.user = {"Lovelace"};
-  EXPECT_EQ(lines()[4], " Vorname: ");
-  facts.user = {"unbekannt"};
-  facts.user_known = false;
-  EXPECT_EQ(lines().size(), 3U);
-  EXPECT_EQ(lines()[2], " Anwender:  praxis-3");
-}
-
-TEST_F(HeadBlockTest, AStrangeNameStaysOnItsLineAndIsNotRead) {
-  facts.user = {"<b>Ada</b>\r\n&amp;", "\u202Eעדה e\u0301", std::string(3000, 'x')};
-  EXPECT_EQ(lines()[3], " Name: <b>Ada</b>  &amp;");
-  EXPECT_EQ(lines()[4], " Vorname: \u202Eעדה e\u0301");
-}
-
-TEST_F(HeadBlockTest, TheTitleJoinsStudyAndExercise) {
-  settings.Theoriewahl = 1;
-  settings.ueb_typ = 4;
-  EXPECT_EQ(head_title(settings, texts), "[725]: [715]");
-  settings.ueb_typ = 5;
-  EXPECT_THROW(head_title(settings, texts), RuntimeError);
+  texts.given = {{700, ": "}, {189, "Datum"}, {109, "Anwender"}, {154, "bestimmen"}};
+  const Settings settings;
+  const CivilTime now{2026, 11, 21, 14, 40, 0};
+  const std::string strange = "<b>Ada</b>\r\n&amp;\u202Eעדה";
+  EXPECT_THAT(
+      shown(head_lines({now, "praxis-3", {"Lovelace", strange}, true}, settings, texts)),
+      ElementsAre(" Datum:  21.11.2026 14:40", " [586]:  bestimmen", " Anwender:  praxis-3",
+                  " Name: Lovelace", " Vorname: <b>Ada</b>  &amp;\u202Eעדה", " Matrikel-Nr.: "));
+  EXPECT_EQ(shown(head_lines({now, "praxis-3", {"x"}, false}, settings, texts)).size(), 3U);
+  Settings wrong;
+  wrong.ueb_typ = 5;
+  EXPECT_THROW(head_title(wrong, texts), RuntimeError);
 }
 
 TEST(SettingLines, PairsInTheirOrderWithoutTheEmptyOnes) {
-  EXPECT_THAT(joined(setting_lines({"10", "Übungsmodus", "Prüfung", "Nr.:", "3", "Tempo",
-                                    " 40 (Largo)      ", "Oktavbereich", "", "Grdton zus.", "ja",
-                                    "cut off"})),
-              ElementsAre("Übungsmodus: Prüfung", "Nr.: 3", "Tempo: 40 (Largo)",
-                          "Grdton zus.: zusätzlich ja"));
-  EXPECT_THAT(setting_lines({}), IsEmpty());
-  EXPECT_THAT(setting_lines({"0"}), IsEmpty());
-}
-
-TEST(SettingLines, TheInstrumentsOfTheChannelsShareALine) {
-  EXPECT_THAT(joined(setting_lines({"8", "Klangfarben: ", "2", "Töne", "Piano", "Grundton:", "Oboe",
-                                    "Tempo", "60"})),
+  EXPECT_THAT(shown(setting_lines({"10", "Nr.:", "3", "Tempo", " 40 (Largo)      ", "Oktavbereich",
+                                   "", "Grdton zus.", "ja", "cut off"})),
+              ElementsAre("Nr.: 3", "Tempo: 40 (Largo)", "Grdton zus.: zusätzlich ja"));
+  EXPECT_THAT(shown(setting_lines({"8", "Klangfarben: ", "2", "Töne", "Piano", "Grundton:", "Oboe",
+                                   "Tempo", "60"})),
               ElementsAre("Klangfarben: Töne: Piano; Grundton: Oboe", "Tempo: 60"));
-  EXPECT_THAT(joined(setting_lines({"2", "Klangfarben: ", "9"})), IsEmpty());
+  for (const auto& cut_off : {std::vector<std::string>{}, {"0"}, {"2", "Klangfarben: ", "9"}}) {
+    EXPECT_THAT(shown(setting_lines(cut_off)), IsEmpty());
+  }
 }
 
 }  // namespace
