@@ -1,7 +1,9 @@
 #include "base/windows/widgets.h"
 
 #include <QAbstractItemView>
+#include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionButton>
@@ -116,6 +118,25 @@ QColor Button::ink() const {
   return primary_ ? QColor(Qt::white) : palette().color(QPalette::Active, QPalette::ButtonText);
 }
 
+Option::Option(QWidget* parent) : QRadioButton(parent) {
+  setFocusPolicy(Qt::TabFocus);
+  // Tab comes to the chosen option of a group, the arrow keys lead on from there.
+  QObject::connect(this, &QRadioButton::toggled, this, [this](bool chosen) {
+    if (!chosen || !group()) return;
+    for (QAbstractButton* other : group()->buttons()) {
+      other->setFocusPolicy(other == this ? Qt::TabFocus : Qt::NoFocus);
+    }
+  });
+}
+
+void Option::changeEvent(QEvent* event) {
+  // A right click on an option that is not open is meant for its group.
+  if (event->type() == QEvent::EnabledChange) {
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
+  }
+  QRadioButton::changeEvent(event);
+}
+
 void Option::set_note(const QString& note) {
   note_ = note;
   setAccessibleDescription(note);
@@ -162,6 +183,7 @@ void Option::paintEvent(QPaintEvent*) {
 }
 
 ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::TabFocus);
   // Long lists (the instruments) need not all be measured to find the width.
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(10);
@@ -171,6 +193,14 @@ ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
 void ListBox::showPopup() {
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
   QComboBox::showPopup();
+}
+
+void ListBox::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) {
+    QComboBox::mousePressEvent(event);
+  } else {
+    event->ignore();
+  }
 }
 
 void ListBox::wheelEvent(QWheelEvent* event) {

@@ -37,7 +37,7 @@ class Button : public QPushButton {
 /// One of a group of options, with an explaining line below its caption where it has one.
 class Option : public QRadioButton {
  public:
-  explicit Option(QWidget* parent = nullptr) : QRadioButton(parent) {}
+  explicit Option(QWidget* parent = nullptr);
   void set_note(const QString& note);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -45,6 +45,7 @@ class Option : public QRadioButton {
  protected:
   void paintEvent(QPaintEvent*) override;
   bool hitButton(const QPoint& at) const override { return rect().contains(at); }
+  void changeEvent(QEvent* event) override;
 
  private:
   int note_indent() const;
@@ -58,6 +59,7 @@ class ListBox : public QComboBox {
   void showPopup() override;
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 };
 

@@ -1,7 +1,6 @@
 #include "config/windows/settings_view.h"
 
 #include <QButtonGroup>
-#include <QCursor>
 #include <QMenu>
 #include <algorithm>
 #include <numeric>
@@ -24,9 +23,11 @@ Card* SettingsView::frame(int index, int row, int column, int columns) {
   Card* made = card(&settings_window_.grdeinst[index], &settings_window_.geinst_lb[index]);
   put(made, row, column, columns);
   made->setContextMenuPolicy(Qt::CustomContextMenu);
-  QObject::connect(made, &QWidget::customContextMenuRequested, this, [this, index] {
-    if (bindings().live()) settings_window_.frame_menu(index);
-  });
+  QObject::connect(made, &QWidget::customContextMenuRequested, this,
+                   [this, made, index](const QPoint& at) {
+                     menu_place_ = made->mapToGlobal(at);
+                     if (bindings().live()) settings_window_.frame_menu(index);
+                   });
   return made;
 }
 
@@ -140,7 +141,7 @@ void SettingsView::open_menu() {
         if (bindings().live()) settings_window_.close_menu();
       },
       Qt::QueuedConnection);
-  menu_->popup(QCursor::pos());
+  menu_->popup(menu_place_);
 }
 
 }  // namespace tonarix

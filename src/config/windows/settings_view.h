@@ -55,6 +55,7 @@ class SettingsView : public WindowView {
   std::vector<Place> places_;
   int columns_ = 4;
   QMenu* menu_ = nullptr;
+  QPoint menu_place_;
 };
 
 }  // namespace tonarix
