@@ -51,6 +51,9 @@ TEST_F(ServerTest, StartsInOrderForTwoRolesAndFailsAsStatusSeven) {
     host.answers["STATUS"] = answer;
     EXPECT_EQ(start().number, 7);
   }
+  host.answers.clear();
+  host.can_create = false;
+  EXPECT_EQ(start().number, 7);
 }
 
 TEST_F(ServerTest, LoginIsNeverEmptyAndKnowsWhetherAUserIsThere) {
