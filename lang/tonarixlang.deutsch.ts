@@ -1646,6 +1646,151 @@ Vorzeichen!</translation>
         <extracomment>result sheet: why a print failed</extracomment>
         <translation>Der Drucker hat den Auftrag abgebrochen.</translation>
     </message>
+    <message id="1214s">
+        <source>Übungsmodus</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Übungsmodus</translation>
+    </message>
+    <message id="1215s">
+        <source>Nr.</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Nr.</translation>
+    </message>
+    <message id="1216s">
+        <source>Klangfarbe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Klangfarbe</translation>
+    </message>
+    <message id="1217s">
+        <source>Klangfarben</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Klangfarben</translation>
+    </message>
+    <message id="1218s">
+        <source>Tempo</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tempo</translation>
+    </message>
+    <message id="1219s">
+        <source>Frequenz</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="1220s">
+        <source>Abfolge</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Abfolge</translation>
+    </message>
+    <message id="1221s">
+        <source>Iv-Anzahl</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Iv-Anzahl</translation>
+    </message>
+    <message id="1222s">
+        <source>Iv-Größe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Iv-Größe</translation>
+    </message>
+    <message id="1223s">
+        <source>Tonraum</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tonraum</translation>
+    </message>
+    <message id="1224s">
+        <source>Oktavbereich</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Oktavbereich</translation>
+    </message>
+    <message id="1225s">
+        <source>Stimmung</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Stimmung</translation>
+    </message>
+    <message id="1226s">
+        <source>Grdton zus.</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Grdton zus.</translation>
+    </message>
+    <message id="1227s">
+        <source>Tongeschlecht</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tongeschlecht</translation>
+    </message>
+    <message id="1228s">
+        <source>Tonart</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tonart</translation>
+    </message>
+    <message id="1229s">
+        <source>Aufgabe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Aufgabe</translation>
+    </message>
+    <message id="1230s">
+        <source>Genauigkeit</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Genauigkeit</translation>
+    </message>
+    <message id="1231s">
+        <source>Iv-Bestimmung</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Iv-Bestimmung</translation>
+    </message>
+    <message id="1232s">
+        <source>Stufen</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Stufen</translation>
+    </message>
+    <message id="1233s">
+        <source>Stufe Ton 2</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Stufe Ton 2</translation>
+    </message>
+    <message id="1234s">
+        <source>zusätzlich</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>zusätzlich</translation>
+    </message>
+    <message id="1235s">
+        <source>Name:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Name:</translation>
+    </message>
+    <message id="1236s">
+        <source>Vorname:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Vorname:</translation>
+    </message>
+    <message id="1237s">
+        <source>Matrikel-Nr.:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Matrikel-Nr.:</translation>
+    </message>
+    <message id="1240s">
+        <source>Speichern in:</source>
+        <extracomment>Dialog for a PDF file: before the folder</extracomment>
+        <translation>Speichern in:</translation>
+    </message>
+    <message id="1241s">
+        <source>Dateiname:</source>
+        <extracomment>Dialog for a PDF file</extracomment>
+        <translation>Dateiname:</translation>
+    </message>
+    <message id="1242s">
+        <source>Dateityp:</source>
+        <extracomment>Dialog for a PDF file</extracomment>
+        <translation>Dateityp:</translation>
+    </message>
+    <message id="1243s">
+        <source>Speichern</source>
+        <extracomment>Dialog for a PDF file: button</extracomment>
+        <translation>Speichern</translation>
+    </message>
+    <message id="1244s">
+        <source>Abbrechen</source>
+        <extracomment>Dialog for a PDF file: button</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
     <message id="1250s">
         <source>gesperrt</source>
         <extracomment>Mark in the corner of a locked group of settings</extracomment>

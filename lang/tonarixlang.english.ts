@@ -1646,6 +1646,151 @@ in any order.</translation>
         <extracomment>result sheet: why a print failed</extracomment>
         <translation>The printer broke off the job.</translation>
     </message>
+    <message id="1214s">
+        <source>Übungsmodus</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Level</translation>
+    </message>
+    <message id="1215s">
+        <source>Nr.</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>No.</translation>
+    </message>
+    <message id="1216s">
+        <source>Klangfarbe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Instrument</translation>
+    </message>
+    <message id="1217s">
+        <source>Klangfarben</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Instruments</translation>
+    </message>
+    <message id="1218s">
+        <source>Tempo</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tempo</translation>
+    </message>
+    <message id="1219s">
+        <source>Frequenz</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Pitch</translation>
+    </message>
+    <message id="1220s">
+        <source>Abfolge</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Order</translation>
+    </message>
+    <message id="1221s">
+        <source>Iv-Anzahl</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Intervals</translation>
+    </message>
+    <message id="1222s">
+        <source>Iv-Größe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Interval size</translation>
+    </message>
+    <message id="1223s">
+        <source>Tonraum</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Range</translation>
+    </message>
+    <message id="1224s">
+        <source>Oktavbereich</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Octaves</translation>
+    </message>
+    <message id="1225s">
+        <source>Stimmung</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Tuning</translation>
+    </message>
+    <message id="1226s">
+        <source>Grdton zus.</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Added keynote</translation>
+    </message>
+    <message id="1227s">
+        <source>Tongeschlecht</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Mode</translation>
+    </message>
+    <message id="1228s">
+        <source>Tonart</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Key</translation>
+    </message>
+    <message id="1229s">
+        <source>Aufgabe</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Task</translation>
+    </message>
+    <message id="1230s">
+        <source>Genauigkeit</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Accuracy</translation>
+    </message>
+    <message id="1231s">
+        <source>Iv-Bestimmung</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Named from</translation>
+    </message>
+    <message id="1232s">
+        <source>Stufen</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Degrees</translation>
+    </message>
+    <message id="1233s">
+        <source>Stufe Ton 2</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Degree of tone 2</translation>
+    </message>
+    <message id="1234s">
+        <source>zusätzlich</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>added:</translation>
+    </message>
+    <message id="1235s">
+        <source>Name:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Name:</translation>
+    </message>
+    <message id="1236s">
+        <source>Vorname:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>First name:</translation>
+    </message>
+    <message id="1237s">
+        <source>Matrikel-Nr.:</source>
+        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <translation>Student no.:</translation>
+    </message>
+    <message id="1240s">
+        <source>Speichern in:</source>
+        <extracomment>Dialog for a PDF file: before the folder</extracomment>
+        <translation>Save in:</translation>
+    </message>
+    <message id="1241s">
+        <source>Dateiname:</source>
+        <extracomment>Dialog for a PDF file</extracomment>
+        <translation>File name:</translation>
+    </message>
+    <message id="1242s">
+        <source>Dateityp:</source>
+        <extracomment>Dialog for a PDF file</extracomment>
+        <translation>File type:</translation>
+    </message>
+    <message id="1243s">
+        <source>Speichern</source>
+        <extracomment>Dialog for a PDF file: button</extracomment>
+        <translation>Save</translation>
+    </message>
+    <message id="1244s">
+        <source>Abbrechen</source>
+        <extracomment>Dialog for a PDF file: button</extracomment>
+        <translation>Cancel</translation>
+    </message>
     <message id="1250s">
         <source>gesperrt</source>
         <extracomment>Mark in the corner of a locked group of settings</extracomment>

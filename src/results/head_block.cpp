@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <span>
+#include <string_view>
 
 #include "base/runtime_error.h"
 
@@ -15,6 +16,26 @@ using namespace std::string_literals;
 constexpr std::array<TextKey, 2> kStudies{724_text, 725_text};
 constexpr std::array<TextKey, 4> kExerciseCaptions{154_text, 160_text, 496_text, 690_text};
 constexpr std::array<TextKey, 4> kExerciseNames{291_text, 292_text, 293_text, 715_text};
+
+/// The labels of the settings as the protocol has them, and the words a student reads instead.
+struct SettingLabel {
+  std::string_view label;
+  TextKey word;
+};
+constexpr std::array<SettingLabel, 20> kSettingLabels{
+    {{"Übungsmodus", 1214_text}, {"Nr.", 1215_text},           {"Klangfarbe", 1216_text},
+     {"Klangfarben", 1217_text}, {"Tempo", 1218_text},         {"Frequenz", 1219_text},
+     {"Abfolge", 1220_text},     {"Iv-Anzahl", 1221_text},     {"Iv-Größe", 1222_text},
+     {"Tonraum", 1223_text},     {"Oktavbereich", 1224_text},  {"Stimmung", 1225_text},
+     {"Grdton zus.", 1226_text}, {"Tongeschlecht", 1227_text}, {"Tonart", 1228_text},
+     {"Aufgabe", 1229_text},     {"Genauigkeit", 1230_text},   {"Iv-Bestimmung", 1231_text},
+     {"Stufen", 1232_text},      {"Stufe Ton 2", 1233_text}}};
+
+std::string shown_label(const std::string& label, const Texts& texts) {
+  const auto* found = std::find_if(kSettingLabels.begin(), kSettingLabels.end(),
+                                   [&](const SettingLabel& row) { return row.label == label; });
+  return found == kSettingLabels.end() ? label : texts.Wort(found->word);
+}
 
 TextKey key_at(std::span<const TextKey> keys, int index) {
   if (index < 0 || index >= static_cast<int>(keys.size())) {
@@ -65,9 +86,9 @@ std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& sett
           line(texts.Wort(586_text) + colon,
                texts.Wort(key_at(kExerciseCaptions, settings.ueb_typ - 1))),
           line(texts.Wort(109_text) + colon, facts.computer_user),
-          personal("Name:", 0),
-          personal("Vorname:", 1),
-          personal("Matrikel-Nr.:", 2)};
+          personal(texts.Wort(1235_text), 0),
+          personal(texts.Wort(1236_text), 1),
+          personal(texts.Wort(1237_text), 2)};
 }
 
 std::string head_title(const Settings& settings, const Texts& texts) {
@@ -75,7 +96,7 @@ std::string head_title(const Settings& settings, const Texts& texts) {
          texts.Wort(key_at(kExerciseNames, settings.ueb_typ - 1));
 }
 
-std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs) {
+std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs, const Texts& texts) {
   std::vector<SheetLine> lines;
   const auto last_label = static_cast<std::ptrdiff_t>(pairs.size()) - 1;
   for (std::ptrdiff_t i = 1; i < last_label; i += 2) {
@@ -92,8 +113,8 @@ std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs) {
       value = joined;
     }
     if (value.empty()) continue;
-    if (label == "Grdton zus.") value = "zusätzlich " + value;
-    lines.push_back({label + ": ", value, true});
+    if (label == "Grdton zus.") value = texts.Wort(1234_text) + " " + value;
+    lines.push_back({shown_label(label, texts) + ": ", value, true});
   }
   return lines;
 }

@@ -34,8 +34,9 @@ std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& sett
 std::string head_title(const Settings& settings, const Texts& texts);
 
 /// The pairs of EinstDatSave as lines "Tempo: " and "40 (Largo)". Pairs without a value are left
-/// out. The instruments of the channels, which follow their number, become one line.
-std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs);
+/// out. The instruments of the channels, which follow their number, become one line. Labels are
+/// shown in the language in force; one that is not known is shown as it stands.
+std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs, const Texts& texts);
 
 /// Value of the first pair, the level by name; empty when there is none.
 std::string level_text(const std::vector<std::string>& pairs);

@@ -63,7 +63,7 @@ void ResultWindow::LbGrdEinst() {
 void ResultWindow::LbEinst() {
   const Texts& texts = context_.texts;
   content_.settings_title = einst_head.text = texts.Wort(1201_text);
-  content_.settings = setting_lines(context_.settings.EinstDatSave);
+  content_.settings = setting_lines(context_.settings.EinstDatSave, context_.texts);
   if (content_.settings.size() > kSettingRows) content_.settings.resize(kSettingRows);
   for (std::size_t i = 0; i < content_.settings.size(); ++i) {
     show_line(einst_lab, einst_Inh, static_cast<int>(i) + 1, content_.settings[i]);

@@ -57,6 +57,7 @@ TEST(ScaleColour, EachStepBeginsAtItsExactFraction) {
     EXPECT_EQ(scale_colour(step * 0.2 - 0.0001), steps[step - 1]) << "shown as the next one";
     EXPECT_EQ(scale_colour(step * 0.2), steps[step]);
   }
+  EXPECT_EQ(scale_colour(9.6 / 48), scale::under_40) << "a trifle under a fifth in binary";
   EXPECT_EQ(scale_colour(-0.5), scale::under_20);
   EXPECT_EQ(scale_colour(1.5), scale::from_80);
 }

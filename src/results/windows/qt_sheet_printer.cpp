@@ -99,6 +99,11 @@ void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
                                  word(1207_text) + QStringLiteral(" (*.pdf)"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setLabelText(QFileDialog::LookIn, word(1240_text));
+  dialog->setLabelText(QFileDialog::FileName, word(1241_text));
+  dialog->setLabelText(QFileDialog::FileType, word(1242_text));
+  dialog->setLabelText(QFileDialog::Accept, word(1243_text));
+  dialog->setLabelText(QFileDialog::Reject, word(1244_text));
   dialog->setDefaultSuffix(QStringLiteral("pdf"));
   dialog->selectFile(word(1211_text) + QStringLiteral(".pdf"));
   QObject::connect(dialog, &QObject::destroyed, [memory] {});  // until the dialog is gone
