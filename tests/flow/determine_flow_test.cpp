@@ -126,11 +126,14 @@ TEST_F(DetermineFlowTest, RepeatsStopTheAnswerClockAndAreCounted) {
   bed.scheduler.advance_ms(500);
   bed.press(window, bed.right_code(0));
   EXPECT_EQ(window.zaehler[0].text, "1");
-  const FlowBed::Facts facts = FlowBed::lessons(bed.leave(window)).at(0).at(0);
+  bed.answer_row(window, 0.5);
+  const auto answers = FlowBed::lessons(bed.leave(window)).at(0);
+  const FlowBed::Facts& facts = answers.at(0);
   const double tenths = std::stod(facts.at("AntwDau"));
   EXPECT_GE(tenths, 15);
   EXPECT_LT(tenths * 100, bed.devices.now_ms() - before - bed.beat() * (bed.tones() + 1));
   EXPECT_EQ(std::stod(facts.at("Anz Whlg")), 1.5);
+  EXPECT_EQ(std::stod(answers.at(1).at("AntwDau")), 5) << "each answer has its own time";
 }
 
 TEST_F(DetermineFlowTest, TheKeynoteChordSoundsAtOnceAndOffersTheNextTask) {
@@ -171,7 +174,8 @@ TEST_F(DetermineFlowTest, LeavingBeforeAnyAnswerLeavesADocumentWithoutLessons) {
   bed.open_settings();
   Arbeitsblatt1& window = bed.open_exercise();
   const int playbacks = bed.playbacks();
-  const pugi::xml_node exercise = bed.leave(window);
+  const pugi::xml_node exercise = bed.leave(window, 1);  // the sheet is closed at once
+  EXPECT_EQ(bed.documents.written.size(), 1U);
   EXPECT_TRUE(exercise.child("lessons"));
   EXPECT_FALSE(exercise.child("lessons").first_child());
   EXPECT_TRUE(exercise.child("settings").first_child());

@@ -146,12 +146,13 @@ class FlowBed {
     }
     hear_row();
   }
-  /// Leaves by `zurueck`, past the result sheet, and reads the document that was written.
-  pugi::xml_node leave(Arbeitsblatt1& window) {
+  /// Leaves by `zurueck`, past the result sheet after a while, and reads the document that was
+  /// written.
+  pugi::xml_node leave(Arbeitsblatt1& window, double sheet_ms = 400) {
     window.zurueck_click();
-    scheduler.advance_ms(400);
+    scheduler.advance_ms(sheet_ms);
     result().cmdOk_click();
-    scheduler.advance_ms(50);
+    scheduler.advance_ms(450);
     document.load_string(documents.written.back().content.c_str());
     return document.child("exercise");
   }
@@ -171,7 +172,7 @@ class FlowBed {
     }
     return found;
   }
-  int playbacks() const { return devices.count(RecordingDevices::Kind::queue_started); }
+  int playbacks() const { return devices.queues_started; }
 
   FakeHost& host;
   VirtualScheduler scheduler;

@@ -25,11 +25,18 @@ TEST_F(LevelFlowTest, ATrainingAnsweredWellEndsSolved) {
   Arbeitsblatt1& window = bed.begin(1);
   EXPECT_EQ(percent(window), 50);
   EXPECT_TRUE(window.ergebnis_anz[0].visible);
+  for (int repeat = 1; repeat <= 4; ++repeat) {
+    window.wieder_click();
+    bed.hear_row();
+  }
   int last = 50;
   for (int task = 0; task < 500 && !finished(window); ++task) {
     if (task > 0) bed.next_task(window);
     bed.answer_row(window, 1);
     EXPECT_LE(percent(window), last);
+    if (task == 0) {
+      EXPECT_EQ(percent(window), 46) << "repeats use the first reward up, not the second";
+    }
     last = percent(window);
   }
   ASSERT_TRUE(window.ergebnis_anz[1].visible);
