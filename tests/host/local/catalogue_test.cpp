@@ -41,6 +41,7 @@ TEST(CatalogueFolder, EveryLanguageHasEveryKeyOfTheCodeAndOfTheOthers) {
     }
   }
   EXPECT_GT(found, 100);
+  EXPECT_EQ(english.Wort({30000}), "VOID");
   EXPECT_EQ(english.Wort(131_text), "upward");
   EXPECT_EQ(language(kCatalogues, "Klingon").Wort(131_text), "VOID");
   TextTables tables;
