@@ -187,5 +187,15 @@ TEST(SoundCheck, AFailingDeviceIsToldAndTheButtonsOpenAgain) {
   EXPECT_THAT(bed.host.error_places(), ElementsAre("vemo06.klang_contr_click."));
 }
 
+TEST(SoundCheck, TheEndOfAnotherWindowsQueueIsPassedOn) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  int passed_on = 0;
+  bed.midi_event.QueueEmpty = [&] { ++passed_on; };
+  bed.windows.open(std::make_unique<Einstellung1>(bed.context()));
+  window.MIDI.on_queue_empty();
+  EXPECT_EQ(passed_on, 1);
+}
+
 }  // namespace
 }  // namespace tonarix
