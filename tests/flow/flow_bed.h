@@ -44,6 +44,11 @@ class FlowBed {
       : host(shared_host), chance(seed) {
     open();
   }
+  /// On another host than the fake one.
+  FlowBed(FakeHost& unused, Server::HostFactory create_host, std::uint64_t seed)
+      : host(unused), factory(std::move(create_host)), chance(seed) {
+    open();
+  }
   /// With texts of its own, closed until `open()`.
   FlowBed(FakeHost& shared_host, LanguageLibraries texts)
       : host(shared_host), chance(1), language(std::move(texts)) {}
@@ -175,6 +180,7 @@ class FlowBed {
   int playbacks() const { return devices.queues_started; }
 
   FakeHost& host;
+  Server::HostFactory factory = host.factory();
   VirtualScheduler scheduler;
   StandingClock clock;
   SeededChance chance;
@@ -198,7 +204,7 @@ class FlowBed {
                  devices,
                  documents,
                  printer,
-                 host.factory(),
+                 factory,
                  {"/protocols", "/data"},
                  {"vemo06", "Tonarix 2000"},
                  "ada (desk)",

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "flow/flow_bed.h"
+#include "host/local/local_host.h"
+#include "support/temporary_folder.h"
 
 namespace tonarix {
 namespace {
@@ -70,9 +72,26 @@ TEST_F(LevelFlowTest, ATrainingAnsweredBadlyEndsTooHard) {
 }
 
 TEST_F(LevelFlowTest, ASavedTrainingGoesOnInANewProcessAsItWasLeft) {
+  const TemporaryFolder folder;
+  const StandingClock clock;
+  const auto process = [&] {
+    LocalHostOptions options;
+    options.folder = folder.path;
+    options.user = "Lovelace;Ada;4711";
+    return std::make_unique<LocalHostHome>(options, clock);
+  };
+  const auto stored = [](LocalHostHome& home) {
+    std::string key = "READ";
+    Variant input = Variant::Array{"vemo06", "A1"};
+    Variant output;
+    home.factory()()->Request(key, input, output);
+    return output;
+  };
   std::string wrong, repeats, shown;
+  Variant saved;
   {
-    FlowBed bed(host, 7);
+    const auto home = process();
+    FlowBed bed(host, home->factory(), 7);
     Arbeitsblatt1& window = bed.begin(1);
     for (int task = 0; task < 9; ++task) {
       if (task > 0) bed.next_task(window);
@@ -91,9 +110,10 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnInANewProcessAsItWasLeft) {
     EXPECT_EQ(bed.dialogs.shown.at(0).text, "[495s]");
     EXPECT_EQ(saved_training_entry(bed), "[565s]");
     EXPECT_EQ(bed.settings().training_Combo.selected, 1);
+    saved = stored(*home);
   }
-  const Variant saved = state();
-  FlowBed bed(host, 8);
+  const auto home = process();
+  FlowBed bed(host, home->factory(), 8);
   Arbeitsblatt1& window = bed.begin(2);
   EXPECT_EQ(window.zaehler[1].text, wrong);
   EXPECT_EQ(window.whlgzaehler.text, repeats);
@@ -103,15 +123,15 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnInANewProcessAsItWasLeft) {
   // Leaving at once asks nothing and leaves the record; one task later the state is stored anew.
   bed.leave(window);
   EXPECT_TRUE(bed.dialogs.shown.empty());
-  EXPECT_EQ(state(), saved);
+  EXPECT_EQ(stored(*home), saved);
   Arbeitsblatt1& again = bed.open_exercise();
   EXPECT_EQ(again.matboxanz[15].text, shown);
   bed.hear_row();
   bed.answer_row(again, 1);
   bed.dialogs.script = {Reply::yes};
   bed.leave(again);
-  EXPECT_NE(state(), saved);
-  EXPECT_EQ(state().array().size(), saved.array().size());
+  EXPECT_NE(stored(*home), saved);
+  EXPECT_EQ(stored(*home).array().size(), saved.array().size());
 }
 
 TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
