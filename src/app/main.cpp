@@ -38,7 +38,11 @@ bool language_missing(const std::string& name) {
   try {
     const auto languages =
         tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
-    if (languages.empty()) return false;
+    if (languages.empty()) {
+      std::cerr << "vemo06: no language catalogues in " << tonarix::catalogue_place().string()
+                << "; every text will read VOID.\n";
+      return false;
+    }
     std::string known;
     for (const auto& language : languages) {
       if (language.name == name) return false;
