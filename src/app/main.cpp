@@ -33,26 +33,30 @@ int list_midi(int argc, char* argv[]) {
   return 0;
 }
 
-/// One line when the catalogues are there but none of them is the language asked for.
-bool language_missing(const std::string& name) {
+std::vector<tonarix::LanguageRow> installed_languages() {
   try {
-    const auto languages =
-        tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
-    if (languages.empty()) {
-      std::cerr << "vemo06: no language catalogues in " << tonarix::catalogue_place().string()
-                << "; every text will read VOID.\n";
-      return false;
-    }
-    std::string known;
-    for (const auto& language : languages) {
-      if (language.name == name) return false;
-      known += (known.empty() ? "" : ", ") + language.name;
-    }
-    std::cerr << "vemo06: --language: \"" << name << "\" is not one of " << known << ".\n";
-    return true;
+    return tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
   } catch (const std::exception&) {
-    return false;  // without catalogues the program runs without texts
+    return {};
   }
+}
+
+/// One line when there are catalogues but not of the language asked for; without any the program
+/// runs without texts.
+bool language_missing(const std::string& name) {
+  const auto languages = installed_languages();
+  if (languages.empty()) {
+    std::cerr << "vemo06: no language catalogues in " << tonarix::catalogue_place().string()
+              << "; every text will read VOID.\n";
+    return false;
+  }
+  std::string known;
+  for (const auto& language : languages) {
+    if (language.name == name) return false;
+    known += (known.empty() ? "" : ", ") + language.name;
+  }
+  std::cerr << "vemo06: --language: \"" << name << "\" is not one of " << known << ".\n";
+  return true;
 }
 
 void quiet_qt(QtMsgType type, const QMessageLogContext&, const QString& text) {
