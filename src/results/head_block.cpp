@@ -113,7 +113,7 @@ std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs, cons
       value = joined;
     }
     if (value.empty()) continue;
-    if (label == "Grdton zus.") value = texts.Wort(1234_text) + " " + value;
+    if (label == "Grdton zus.") value.insert(0, texts.Wort(1234_text) + " ");
     lines.push_back({shown_label(label, texts) + ": ", value, true});
   }
   return lines;

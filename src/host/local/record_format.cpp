@@ -28,7 +28,8 @@ Variant from_json(const QJsonValue& value) {
   if (value.isString()) return value.toString().toStdString();
   if (!value.isArray()) return {};
   Variant::Array elements;
-  for (const QJsonValue& element : value.toArray()) elements.push_back(from_json(element));
+  const QJsonArray array = value.toArray();
+  for (const auto element : array) elements.push_back(from_json(element));
   return elements;
 }
 
