@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <set>
+
 #include "flow/flow_bed.h"
 #include "host/local/local_host.h"
 #include "support/temporary_folder.h"
@@ -153,6 +156,41 @@ TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
   bed.result();
 }
 
+TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
+  using Records = std::map<std::string, Variant>;
+  /// A training with this many intervals, left with yes, and with no where the host refuses.
+  const auto train = [](FakeHost& of, int invzahl) {
+    FlowBed bed(of);
+    bed.open_settings().click(bed.settings().invzahl[invzahl]);
+    bed.settings().choose(bed.settings().training_Combo, 1);
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.hear_row();
+    bed.answer_row(window);
+    bed.dialogs.script = {Reply::yes, Reply::no};
+    bed.leave(window);
+    return saved_training_entry(bed);
+  };
+  FakeHost longer;
+  EXPECT_EQ(train(longer, 2), "[565s]");
+  const Records taken = longer.records;
+  ASSERT_EQ(taken.size(), 2U);
+  for (const bool had_former : {false, true}) {
+    for (const char* refused : {"vemo06/E1", "vemo06/A1"}) {
+      SCOPED_TRACE(refused);
+      FakeHost of;
+      if (had_former) train(of, 1);
+      const Records former = of.records;
+      of.failing_records = {refused};
+      EXPECT_EQ(train(of, 2), had_former ? "[565s]" : "---------------");
+      of.records.erase(had_former ? "" : "vemo06/E1");  // settings alone are no training
+      EXPECT_EQ(of.records, former);
+      of.failing_records.clear();
+      train(of, 2);
+      EXPECT_EQ(of.records, taken);
+    }
+  }
+}
+
 TEST_F(LevelFlowTest, ATestTakesItsTasksAndEndsWithThem) {
   FlowBed bed(host);
   Arbeitsblatt1& window = bed.begin(3);
@@ -176,20 +214,56 @@ TEST_F(LevelFlowTest, ATestTakesItsTasksAndEndsWithThem) {
   EXPECT_TRUE(bed.dialogs.shown.empty());
 }
 
-TEST_F(LevelFlowTest, EveryExamEndsByTasksAndByTime) {
+TEST_F(LevelFlowTest, EveryExamHasItsSettingsAndEndsByTasksAndByTime) {
+  struct Exam {
+    int tempo, invzahl, tongeschl, abfr_iv, tasks;
+    const char* time;
+    std::size_t intervals;  ///< of both directions
+  };
+  constexpr Exam kExams[] = {{1, 1, 0, 0, 38, "[461s] 6 [394s] 40 [480s]", 14},
+                             {2, 2, 1, 0, 28, "[461s] 5 [394s] 30 [480s]", 18},
+                             {1, 1, 0, 1, 44, "[461s] 8 [394s] 20 [480s]", 26},
+                             {2, 2, 1, 1, 34, "[461s] 7 [394s] 40 [480s]", 34},
+                             {3, 3, 2, 1, 28, "[461s] 7 [394s] 20 [480s]", 38}};
   for (int prfnr = 1; prfnr <= 5; ++prfnr) {
     SCOPED_TRACE(prfnr);
+    const Exam& exam = kExams[prfnr - 1];
     FlowBed bed(host);
-    Arbeitsblatt1& window = bed.begin(4, prfnr);
-    EXPECT_EQ(bed.module.settings().abfr_iv, prfnr <= 2 ? 0 : 1);
-    for (int tasks = 0; !finished(window) && tasks < 300; ++tasks) {
+    // What was chosen before, another exam at last, leaves no trace.
+    Einstellung1& choices = bed.open_settings();
+    choices.click(choices.abfr_iv[1 - exam.abfr_iv]);
+    choices.click(choices.ton_st_wahl[1]);
+    choices.choose(choices.degree_list, 2);
+    choices.choose(choices.training_Combo, 4);
+    for (const int chosen : {prfnr % 5, prfnr - 1}) choices.choose(choices.prfnr_Comb, chosen);
+    EXPECT_TRUE(choices.tongeschl[exam.tongeschl].value && choices.invzahl[exam.invzahl].value);
+    EXPECT_TRUE(choices.abfr_iv[exam.abfr_iv].value && choices.abfrage[1].value);
+    EXPECT_TRUE(choices.ton_st_wahl[0].value && !choices.degree_list.visible);
+    EXPECT_EQ(choices.temp_Combo.selected, exam.tempo);
+
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.hear_row();
+    const Settings& now = bed.module.settings();
+    EXPECT_EQ((std::array<int, 6>{now.tempo, now.invzahl, now.tongeschl, now.abfr_iv, now.abfrage,
+                                  now.ton_st_wahl}),
+              (std::array{exam.tempo, exam.invzahl, exam.tongeschl, exam.abfr_iv, 1, 0}));
+    EXPECT_EQ(window.lab_aufgaben.text, "[462s] " + std::to_string(exam.tasks));
+    EXPECT_EQ(window.stop_uhr.text, exam.time);
+    std::set<int> asked;
+    int tasks = 0;
+    for (; !finished(window) && tasks < 300; ++tasks) {
       if (tasks > 0) {  // the keynote chord is the quickest way on
         window.grundton_click();
         bed.scheduler.advance_ms(bed.beat() + 300 + 1800);
         bed.hear_row();
       }
+      EXPECT_GE(asked.size() + 2, tasks * 2 < exam.tasks ? 0 : exam.intervals) << "at half time";
+      const auto row = bed.module.row().iv.begin();
+      asked.insert(row, row + exam.invzahl + 1);
       bed.answer_row(window, 0.1);
     }
+    EXPECT_EQ(asked.size(), exam.intervals);
+    EXPECT_EQ(tasks, exam.tasks);
     EXPECT_EQ(window.lab_aufgaben.text, "[462s] 0") << "time must not run out for a quick student";
     bed.leave(window);
 

@@ -25,17 +25,18 @@ struct Sounded {
   int bend = -1;  ///< -1 when the channel was never bent
 };
 
-/// What sounded since the entry `from` of the wire. Tells the programs sent, too.
-std::vector<Sounded> sounded(const FlowBed& bed, std::size_t from, std::map<int, int>& programs) {
+/// What sounded since the entry `from` of the wire, after the programs of eight channels.
+std::vector<Sounded> sounded(const FlowBed& bed, std::size_t from) {
   std::vector<Sounded> notes;
   std::map<int, int> bends;
+  std::array<std::int16_t, 8> programs{};
   for (; from < bed.devices.log.size(); ++from) {
     const auto& [at_ms, message] = bed.devices.log[from];
     const int channel = message.status & 0x0F;
     switch (message.status & 0xF0) {
       case 0xC0:
         EXPECT_TRUE(notes.empty() && bends.empty());
-        programs[channel] = message.data1;
+        programs.at(static_cast<std::size_t>(channel)) = message.data1;
         break;
       case 0xE0:
         EXPECT_TRUE(notes.empty() && bends.count(channel) == 0);
@@ -53,6 +54,7 @@ std::vector<Sounded> sounded(const FlowBed& bed, std::size_t from, std::map<int,
         if (on != notes.end()) on->length_ms = at_ms - on->at_ms;
     }
   }
+  EXPECT_EQ(programs, bed.module.settings().patch_ar);
   return notes;
 }
 
@@ -80,12 +82,7 @@ TEST(SoundFlow, RowsAndChordsGoOverTheWireAsTuned) {
       if (task > 0) window.CmdNextAufg_click();
       bed.hear_row();
       const auto& tones = bed.module.row().inv_ton;
-      std::map<int, int> programs;
-      std::vector<Sounded> row = sounded(bed, from, programs);
-      EXPECT_EQ(programs.size(), 8U);
-      for (const auto& [channel, program] : programs) {
-        EXPECT_EQ(program, bed.module.settings().patch_ar.at(static_cast<std::size_t>(channel)));
-      }
+      std::vector<Sounded> row = sounded(bed, from);
       const auto along = std::ranges::find(row, kKeynoteChannel, &Sounded::channel);
       ASSERT_EQ(row.size(), grd_ton == 0 ? 7U : 6U);
       ASSERT_EQ(along != row.end(), grd_ton == 0);
@@ -117,9 +114,7 @@ TEST(SoundFlow, RowsAndChordsGoOverTheWireAsTuned) {
       from = bed.devices.log.size();
       window.grundton_click();
       bed.scheduler.advance_ms(bed.beat() + 500);
-      programs.clear();
-      const std::vector<Sounded> chord = sounded(bed, from, programs);
-      EXPECT_EQ(programs.size(), 8U);
+      const std::vector<Sounded> chord = sounded(bed, from);
       ASSERT_EQ(chord.size(), 4U);
       const int root = chord[1].note;
       const bool minor = chord[2].note - root == 3;

@@ -67,6 +67,7 @@ class FakeHost {
   bool can_create = true;
   std::map<std::string, Variant> answers;  ///< the output by key, before all else
   std::set<std::string> failing;           ///< keys whose call raises
+  std::set<std::string> failing_records;   ///< records that can't be stored: "vemo06/E1"
   std::map<std::string, Variant> records;  ///< the store: "vemo06/E1"
   std::vector<Call> calls;
   int created = 0;
@@ -79,7 +80,8 @@ class FakeHost {
     ~Object() override { --owner_.living; }
     bool Request(std::string& key, Variant& input, Variant& output) override {
       owner_.calls.push_back({instance_, key, input, output});
-      if (owner_.failing.count(key)) {
+      if (owner_.failing.count(key) ||
+          (key == "STORE" && owner_.failing_records.count(record(input)))) {
         throw RuntimeError(RuntimeError::kHostFailure, "The host does not answer", "FakeHost");
       }
       return owner_.answer(key, input, output);
