@@ -157,7 +157,6 @@ TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
 }
 
 TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
-  using Records = std::map<std::string, Variant>;
   /// A training with this many intervals, left with yes, and with no where the host refuses.
   const auto train = [](FakeHost& of, int invzahl) {
     FlowBed bed(of);
@@ -170,16 +169,15 @@ TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
     bed.leave(window);
     return saved_training_entry(bed);
   };
-  FakeHost longer;
-  EXPECT_EQ(train(longer, 2), "[565s]");
-  const Records taken = longer.records;
+  EXPECT_EQ(train(host, 2), "[565s]");
+  const auto taken = host.records;
   ASSERT_EQ(taken.size(), 2U);
   for (const bool had_former : {false, true}) {
     for (const char* refused : {"vemo06/E1", "vemo06/A1"}) {
       SCOPED_TRACE(refused);
       FakeHost of;
       if (had_former) train(of, 1);
-      const Records former = of.records;
+      const auto former = of.records;
       of.failing_records = {refused};
       EXPECT_EQ(train(of, 2), had_former ? "[565s]" : "---------------");
       of.records.erase(had_former ? "" : "vemo06/E1");  // settings alone are no training
@@ -192,23 +190,32 @@ TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
 }
 
 TEST_F(LevelFlowTest, ATestTakesItsTasksAndEndsWithThem) {
-  FlowBed bed(host);
-  Arbeitsblatt1& window = bed.begin(3);
+  FlowBed bed(host, 5);
+  Einstellung1& settings = bed.open_settings();
+  settings.click(settings.abfr_iv[1]);
+  settings.choose(settings.temp_Combo, 9);
+  settings.choose(settings.training_Combo, 3);
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
   ASSERT_TRUE(window.lab_aufgaben.visible);
   window.cmd_test_aus_click();
   EXPECT_FALSE(window.lab_aufgaben.visible || window.stop_uhr.visible);
   EXPECT_FALSE(window.cmd_test_aus.enabled);
   window.cmd_test_ein_click();
   EXPECT_TRUE(window.lab_aufgaben.visible && window.stop_uhr.visible);
+  std::map<int, int> asked;
   int tasks = 0;
   while (!finished(window) && tasks < 300) {
     if (tasks++ > 0) bed.next_task(window);
     const std::string left = window.lab_aufgaben.text;
+    for (const int i : {0, 1}) ++asked[bed.module.row().iv.at(i)];
     bed.answer_row(window, 0.2);
     EXPECT_NE(window.lab_aufgaben.text, left);
   }
   EXPECT_EQ(window.lab_aufgaben.text, "[462s] 0");
   EXPECT_EQ(tasks % 2, 0);
+  EXPECT_EQ(asked.size(), 26U);
+  for (const auto& [code, times] : asked) EXPECT_GE(times, 2) << code << ", once in each half";
   EXPECT_FALSE(window.wieder.enabled);
   EXPECT_EQ(FlowBed::lessons(bed.leave(window)).size(), static_cast<std::size_t>(tasks));
   EXPECT_TRUE(bed.dialogs.shown.empty());
