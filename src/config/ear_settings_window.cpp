@@ -1,5 +1,6 @@
 #include "config/ear_settings_window.h"
 
+#include "music/degrees.h"
 #include "sound/instruments.h"
 #include "sound/sound_check.h"
 
@@ -70,7 +71,7 @@ void EarSettingsWindow::set_captions() {
 
 void EarSettingsWindow::fill_lists() {
   for (const std::string_view program : general_midi_programs) patch_list.add(std::string(program));
-  for (const TempoRow& row : kTempi) temp_Combo.add(std::string(row.text));
+  for (const std::string_view tempo : kTempi) temp_Combo.add(std::string(tempo));
   for (const Choice choice : {Choice::tempo, Choice::Tonart, Choice::frequenz, Choice::stimm_g,
                               Choice::ton_st_wahl, Choice::invzahl}) {
     set(choice, choice_value(settings(), choice));
@@ -137,8 +138,8 @@ void EarSettingsWindow::fill_degrees() {
   const IntervalNames& names = context().interval_names;
   degree_list.clear();
   degree_list.add(names.long_name(0) + "/" + context().tables.stufe_kurz[1]);
-  for (const std::int16_t entry : degree_entries(settings().tongeschl)) {
-    degree_list.add(names.long_name(entry));
+  for (const Degree& degree : degrees_above_keynote(settings().tongeschl)) {
+    degree_list.add(names.long_name(degree.code));
   }
   set(Choice::stufe_wahl, 0);
 }

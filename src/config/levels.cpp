@@ -4,6 +4,7 @@
 
 #include "base/arithmetic.h"
 #include "base/runtime_error.h"
+#include "music/degrees.h"
 
 namespace tonarix {
 
@@ -29,7 +30,7 @@ void check_together(const Settings& settings) {
   require(settings.ivg == 0 || settings.E_Oktav >= 2);
   if (settings.ton_st_wahl == 0) return;
   require(settings.invzahl == 1);
-  require(settings.stufe_wahl <= static_cast<int>(degree_entries(settings.tongeschl).size()));
+  require(settings.stufe_wahl <= std::ssize(degrees_above_keynote(settings.tongeschl)));
 }
 
 }  // namespace

@@ -73,10 +73,6 @@ constexpr DefaultRow kDefaults[] = {
     {&Settings::genau,        {n, 0, n}},
     {&Settings::kanal,        {0, 0, n}},
 };
-
-constexpr std::int16_t kDurDegrees[] = {4, 8, 3, 2, 6, 10};
-constexpr std::int16_t kMollDegrees[] = {4, 7, 3, 2, 9, 6, 5, 10};
-constexpr std::int16_t kDurMollDegrees[] = {11, 4, 7, 8, 3, 2, 9, 6, 5, 10};
 // clang-format on
 
 /// The rows of the exam tables as lists of choices, without the untouched ones.
@@ -158,7 +154,7 @@ void set_choice(Settings& settings, Choice choice, std::int16_t value) {
 std::array<std::int16_t, 10> tempo_beats() {
   std::array<std::int16_t, 10> beats{};
   std::transform(kTempi.begin(), kTempi.end(), beats.begin(),
-                 [](const TempoRow& row) { return row.ms; });
+                 [](std::string_view text) { return beat_ms(text); });
   return beats;
 }
 
@@ -173,19 +169,6 @@ void set_defaults(Settings& settings, SettingsKind kind) {
   for (const DefaultRow& row : kDefaults) {
     const std::int16_t value = row.value[static_cast<std::size_t>(kind)];
     if (value != kKeeps) settings.*row.field = value;
-  }
-}
-
-std::span<const std::int16_t> degree_entries(std::int16_t tongeschl) {
-  switch (tongeschl) {
-    case 0:
-      return kDurDegrees;
-    case 1:
-      return kMollDegrees;
-    case 2:
-      return kDurMollDegrees;
-    default:
-      throw RuntimeError::index_out_of_range("degree_entries");
   }
 }
 

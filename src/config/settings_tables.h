@@ -62,24 +62,20 @@ constexpr int range_entries(int E_Oktav, int ueb_typ) {
   return (ueb_typ == 4 ? 3 : 4) - E_Oktav;
 }
 
-struct TempoRow {
-  std::string_view text;
-  std::int16_t ms;  ///< beat: 60000 over the metronome number, truncated
-};
-// clang-format off
-inline constexpr std::array<TempoRow, 10> kTempi{{
-    {" 30              ", 2000},
-    {" 40 (Largo)      ", 1500},
-    {" 60 (Larghetto)  ", 1000},
-    {" 80 (Adagio)     ",  750},
-    {"100 (Andante)    ",  600},
-    {"120 (Moderato)   ",  500},
-    {"140 (Allegro)    ",  428},
-    {"160 (Vivace)     ",  375},
-    {"180 (Presto)     ",  333},
-    {"200 (Prestissimo)",  300},
-}};
-// clang-format on
+/// Tempo list: the metronome number, and the word for it.
+inline constexpr std::array<std::string_view, 10> kTempi{
+    " 30              ", " 40 (Largo)      ", " 60 (Larghetto)  ", " 80 (Adagio)     ",
+    "100 (Andante)    ", "120 (Moderato)   ", "140 (Allegro)    ", "160 (Vivace)     ",
+    "180 (Presto)     ", "200 (Prestissimo)"};
+
+/// Milliseconds of a beat, truncated: a minute over the number that the text begins with.
+constexpr std::int16_t beat_ms(std::string_view text) {
+  int number = 0;
+  for (const char sign : text.substr(0, 3)) {
+    if (sign != ' ') number = 10 * number + (sign - '0');
+  }
+  return static_cast<std::int16_t>(60000 / number);
+}
 /// Beats by tempo index, as `Settings::tempo_ms` holds them.
 std::array<std::int16_t, 10> tempo_beats();
 
@@ -109,8 +105,5 @@ struct DefaultRow {
 };
 inline constexpr std::int16_t kKeeps = -1;
 void set_defaults(Settings& settings, SettingsKind kind);
-
-/// Degrees to choose from behind the first entry, by their place in the table of interval names.
-std::span<const std::int16_t> degree_entries(std::int16_t tongeschl);
 
 }  // namespace tonarix

@@ -50,13 +50,16 @@ constexpr std::array<Degree, 12> kDurMoll{{
     {{24, 15}, "", 0},
 }};
 
-// Every row sounds as it is written, the octave closes the scale, and each degree's code leads from
-// the keynote upward to its tone.
+// Every row sounds as it is written and above the one before, the octave closes the scale, and each
+// degree's code leads from the keynote upward to its tone.
 constexpr bool holds_together(std::span<const Degree> scale) {
   const Tone keynote = scale.front().tone;
+  std::int16_t below = 11;
   for (const Degree& degree : scale.first(scale.size() - 1)) {
+    if (degree.tone.chr <= below || degree.tone.chr >= keynote.chr + 12) return false;
     if (degree.tone.chr % 12 != pitch_class(degree.tone.qz)) return false;
     if (degree.code != direct_code(1, degree.tone.qz, keynote.qz)) return false;
+    below = degree.tone.chr;
   }
   return scale.back().tone == Tone{static_cast<std::int16_t>(keynote.chr + 12), keynote.qz};
 }
@@ -75,6 +78,11 @@ std::span<const Degree> degrees(std::int16_t tongeschl) {
     default:
       throw RuntimeError::index_out_of_range("tongeschl");
   }
+}
+
+std::span<const Degree> degrees_above_keynote(std::int16_t tongeschl) {
+  const std::span<const Degree> scale = degrees(tongeschl);
+  return scale.subspan(1, scale.size() - 2);
 }
 
 std::string degree_caption(std::int16_t tongeschl, int row, const IntervalNames& names,

@@ -24,6 +24,9 @@ struct Degree {
 /// any other `tongeschl`.
 std::span<const Degree> degrees(std::int16_t tongeschl);
 
+/// The degrees between the keynote and its octave: what a single chosen degree can be beside them.
+std::span<const Degree> degrees_above_keynote(std::int16_t tongeschl);
+
 /// "(II) große Sekunde": what stands on the button of a degree, row 0 to `anz_stufen` - 1. The
 /// first degree names both the prime and the octave. RuntimeError 9 for any other row.
 std::string degree_caption(std::int16_t tongeschl, int row, const IntervalNames& names,

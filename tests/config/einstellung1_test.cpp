@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "config/settings_bed.h"
+#include "music/degrees.h"
 
 namespace tonarix {
 namespace {
@@ -37,6 +38,12 @@ TEST(Einstellung1, WideIntervalsAndRangesHoldEachOther) {
     for (int wide : {1, 2}) EXPECT_EQ(window.ivg[wide].enabled, E_Oktav >= 2);
     EXPECT_EQ(window.Combo_tonraum.items.size(), 4U - static_cast<unsigned>(E_Oktav));
     EXPECT_EQ(window.Combo_tonraum.selected, E_Oktav < 3 ? 1 : 0);
+    for (int low = 0; low <= 3 - E_Oktav; ++low) {
+      window.choose(window.Combo_tonraum, low);
+      EXPECT_EQ(window.Combo_tonraum.selected_text(),
+                KeyTexts::shown({681 + low}) + " [702] " + KeyTexts::shown({694 + E_Oktav + low}));
+      EXPECT_EQ(bed.settings.tonraum_min, 36 + 12 * low);
+    }
     EXPECT_EQ(bed.settings.tonraum_max - bed.settings.tonraum_min, 24 + 12 * E_Oktav);
   }
   window.click(window.ivg[2]);
@@ -69,7 +76,13 @@ TEST(Einstellung1, AChosenDegreeGoesWithOneIntervalAndItsMode) {
     window.click(window.tongeschl[mode]);
     window.click(window.ton_st_wahl[1]);
     EXPECT_TRUE(window.degree_list.visible);
-    EXPECT_EQ(window.degree_list.items.size(), entries[mode]);
+    ASSERT_EQ(window.degree_list.items.size(), entries[mode]);
+    EXPECT_EQ(window.degree_list.items[0].text, "[450]/[433]");
+    for (std::size_t row = 1; row < entries[mode]; ++row) {
+      EXPECT_THAT(degree_caption(static_cast<std::int16_t>(mode), static_cast<int>(row),
+                                 bed.interval_names, bed.texts),
+                  testing::EndsWith(") " + window.degree_list.items[row].text));
+    }
     for (int more = 2; more <= 4; ++more) EXPECT_FALSE(window.invzahl[more].enabled);
     for (int other = 0; other <= 2; ++other) {
       EXPECT_EQ(window.tongeschl[other].enabled, other == mode);

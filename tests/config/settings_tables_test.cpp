@@ -88,6 +88,11 @@ TEST(EinstSicherung, RefusesChoicesThatNoWindowLetsComeTogether) {
   }
 }
 
+TEST(Tempo, HasTheBeatThatItsTextTells) {
+  const std::array<std::int16_t, 10> beats{2000, 1500, 1000, 750, 600, 500, 428, 375, 333, 300};
+  EXPECT_EQ(tempo_beats(), beats);
+}
+
 TEST(AntwSicherung, HasItsBuild) {
   for (const char* flag : {"true", "True", "0"}) {
     for (std::size_t length = 0; length <= 16; ++length) {

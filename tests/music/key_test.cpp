@@ -81,6 +81,25 @@ TEST(Key, BuiltOnCWithTheCodesThatAreAsked) {
   EXPECT_THROW(build_scale(key, 3, 0), RuntimeError);
 }
 
+TEST(Degrees, TakeTheTonesOfTheirModeAndCountTheSteps) {
+  const char* const steps[] = {"I", "II", "III", "IV", "V", "VI", "VII"};
+  for (const std::int16_t tongeschl : {0, 1, 2}) {
+    // From D flat to B on the line of fifths; Dur has no flats, moll neither D flat nor E.
+    const auto has = [&](int qz) {
+      return qz >= (tongeschl == 0 ? 14 : 10) && qz <= 20 &&
+             !(tongeschl == 1 && (qz == 10 || qz == 19));
+    };
+    for (const Degree& degree : degrees(tongeschl).first(7U + 2U * tongeschl)) {
+      const int qz = degree.tone.qz;
+      EXPECT_TRUE(has(qz)) << qz;
+      std::string label = steps[4 * (qz + 6) % 7];
+      if (has(qz + 7)) label += "a";  // there is a natural form of the step too
+      if (has(qz - 7)) label += "b";
+      EXPECT_EQ(degree.label, "(" + label + ")");
+    }
+  }
+}
+
 TEST(Degrees, HaveACaptionThatNamesTheOctaveBesideThePrime) {
   const KeyTexts texts;
   const IntervalNames names(texts);
