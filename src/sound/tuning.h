@@ -16,10 +16,11 @@ inline constexpr std::int16_t kBendCentre = 64;
 
 /// Pure (Pythagorean) tuning: steps by the tone's place on the line of fifths after moving the key
 /// to C, without the tens: 0 stands for D flat (10) and B (20), 9 for E (19). Row 10 is never
-/// reached.
+/// reached. Fifths of 701.95 cents from A, whose deviation is 0.
 inline constexpr std::array<std::int16_t, 11> rein_abw{-5, -4, -4, -3, -2, -2, -1, -1, 0, 1, 1};
 
-/// Mean-tone tuning after Kirnberger: steps by pitch class from C.
+/// Mean-tone tuning after Kirnberger: steps by pitch class from C. His first tuning, pure but for
+/// the fifth from D to A, which is a comma narrower, with A at 0.
 inline constexpr std::array<std::int16_t, 12> kirnberger_abw{5, 2, 6, 3, 1, 4, 2, 6, 3, 0, 4, 1};
 
 /// Deviation of a tone in the tuning `stimm_g`: 0 equal, 1 pure, 2 Kirnberger. In the pure tuning a
