@@ -1,0 +1,178 @@
+#include <gmock/gmock.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <set>
+
+#include "config/settings_bed.h"
+#include "host/local/catalogue_folder.h"
+#include "music/tones.h"
+
+namespace tonarix {
+namespace {
+
+using std::filesystem::path;
+
+struct Catalogue {
+  explicit Catalogue(const std::string& name) {
+    language.SprachInit();
+    language.SprachWahl(name);
+    tables.load(language);
+  }
+  QString text(int key) const { return QString::fromStdString(language.Wort({key})); }
+
+  Language language{catalogue_folder(TONARIX_CATALOGUES)};
+  TextTables tables;
+};
+
+std::set<int> keys_of_the_code() {
+  std::set<int> keys;
+  const QRegularExpression key(R"(\b([1-9]\d*)_text\b)");  // 0_text stands for no text
+  for (const auto& file : std::filesystem::recursive_directory_iterator(TONARIX_SOURCES "/src")) {
+    const path name = file.path().filename();
+    if (name == "text_key.h" || !(name.extension() == ".h" || name.extension() == ".cpp")) continue;
+    QFile source(QString::fromStdString(file.path().string()));
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+    auto found = key.globalMatch(QString::fromUtf8(source.readAll()));
+    while (found.hasNext()) keys.insert(found.next().captured(1).toInt());
+  }
+  return keys;
+}
+
+TEST(Catalogues, HaveEveryKeyOfTheCodeAndOfEachOther) {
+  const std::set<int> asked = keys_of_the_code();
+  EXPECT_GT(asked.size(), 100U);
+  const auto languages = catalogue_folder(TONARIX_CATALOGUES).create_list()->languages();
+  EXPECT_GE(languages.size(), 2U);
+  const Catalogue german("Deutsch");
+  for (const LanguageRow& row : languages) {
+    const Catalogue other(row.name);
+    for (int key = 1; key <= std::max(3000, *asked.rbegin()); ++key) {
+      SCOPED_TRACE(testing::Message() << row.name << " " << key);
+      const QString text = other.text(key);
+      EXPECT_EQ(text == "VOID", german.text(key) == "VOID");
+      EXPECT_FALSE(text.trimmed().isEmpty() || (text == "VOID" && asked.contains(key)));
+      EXPECT_EQ(text.count("%1"), german.text(key).count("%1"));
+    }
+  }
+}
+
+TEST(Catalogues, TranslateATermAlikeEverywhere) {
+  const QString terms =
+      "aufwärts=upward abwärts=downward grundton=keynote prüfung=exam training=training "
+      "intervall=interval speicher=sav fortsetzen=contin wiederhol=repeat okt=oct richtig=right "
+      "falsch=wrong moll=minor ergebnis=result hilfe=help gehör=ear musiklehre=theory niedrig=low "
+      "hoch=high gelöst=solved schwer=difficult tonhöhe=pitch wechselnd=change vorton=before "
+      "automatisch=automatic gesperrt=locked protokoll=protocol schreiben=writ bestimmen=identify "
+      "spielen=play übungsart=type drucken=print";
+  const Catalogue german("Deutsch"), english("English");
+  for (const QString& term : terms.split(' ')) {
+    const QStringList pair = term.split('=');
+    for (int key = 1; key < 3000; ++key) {
+      if (!german.text(key).contains(pair[0], Qt::CaseInsensitive)) continue;
+      EXPECT_TRUE(english.text(key).contains(pair[1], Qt::CaseInsensitive)) << key;
+    }
+  }
+}
+
+struct Wording {
+  const char* language;
+  std::array<std::string, 7> naturals;  // along the line of fifths from F
+  std::array<std::string, 5> signs;     // behind them, from the double flat to the double sharp
+  std::map<std::string, std::string> contracted;
+  std::array<QString, 5> qualities;  // perfect, large, small, augmented, diminished
+  const char* short_qualities;       // Latin-1
+};
+
+const Wording kWordings[] = {
+    {"Deutsch",
+     {"f", "c", "g", "d", "a", "e", "h"},
+     {"eses", "es", "", "is", "isis"},
+     {{"aes", "as"}, {"aeses", "ases"}, {"ees", "es"}, {"eeses", "eses"}, {"hes", "b"}},
+     {"", "große ", "kleine ", "überm. ", "verm. "},
+     "rgk\xFCv"},
+    {"English",
+     {"f", "c", "g", "d", "a", "e", "b"},
+     {" double flat", " flat", "", " sharp", " double sharp"},
+     {},
+     {"Perfect ", "Major ", "Minor ", "Augmented ", "Diminished "},
+     "PMmAd"},
+};
+
+TEST(Catalogues, NameTonesAndTheEndsOfRangesAlongTheLineOfFifths) {
+  for (const Wording& wording : kWordings) {
+    const Catalogue catalogue(wording.language);
+    const ToneNames names(catalogue.language);
+    for (std::int16_t chr = 12; chr <= 96; ++chr) {
+      for (std::size_t qz = 0; qz < kNamedTones; ++qz) {
+        const Tone tone{chr, static_cast<std::int16_t>(qz)};
+        const int octave = written_octave(tone);
+        if (chr % 12 != pitch_class(tone.qz) || octave < 1) continue;
+        std::string name = wording.naturals[qz % 7] + wording.signs[qz / 7];
+        if (wording.contracted.contains(name)) name = wording.contracted.at(name);
+        if (octave < 4) name[0] = static_cast<char>(std::toupper(name[0]));
+        const std::string marks =
+            octave < 4 ? std::string(3 - octave, ',') : std::string(octave - 4, '\'');
+        EXPECT_EQ(names.name(tone), marks + name) << chr << " " << qz;
+        if (qz != 15) continue;
+        // Ranges begin and end at a c, which has its marks behind it there.
+        const int entry = chr / 12 - 3;
+        const QString end = QString::fromStdString(name + marks);
+        EXPECT_TRUE(entry < 0 || entry > 3 || catalogue.text(681 + entry) == end) << chr;
+        EXPECT_TRUE(entry < 2 || catalogue.text(692 + entry) == end) << chr;
+      }
+    }
+  }
+}
+
+TEST(Catalogues, NameIntervalsByTheirFifths) {
+  const std::size_t place_in_stufe_kurz[] = {0, 4, 7, 3, 2, 6, 5};  // by steps of the scale
+  for (const Wording& wording : kWordings) {
+    const Catalogue catalogue(wording.language);
+    const IntervalNames names(catalogue.language);
+    for (int code = 0; code < kNamedIntervals; ++code) {
+      const int fifths = fifth_steps(code);
+      const int size = std::abs(fifths);
+      const std::size_t quality = size < 2 ? 0 : (size < 6 ? 1 : 3) + (fifths < 0 ? 1 : 0);
+      const int steps = code == 0 || fifths == -7 ? 7 : (4 * fifths + 56) % 7;
+      const QString number =
+          steps == 7
+              ? catalogue.text(46)
+              : QString::fromStdString(catalogue.tables.stufe_kurz[place_in_stufe_kurz[steps]]);
+      EXPECT_EQ(QString::fromStdString(names.long_name(code)).toLower(),
+                (size == 0 ? number : wording.qualities[quality] + number).toLower());
+      EXPECT_EQ(QString::fromStdString(names.short_name(code)),
+                QLatin1Char(wording.short_qualities[quality]) + QString::number(steps + 1));
+    }
+  }
+}
+
+TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
+  const Catalogue german("Deutsch");
+  SettingsBed bed;
+  for (int key = 1; key < 2000; ++key) bed.texts.given[key] = german.language.Wort({key});
+  std::string told;
+  const auto tell = [&told](const auto& texts) {
+    for (const std::string& text : texts) told += text + "|";
+  };
+  tell(german.tables.theory_kinds);
+  tell(german.tables.exercise_kinds);
+  tell(german.tables.levels);
+  tell(german.tables.accuracies);
+  for (const Control* control : bed.open().controls()) {
+    if (dynamic_cast<const OptionControl*>(control)) told += control->text + "|";
+  }
+  EXPECT_EQ(told,
+            "Übungsart|Gehörbildung|Musiklehre|tonale Intervalle (sukzessiv) bestimmen|"
+            "tonale Intervalle sukzessiv bilden|Töne nachspielen|"
+            "tonale Intervalle sukzessiv schreiben|"
+            "Freies Üben|Training mit Speichern|Training fortsetzen|Test|Prüfung|"
+            "sehr niedrig|niedrig|mittel|hoch|sehr hoch|manuell|automatisch|Dur|moll|Dur-moll|"
+            "2 Oktaven|3 Oktaven|4 Oktaven|5 Oktaven|"
+            "max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|1 nach Wahl|"
+            "gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"
+            "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|vom Grundton|vom Vorton|");
+}
+
+}  // namespace
+}  // namespace tonarix
