@@ -51,8 +51,8 @@ TEST(Fractions, WorkedExamples) {
 }
 
 TEST(ScaleColour, EachStepBeginsAtItsExactFraction) {
-  const Colour steps[] = {scale::under_20, scale::under_40, scale::under_60, scale::under_80,
-                          scale::from_80};
+  const Colour steps[] = {RGB(255, 128, 128), RGB(255, 192, 192), RGB(255, 255, 192),
+                          RGB(192, 255, 192), RGB(128, 255, 128)};  // red, yellow, green
   for (int step = 1; step < 5; ++step) {
     EXPECT_EQ(scale_colour(step * 0.2 - 0.0001), steps[step - 1]) << "shown as the next one";
     EXPECT_EQ(scale_colour(step * 0.2), steps[step]);
