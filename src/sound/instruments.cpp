@@ -56,9 +56,9 @@ constexpr std::array<std::string_view, 128> general_midi_programs{
     "Telephone Ring", "Helicopter", "Applause", "Gunshot",
 };
 // clang-format on
-static_assert(general_midi_programs[43] == "Contra Bass");
-static_assert(general_midi_programs[71] == "Clarinet");
-static_assert(general_midi_programs[73] == "Flute");
+static_assert(general_midi_programs[kPatchesForRows[1]] == "Contra Bass");
+static_assert(general_midi_programs[kPatchesForForming[0]] == "Flute");
+static_assert(general_midi_programs[kPatchesForForming[2]] == "Clarinet");
 static_assert(general_midi_programs[127] == "Gunshot");
 
 void SetzeKlangfarbe(Midi& midi, std::int16_t patch, std::int16_t kanal) {
