@@ -66,6 +66,8 @@ TEST(Einstellung1, TheStaffHasAnOctaveLess) {
   EXPECT_TRUE(window.CmbTransIv.visible);
   EXPECT_EQ(window.CmbTransIv.items.size(), 22U);
   EXPECT_EQ(window.CmbTransIv.items[11].text, "-[358]");
+  EXPECT_EQ(window.CmbTrans.items[1].text, "[345][700][623]");
+  EXPECT_EQ(window.CmbTrans.items[2].text, "[345][700][413]");
 }
 
 TEST(Einstellung1, AChosenDegreeGoesWithOneIntervalAndItsMode) {

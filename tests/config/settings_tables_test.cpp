@@ -1,12 +1,14 @@
 #include "config/settings_tables.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "base/runtime_error.h"
 #include "config/levels.h"
 
 namespace tonarix {
 namespace {
+
+using testing::ElementsAre;
 
 const SettingsKind kKinds[] = {SettingsKind::einstellung1, SettingsKind::einstellung2,
                                SettingsKind::einstellung1b};
@@ -31,7 +33,8 @@ TEST(EinstSicherung, ComesBackAsItWasOnEveryWindow) {
       Settings saved = at_end(kind, high);
       if (kind != SettingsKind::einstellung1b && !high) {
         saved.ton_st_wahl = 1;
-        saved.stufe_wahl = 6;
+        saved.tongeschl = 2;
+        saved.stufe_wahl = 10;
       }
       const auto record = build_EinstSicherung(saved, kind);
       EXPECT_EQ(record.size(), 14U + static_cast<std::size_t>(saved.ton_st_wahl));
@@ -44,6 +47,13 @@ TEST(EinstSicherung, ComesBackAsItWasOnEveryWindow) {
       EXPECT_EQ(back.tonraum_max, saved.tonraum_max);
     }
   }
+}
+
+TEST(EinstSicherung, ReachesTheLastOfEachChoice) {
+  EXPECT_THAT(build_EinstSicherung(at_end(kKinds[0], true), kKinds[0]),
+              ElementsAre("1", "9", "4", "3", "0", "1", "1", "2", "1", "", "0", "2", "1", "2"));
+  EXPECT_THAT(build_EinstSicherung(at_end(kKinds[1], true), kKinds[1]),
+              ElementsAre("1", "9", "3", "0", "1", "1", "2", "1", "", "0", "2", "2", "1", "4"));
 }
 
 TEST(EinstSicherung, RefusesEveryBrokenPlace) {

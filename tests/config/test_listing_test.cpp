@@ -50,6 +50,7 @@ TEST(TestListing, ListsMarkedGroupsWellFormed) {
   window.click(window.tongeschl[1]);
   const auto document = listing(bed);
   EXPECT_STREQ(document.child("test").child("basic").child("modul").text().get(), "vemo06");
+  EXPECT_STREQ(document.child("test").child("basic").child("type").text().get(), "[154]");
   std::map<std::string, int> found;
   for (const auto& control : document.child("test").child("setting").children("control")) {
     const std::string name = control.child("cname").text().get();

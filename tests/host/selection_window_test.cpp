@@ -74,6 +74,7 @@ TEST_F(SelectionWindowTest, StartsInOrderAndIsReady) {
   EXPECT_EQ(window.caption, "[287s][700s][1003s]");
   EXPECT_EQ(window.version.text, "[699s] 1.0.0000");
   EXPECT_EQ(window.chosen_exercise(), "[154s]");
+  EXPECT_EQ(window.Theoriewahl[0].text + window.Theoriewahl[1].text, "[724s][725s]");
 }
 
 TEST_F(SelectionWindowTest, AnUnwantedModuleSaysItsStatusAndEnds) {
