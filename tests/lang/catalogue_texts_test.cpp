@@ -61,15 +61,17 @@ TEST(Catalogues, TranslateATermAlikeEverywhere) {
   const QString terms =
       "aufwärts=upward abwärts=downward grundton=keynote prüfung=exam training=training "
       "intervall=interval speicher=sav fortsetzen=contin wiederhol=repeat okt=oct richtig=right "
-      "falsch=wrong moll=minor ergebnis=result hilfe=help gehör=ear musiklehre=theory niedrig=low "
+      "falsch=wrong dur\\b=major moll=minor ergebnis=result hilfe=help gehör=ear musiklehre=theory "
+      "niedrig=low "
       "hoch=high gelöst=solved schwer=difficult tonhöhe=pitch wechselnd=change vorton=before "
       "automatisch=automatic gesperrt=locked protokoll=protocol schreiben=writ bestimmen=identify "
-      "spielen=play übungsart=type drucken=print";
+      "\\bbilden=build spielen=play übungsart=type drucken=print";
   const Catalogue german("Deutsch"), english("English");
   for (const QString& term : terms.split(' ')) {
     const QStringList pair = term.split('=');
+    const QRegularExpression in_german(pair[0], QRegularExpression::CaseInsensitiveOption);
     for (int key = 1; key < 3000; ++key) {
-      if (!german.text(key).contains(pair[0], Qt::CaseInsensitive)) continue;
+      if (!german.text(key).contains(in_german)) continue;
       EXPECT_TRUE(english.text(key).contains(pair[1], Qt::CaseInsensitive)) << key;
     }
   }
@@ -160,17 +162,19 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
   tell(german.tables.levels);
   tell(german.tables.accuracies);
   for (const Control* control : bed.open().controls()) {
-    if (dynamic_cast<const OptionControl*>(control)) told += control->text + "|";
+    const bool title = control->name() == "geinst_lb";
+    if (title || dynamic_cast<const OptionControl*>(control)) told += control->text + "|";
   }
   EXPECT_EQ(told,
             "Übungsart|Gehörbildung|Musiklehre|tonale Intervalle (sukzessiv) bestimmen|"
             "tonale Intervalle sukzessiv bilden|Töne nachspielen|"
-            "tonale Intervalle sukzessiv schreiben|"
-            "Freies Üben|Training mit Speichern|Training fortsetzen|Test|Prüfung|"
-            "sehr niedrig|niedrig|mittel|hoch|sehr hoch|manuell|automatisch|Dur|moll|Dur-moll|"
-            "2 Oktaven|3 Oktaven|4 Oktaven|5 Oktaven|"
-            "max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|1 nach Wahl|"
-            "gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"
+            "tonale Intervalle sukzessiv schreiben|Freies Üben|Training mit Speichern|"
+            "Training fortsetzen|Test|Prüfung|sehr niedrig|niedrig|mittel|hoch|sehr hoch|"
+            "Tonart|Tonraum|Klang|Intervall-Größe|Intervall-Anzahl|Tongeschlecht|"
+            "Intervall-Bestimmung|Abfolge|Ton 2: Stufe(n)|Grundton zusätzlich|Übungsmodus|"
+            "Frequenz|Tempo|Stimmung|manuell|automatisch|Dur|moll|Dur-moll|2 Oktaven|3 Oktaven|"
+            "4 Oktaven|5 Oktaven|max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|"
+            "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"
             "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|vom Grundton|vom Vorton|");
 }
 
