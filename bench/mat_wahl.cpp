@@ -60,8 +60,8 @@ std::pair<double, Settings> slowest(const std::vector<Settings>& all) {
 // worn, and every interval of the task was confused with three others.
 double microseconds_of_box_auswerten() {
   Settings settings;
-  settings.Uebungsmodus = 1;
-  settings.abfr_iv = 1;
+  settings.Uebungsmodus = Level::training;
+  settings.abfr_iv = Naming::from_tone_before;
   settings.tongeschl = 2;
   settings.invzahl = 4;
   MaterialBed bed(settings, 3);
@@ -95,7 +95,7 @@ int main() {
   std::erase_if(all, [](const Settings& s) { return s.Tonart == 0; });  // no key to draw: faster
   std::vector<Settings> level_0;
   std::copy_if(all.begin(), all.end(), std::back_inserter(level_0),
-               [](const Settings& s) { return s.Uebungsmodus == 0; });
+               [](const Settings& s) { return s.Uebungsmodus == Level::free; });
   const auto [time, settings] = slowest(all);
   const auto [time_0, settings_0] = slowest(level_0);
   std::printf("mat_wahl_rows_per_s %.0f rows/s >=500000\n", 1 / time);

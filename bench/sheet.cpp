@@ -43,8 +43,8 @@ class Bed {
     names_ = std::make_unique<IntervalNames>(language_);
     host_.answers["LOGIN"] = Variant::Array{"Lovelace", "Ada", "4711"};
     server_.ServerInit("vemo06");
-    settings_.Uebungsmodus = 1;
-    settings_.abfr_iv = 1;
+    settings_.Uebungsmodus = Level::training;
+    settings_.abfr_iv = Naming::from_tone_before;
     settings_.EinstDatSave = {"34"};
     for (int pair = 0; pair < ResultWindow::kSettingRows; ++pair) {
       settings_.EinstDatSave.insert(settings_.EinstDatSave.end(),
@@ -52,9 +52,9 @@ class Bed {
     }
     statistics_.init_arr(3, 42);
     for (std::int16_t row = 1; row <= 42; ++row) {
-      statistics_.Increment(row, 3);
-      statistics_.Save(row, 0, 4);
-      statistics_.Save(row, 1, -1.5F * static_cast<float>(row));
+      statistics_.Increment(StatisticRow(row), 3);
+      statistics_.Save(StatisticRow(row), 0, 4);
+      statistics_.Save(StatisticRow(row), 1, -1.5F * static_cast<float>(row));
     }
     presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
   }

@@ -45,8 +45,8 @@ struct Result {
 
 Settings settings_of(std::int16_t level) {
   Settings settings;
-  settings.Uebungsmodus = level;
-  settings.abfr_iv = 1;
+  settings.Uebungsmodus = static_cast<Level>(level);
+  settings.abfr_iv = Naming::from_tone_before;
   settings.Tonart = 1;
   settings.invzahl = 2;
   settings.E_Oktav = 1;

@@ -1,23 +1,18 @@
 #include "app/module.h"
 
 #include <map>
-#include <variant>
 
 #include "config/einstellung1.h"
-#include "config/settings_tables.h"
-#include "engine/material/saved_training.h"
 #include "exercises/determine/arbeitsblatt1.h"
 #include "results/result_window.h"
+#include "settings/settings_tables.h"
 
 namespace tonarix {
 
 namespace {
 
-constexpr int kEarTraining = 0;
-constexpr int kDetermine = 1;
-
-bool can_be_practised(int Theoriewahl, int ueb_typ) {
-  return Theoriewahl == kEarTraining && ueb_typ == kDetermine;
+bool can_be_practised(const ExerciseRow& row) {
+  return row.window == "arbeitsblatt1";
 }
 
 }  // namespace
@@ -44,11 +39,9 @@ void Module::open() {
                            tables_,
                            errors_,
                            outside_.dialogs,
-                           {settings_.Theoriewahl, settings_.ueb_typ, settings_.tempo_ms,
-                            settings_.supervisor, settings_.klein_bildschirm},
-                           tempo_beats(),
+                           settings_,
                            outside_.screen_width,
-                           [this](SettingsWindowKind kind) { open_settings(kind); },
+                           [this](SettingsKind kind) { open_settings(kind); },
                            [this] { show_help(); },
                            outside_.quit,
                            can_be_practised,
@@ -62,8 +55,8 @@ void Module::load_names() {
   tone_names_.emplace(outside_.language);
 }
 
-void Module::open_settings(SettingsWindowKind kind) {
-  if (kind != SettingsWindowKind::einstellung1) {
+void Module::open_settings(SettingsKind kind) {
+  if (kind != SettingsKind::einstellung1) {
     throw RuntimeError(RuntimeError::kOther, "This exercise has no settings window",
                        "open_settings");
   }
@@ -78,6 +71,7 @@ void Module::open_settings(SettingsWindowKind kind) {
                                 outside_.devices,
                                 midi_event_,
                                 settings_,
+                                saved_training_,
                                 statistics_,
                                 best_,
                                 tables_,
@@ -86,8 +80,7 @@ void Module::open_settings(SettingsWindowKind kind) {
                                 [this](SettingsWindow& caller) { open_exercise(caller); },
                                 [this] { outside_.windows.at(0)->show(); },
                                 [this](const std::string&) { show_help(); },
-                                outside_.put_listing,
-                                [this](const Settings& restored) { check_saved_state(restored); }};
+                                outside_.put_listing};
   outside_.windows.open(std::make_unique<Einstellung1>(context));
   outside_.scheduler.post([this] { tell_sound_problem(); });
 }
@@ -105,6 +98,7 @@ void Module::open_exercise(SettingsWindow& caller) {
       midi_,
       midi_event_,
       settings_,
+      saved_training_,
       key_,
       row_,
       statistics_,
@@ -132,17 +126,6 @@ void Module::open_result(std::function<void()> closed) {
                               outside_.computer_user,
                               [this] { show_help(); }};
   outside_.windows.open(std::make_unique<ResultWindow>(context, std::move(closed)));
-}
-
-void Module::check_saved_state(const Settings& restored) {
-  Key key;
-  build_scale(key, restored.tongeschl, restored.abfr_iv);
-  if (std::holds_alternative<SavedTrainingFault>(
-          from_record(restored.AntwSicherung, restored, key))) {
-    throw RuntimeError(RuntimeError::kTypeMismatch,
-                       "The saved state does not fit the settings saved with it",
-                       "check_saved_state");
-  }
 }
 
 void Module::tell_sound_problem() {

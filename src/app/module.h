@@ -9,19 +9,21 @@
 #include "base/dialogs.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
-#include "config/settings.h"
-#include "engine/records/records.h"
+#include "config/selection_window.h"
 #include "host/error_report.h"
 #include "host/language.h"
-#include "host/selection_window.h"
 #include "host/server.h"
 #include "host/text_tables.h"
 #include "music/interval.h"
 #include "music/key.h"
 #include "music/tones.h"
-#include "results/protocol/protokoll.h"
+#include "protocol/protokoll.h"
 #include "results/sheet_printer.h"
+#include "settings/exercises.h"
+#include "settings/saved_training.h"
+#include "settings/settings.h"
 #include "sound/midi.h"
+#include "statistics/records.h"
 
 namespace tonarix {
 
@@ -63,10 +65,9 @@ class Module {
   const TaskRow& row() const { return row_; }
 
  private:
-  void open_settings(SettingsWindowKind kind);
+  void open_settings(SettingsKind kind);
   void open_exercise(SettingsWindow& caller);
   void open_result(std::function<void()> closed);
-  void check_saved_state(const Settings& restored);
   void load_names();
   void tell_sound_problem();
   void show_help();
@@ -76,6 +77,7 @@ class Module {
   TextTables tables_;
   ErrorReport errors_;
   Settings settings_;
+  std::optional<SavedTraining> saved_training_;
   TaskRow row_;
   Key key_;
   Auswertung statistics_;

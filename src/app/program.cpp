@@ -13,9 +13,9 @@
 #include <iostream>
 
 #include "config/windows/einstellung1_view.h"
+#include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "host/local/catalogue_folder.h"
-#include "host/windows/selection_view.h"
 #include "results/windows/result_view.h"
 
 namespace tonarix {

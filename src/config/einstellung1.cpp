@@ -60,8 +60,8 @@ Einstellung1::Einstellung1(const SettingsContext& context)
   on(transpo_cmb, "transpo_cmb_click.",
      [this] { settings().transpo = static_cast<std::int16_t>(transpo_cmb.selected); });
   on(CmbTrans, "CmbTrans_click.", [this] { trans_dfg(); });
-  const bool names_intervals = settings().ueb_typ == 1;
-  const bool writes = settings().ueb_typ == 4;
+  const bool names_intervals = settings().ueb_typ == ExerciseKind::determine;
+  const bool writes = settings().ueb_typ == ExerciseKind::write;
   grdeinst[kIvBestimmung].visible = geinst_lb[kIvBestimmung].visible = names_intervals;
   HinweisMeldung.visible = CmbTrans.visible = writes;
   transpo_cmb.visible = CmbTransIv.visible = false;
@@ -90,7 +90,7 @@ void Einstellung1::set_captions() {
 
 void Einstellung1::fill_lists() {
   EarSettingsWindow::fill_lists();
-  set(Choice::abfr_iv, settings().abfr_iv);
+  set(Choice::abfr_iv, choice_value(settings(), Choice::abfr_iv));
 }
 
 void Einstellung1::fill_transposition() {
@@ -154,7 +154,8 @@ std::vector<std::string> Einstellung1::build_EinstDatSave() const {
   pairs.add("Grdton zus.", chosen(grd_ton, now.grd_ton));
   pairs.add("Tongeschlecht", chosen(tongeschl, now.tongeschl));
   pairs.add("Tonart", chosen(Tonart, now.Tonart));
-  if (grdeinst[kIvBestimmung].visible) pairs.add("Iv-Bestimmung", chosen(abfr_iv, now.abfr_iv));
+  if (grdeinst[kIvBestimmung].visible)
+    pairs.add("Iv-Bestimmung", chosen(abfr_iv, static_cast<int>(now.abfr_iv)));
   pairs.add("Stufen", chosen(ton_st_wahl, now.ton_st_wahl));
   if (now.ton_st_wahl == 1) pairs.add("Stufe Ton 2", degree_list.selected_text());
   return pairs.finish();

@@ -1,98 +1,46 @@
 #include "config/levels.h"
 
-#include <charconv>
-
-#include "base/arithmetic.h"
 #include "base/runtime_error.h"
-#include "music/degrees.h"
+#include "music/key.h"
+#include "settings/exercises.h"
+#include "settings/saved_settings.h"
 
 namespace tonarix {
 
-namespace {
-
-std::int16_t whole_number(const std::string& text) {
-  std::int64_t value = 0;
-  const char* end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, value);
-  if (error == std::errc::result_out_of_range) throw RuntimeError::overflow("EinstSicherung");
-  if (error != std::errc{} || rest != end) throw RuntimeError::type_mismatch("EinstSicherung");
-  return to_int16(value);
-}
-
-void require(bool held) {
-  if (!held) throw RuntimeError::index_out_of_range("EinstSicherung");
-}
-
-/// Choices that no window lets come together are refused, whoever wrote them.
-void check_together(const Settings& settings) {
-  require(choice_value(settings, Choice::Combo_tonraum) <
-          range_entries(settings.E_Oktav, settings.ueb_typ));
-  require(settings.ivg == 0 || settings.E_Oktav >= 2);
-  if (settings.ton_st_wahl == 0) return;
-  require(settings.invzahl == 1);
-  require(settings.stufe_wahl <= std::ssize(degrees_above_keynote(settings.tongeschl)));
-}
-
-}  // namespace
-
-std::string short_key(char record, std::int16_t ueb_typ, SettingsKind kind) {
-  std::string key(1, record);
-  key += std::to_string(ueb_typ);
-  if (kind == SettingsKind::einstellung1b) key += 'b';
-  return key;
-}
-
 std::array<std::string, 5> level_names(const TextTables& tables, bool saved) {
   std::array<std::string, 5> names = tables.levels;
-  if (!saved) names[level::continued] = kNoSavedTraining;
+  if (!saved) names[static_cast<std::size_t>(Level::continued)] = kNoSavedTraining;
   return names;
 }
 
-bool saved_training_offered(Server& server, std::int16_t ueb_typ, SettingsKind kind) {
-  std::vector<std::string> settings;
+bool saved_training_offered(Server& server, const Settings& settings) {
+  std::vector<std::string> record;
   std::vector<std::string> state;
-  return server.ServerRead(short_key('E', ueb_typ, kind), settings) &&
-         server.ServerRead(short_key('A', ueb_typ, kind), state) && !state.empty() &&
+  return server.ServerRead(record_key('E', settings), record) &&
+         server.ServerRead(record_key('A', settings), state) && !state.empty() &&
          state.front() == kValidState;
 }
 
-std::vector<std::string> build_EinstSicherung(const Settings& settings, SettingsKind kind) {
-  std::vector<std::string> record(static_cast<std::size_t>(kDegreeSlot + settings.ton_st_wahl));
-  for (std::size_t slot = 0; slot < record.size(); ++slot) {
-    const Choice choice = kSlots[slot].of(kind);
-    if (choice != Choice::none) record[slot] = std::to_string(choice_value(settings, choice));
+StoredTraining read_stored_training(Server& server, const Settings& settings) {
+  std::vector<std::string> record;
+  std::vector<std::string> state;
+  if (!server.ServerRead(record_key('E', settings), record) ||
+      !server.ServerRead(record_key('A', settings), state)) {
+    throw RuntimeError(RuntimeError::kHostFailure, "The saved training cannot be read",
+                       "training_Combo");
   }
-  return record;
-}
-
-Settings read_EinstSicherung(const Settings& settings, SettingsKind kind,
-                             const std::vector<std::string>& record) {
-  Settings restored = settings;
-  restored.ton_st_wahl = 0;
-  require(record.size() >= kDegreeSlot && record.size() <= kSlots.size());
-  for (std::size_t slot = 0; slot < record.size(); ++slot) {
-    const Choice choice = kSlots[slot].of(kind);
-    if (choice == Choice::none) {
-      require(record[slot].empty());
-      continue;
-    }
-    const std::int16_t value = whole_number(record[slot]);
-    const ChoiceRow& row = choice_row(choice);
-    require(value >= row.lowest && value <= row.highest);
-    set_choice(restored, choice, value);
+  Settings restored = read_EinstSicherung(settings, exercise_row(settings).settings, record);
+  Key key;
+  build_scale(key, restored.tongeschl, restored.abfr_iv);
+  const auto read = from_record(state, restored, key);
+  const auto* training = std::get_if<SavedTraining>(&read);
+  if (training == nullptr) {
+    throw RuntimeError(RuntimeError::kTypeMismatch,
+                       "The saved state does not fit the settings saved with it", "training_Combo");
   }
-  require(static_cast<int>(record.size()) == kDegreeSlot + restored.ton_st_wahl);
-  // A chosen degree was saved with a single interval, also where the number has no slot.
-  if (kind == SettingsKind::einstellung2 && restored.ton_st_wahl == 1) restored.invzahl = 1;
-  check_together(restored);
-  return restored;
-}
-
-void check_AntwSicherung(const std::vector<std::string>& record) {
-  const bool built = record.size() >= 9 && (record.size() - 3) % 6 == 0;
-  if (!built || record.front() != kValidState) {
-    throw RuntimeError::index_out_of_range("AntwSicherung");
-  }
+  restored.EinstSicherung = std::move(record);
+  restored.AntwSicherung = std::move(state);
+  return {std::move(restored), *training};
 }
 
 }  // namespace tonarix

@@ -17,32 +17,24 @@ void SettingsWindow::fill_levels(bool saved) {
 
 void SettingsWindow::training_finished() {
   fill_levels(false);
-  training_Combo.selected = level::training;
+  training_Combo.selected = static_cast<int>(Level::training);
   training_Combo_change();
-  changed();
-}
-
-void SettingsWindow::training_refused() {
-  training_Combo.selected = level::training;
-  training_Combo_change();
-  settings().EinstDatSave = build_EinstDatSave();
-  settings().EinstSicherung = build_EinstSicherung(settings(), kind_);
   changed();
 }
 
 void SettingsWindow::training_saved() {
   fill_levels(true);
-  training_Combo.selected = settings().Uebungsmodus;
+  training_Combo.selected = static_cast<int>(settings().Uebungsmodus);
   changed();
 }
 
 void SettingsWindow::training_Combo_change() {
-  settings().Uebungsmodus = static_cast<std::int16_t>(training_Combo.selected);
+  settings().Uebungsmodus = static_cast<Level>(training_Combo.selected);
   prfnr_Comb.visible = false;
-  if (settings().Uebungsmodus != level::continued) unlock();
-  if (settings().Uebungsmodus == level::continued) {
+  if (settings().Uebungsmodus != Level::continued) unlock();
+  if (settings().Uebungsmodus == Level::continued) {
     if (training_Combo.selected_text() == kNoSavedTraining) {
-      training_Combo.selected = level::training;
+      training_Combo.selected = static_cast<int>(Level::training);
       training_Combo_change();
       return;
     }
@@ -52,28 +44,18 @@ void SettingsWindow::training_Combo_change() {
       restore_failed(std::current_exception());
     }
   }
-  if (settings().Uebungsmodus == level::exam) {
+  if (settings().Uebungsmodus == Level::exam) {
     prfnr_Comb.visible = true;
     prfnr_Comb_change();
   }
 }
 
 void SettingsWindow::restore() {
-  const std::int16_t ueb_typ = settings().ueb_typ;
-  std::vector<std::string> record;
-  std::vector<std::string> state;
-  if (!context_.server.ServerRead(short_key('E', ueb_typ, kind_), record) ||
-      !context_.server.ServerRead(short_key('A', ueb_typ, kind_), state)) {
-    throw RuntimeError(RuntimeError::kHostFailure, "The saved training cannot be read",
-                       "training_Combo");
-  }
-  check_AntwSicherung(state);
-  Settings restored = read_EinstSicherung(settings(), kind_, record);
-  restored.EinstSicherung = record;
-  restored.AntwSicherung = state;
-  if (context_.check_saved_state) context_.check_saved_state(restored);
-  settings().EinstSicherung = std::move(record);
-  settings().AntwSicherung = std::move(state);
+  StoredTraining stored = read_stored_training(context_.server, settings());
+  const Settings& restored = stored.settings;
+  settings().EinstSicherung = restored.EinstSicherung;
+  settings().AntwSicherung = restored.AntwSicherung;
+  context_.saved_training = std::move(stored.training);
   set(Choice::invzahl, restored.invzahl);
   for (std::size_t slot = 0; slot < settings().EinstSicherung.size(); ++slot) {
     const Choice choice = kSlots[slot].of(kind_);
@@ -87,10 +69,11 @@ void SettingsWindow::restore_failed(std::exception_ptr error) {
   context_.errors.log("training_Combo_click.", error);
   Message message;
   message.title = kMessageTitle;
-  message.text = word(196_text) + " " + context_.tables.levels[level::continued];
+  message.text =
+      word(196_text) + " " + context_.tables.levels[static_cast<std::size_t>(Level::continued)];
   message.style = MessageStyle::warning;
   context_.dialogs.show(message, [](Reply) {});
-  training_Combo.selected = level::training;
+  training_Combo.selected = static_cast<int>(Level::training);
   training_Combo_change();
 }
 

@@ -9,16 +9,8 @@ namespace tonarix {
 
 namespace {
 
-constexpr TextKey kExerciseCaptions[] = {154_text, 160_text, 496_text, 690_text};
 constexpr TextKey kLowestTones[] = {681_text, 682_text, 683_text, 684_text};
 constexpr TextKey kHighestTones[] = {694_text, 695_text, 696_text, 697_text};
-
-std::size_t type_index(const Settings& settings) {
-  if (settings.ueb_typ < 1 || settings.ueb_typ > 4) {
-    throw RuntimeError::index_out_of_range("ueb_typ");
-  }
-  return static_cast<std::size_t>(settings.ueb_typ - 1);
-}
 
 }  // namespace
 
@@ -117,22 +109,22 @@ void SettingsWindow::slide(SliderControl& slider, int value) {
 }
 
 void SettingsWindow::start_up() {
-  caption = context_.tables.theory_kind(settings().Theoriewahl) + word(700_text) +
-            context_.tables.exercise_kind(settings().ueb_typ);
+  caption = context_.tables.theory_kind(static_cast<int>(settings().Theoriewahl)) + word(700_text) +
+            word(exercise_row(settings()).title);
   set_captions();
   cmdOptionRead.visible = cmdOptionSave.visible = settings().supervisor;
   context_.statistics.init_arr(3.0F, 42.0F);
   context_.best.init_arr(42);
   attach_midi();
   set_defaults(settings(), kind_);
-  if (settings().ueb_typ == 4) E_Oktav[3].visible = false;
+  if (settings().ueb_typ == ExerciseKind::write) E_Oktav[3].visible = false;
   fill_lists();
   set(Choice::abfrage, settings().abfrage);
   set(Choice::tongeschl, settings().tongeschl);
   set(Choice::E_Oktav, 0);
   set(Choice::ivg, settings().ivg);
-  fill_levels(saved_training_offered(context_.server, settings().ueb_typ, kind_));
-  training_Combo.selected = level::free;
+  fill_levels(saved_training_offered(context_.server, settings()));
+  training_Combo.selected = static_cast<int>(Level::free);
   training_Combo_change();
   send_sounds();
   for (int number = 1; number <= 5; ++number) {
@@ -165,7 +157,7 @@ void SettingsWindow::set_captions() {
 }
 
 std::string SettingsWindow::exercise_caption() const {
-  return word(kExerciseCaptions[type_index(settings())]);
+  return word(exercise_row(settings()).caption);
 }
 
 void SettingsWindow::set(Choice choice, std::int16_t value) {
@@ -216,15 +208,15 @@ void SettingsWindow::ivg_click(std::int16_t index) {
 
 void SettingsWindow::add_level_pairs(PairList& pairs) const {
   pairs.add("Übungsmodus", training_Combo.selected_text());
-  if (settings().Uebungsmodus == level::exam) pairs.add("Nr.:", prfnr_Comb.selected_text());
+  if (settings().Uebungsmodus == Level::exam) pairs.add("Nr.:", prfnr_Comb.selected_text());
 }
 
 void SettingsWindow::accept() {
   cmdOk.enabled = false;
   context_.ProtokollNeu();
-  if (settings().Uebungsmodus == level::test) set(Choice::abfrage, 1);
+  if (settings().Uebungsmodus == Level::test) set(Choice::abfrage, 1);
   settings().EinstDatSave = build_EinstDatSave();
-  if (settings().Uebungsmodus == level::training) {
+  if (settings().Uebungsmodus == Level::training) {
     settings().EinstSicherung = build_EinstSicherung(settings(), kind_);
   }
   cmdOk.enabled = true;

@@ -12,14 +12,15 @@
 #include "base/texts.h"
 #include "base/window.h"
 #include "config/levels.h"
-#include "config/settings.h"
-#include "config/settings_tables.h"
-#include "engine/records/records.h"
 #include "host/error_report.h"
 #include "host/server.h"
 #include "host/text_tables.h"
 #include "music/interval.h"
+#include "settings/saved_settings.h"
+#include "settings/settings.h"
+#include "settings/settings_tables.h"
 #include "sound/midi.h"
+#include "statistics/records.h"
 
 namespace tonarix {
 
@@ -38,6 +39,7 @@ struct SettingsContext {
   MidiDevices& devices;
   MidiEvent& midi_event;
   Settings& settings;
+  std::optional<SavedTraining>& saved_training;  ///< what level 2 goes on with
   Auswertung& statistics;
   Ergebnis& best;
   const TextTables& tables;
@@ -48,8 +50,6 @@ struct SettingsContext {
   std::function<void()> show_selection;
   std::function<void(const std::string& keys)> send_keys;        ///< "{F1}"
   std::function<void(const std::string& document)> put_listing;  ///< the diagnostic stream
-  /// Raises RuntimeError when the saved state does not fit the settings that go with it.
-  std::function<void(const Settings& restored)> check_saved_state;
 };
 
 /// What the three settings windows share: their levels, locks, range, marks and the way on and
@@ -73,8 +73,6 @@ class SettingsWindow : public Window {
 
   /// The saved training is used up: level 2 is off, level 1 chosen.
   void training_finished();
-  /// The saved training could not be gone on with after all: level 1, all frames open.
-  void training_refused();
   /// The training can be gone on with: the list gets its five captions and the level in force.
   void training_saved();
   /// The exercise has closed.

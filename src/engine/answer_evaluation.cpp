@@ -37,7 +37,7 @@ void ExerciseWindow::right_answer(std::int16_t code) {
   field.accessible_name = nriv[iv_nr_].text + ": " + field.text + ", " + Wort(1123_text);
   count(zaehler[0]);
   context_.protocol.ProtokollProperty("Antwort", "true");
-  if (box_.rf.at(place) == 0.0F && settings().Uebungsmodus > 0) {
+  if (box_.rf.at(place) == 0.0F && settings().Uebungsmodus != Level::free) {
     box_.zeit_gewicht.at(place) = ZeitStrafe(AntwDau_, zeit_grenze_);
     box_.rf.at(place) = kRightAtOnce;
   }
@@ -109,7 +109,7 @@ void ExerciseWindow::open_answer() {
 void ExerciseWindow::finish_row() {
   ++tasks_done_;
   zustand_ = Zustand::row_done;
-  if (settings().Uebungsmodus > 0) {
+  if (settings().Uebungsmodus != Level::free) {
     const BoxOutcome outcome = box_.BoxAuswerten(context_.row, iv_nr_);
     if (training()) {
       zustand_ = static_cast<Zustand>(outcome.zustand);

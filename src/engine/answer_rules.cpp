@@ -16,11 +16,11 @@ float answer_tenths(double seconds) {
   return static_cast<float>(Int(seconds * 10 + 0.5));
 }
 
-std::int16_t signed_wrong_answer(const Key& key, std::int16_t abfr_iv, std::int16_t ton_st_wahl,
+std::int16_t signed_wrong_answer(const Key& key, Naming abfr_iv, std::int16_t ton_st_wahl,
                                  std::int16_t stufe_wahl, std::int16_t code, std::int16_t asked) {
   const std::int16_t asked_direction = Sgn(asked);
   const std::int16_t plain = to_int16(code * asked_direction);
-  if (ton_st_wahl != 1 || abfr_iv != 1) return plain;
+  if (ton_st_wahl != 1 || abfr_iv != Naming::from_tone_before) return plain;
 
   std::int16_t other_direction = 0;
   const int degree_qz = key.basis[static_cast<std::size_t>(stufe_wahl)].qz;

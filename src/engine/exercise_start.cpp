@@ -1,5 +1,6 @@
 #include "engine/answer_rules.h"
 #include "engine/exercise_window.h"
+#include "settings/exercises.h"
 
 namespace tonarix {
 
@@ -19,14 +20,11 @@ void ExerciseWindow::start_timer() {
     set_answers_enabled(false);
     prepared_ = true;
   });
-  if (!prepared_) return;
-  if (!resume_refused_) return run("mat_wahl.", mat_wahl());
-  tell(Wort(196_text) + " " + Wort(565_text), [this] { run("mat_wahl.", mat_wahl()); });
+  if (prepared_) run("mat_wahl.", mat_wahl());
 }
 
 void ExerciseWindow::name_window() {
-  static constexpr std::array<TextKey, 4> kTitles{291_text, 292_text, 293_text, 715_text};
-  caption = Wort(kTitles.at(static_cast<std::size_t>(settings().ueb_typ - 1)));
+  caption = Wort(exercise_row(settings()).title);
 }
 
 void ExerciseWindow::clear_statistics() {
@@ -80,11 +78,11 @@ void ExerciseWindow::prepare_timers() {
 
 void ExerciseWindow::prepare_level() {
   build_scale(context_.key, settings().tongeschl, settings().abfr_iv);
-  if (settings().Uebungsmodus > 0) {
+  if (settings().Uebungsmodus != Level::free) {
     box_.BoxAufbau(
         {to_int16(spieltimer_.interval()), to_int16(WahlAutomat_.interval()), zeit_grenze_});
   }
-  if (settings().Uebungsmodus == 2) resume_training();
+  if (settings().Uebungsmodus == Level::continued) resume_training();
   material_.begin();
 
   ergebnis_anz[0].visible = training();
@@ -99,17 +97,10 @@ void ExerciseWindow::prepare_level() {
 }
 
 void ExerciseWindow::resume_training() {
-  resume_refused_ = true;
-  if (context_.server.ServerRead(record_key('A'), context_.settings.AntwSicherung)) {
-    const auto read = from_record(context_.settings.AntwSicherung, settings(), key());
-    if (const auto* saved = std::get_if<SavedTraining>(&read)) {
-      resume(*saved, settings(), box_, context_.statistics);
-      zaehler[1].text = std::to_string(saved->zaehler);
-      whlgzaehler.text = std::to_string(saved->whlgzaehler);
-      resume_refused_ = false;
-    }
-  }
-  if (resume_refused_) context_.caller.training_refused();
+  const SavedTraining& saved = context_.saved_training.value();
+  resume(saved, settings(), box_, context_.statistics);
+  zaehler[1].text = std::to_string(saved.zaehler);
+  whlgzaehler.text = std::to_string(saved.whlgzaehler);
 }
 
 }  // namespace tonarix

@@ -76,8 +76,9 @@ void ExerciseWindow::name_next_task() {
 }
 
 void ExerciseWindow::give_first_interval() {
-  const std::int16_t code = settings().abfr_iv == 0 ? to_int16(settings().stufe_wahl + 1)
-                                                    : to_int16(std::abs(context_.row.iv[0]));
+  const std::int16_t code = settings().abfr_iv == Naming::from_keynote
+                                ? to_int16(settings().stufe_wahl + 1)
+                                : to_int16(std::abs(context_.row.iv[0]));
   ergebnis[0].text = answer_text(code);
   ergebnis[0].accessible_name = nriv[0].text + ": " + ergebnis[0].text;
   ergebnis[0].back = signal::right;
@@ -91,7 +92,6 @@ void ExerciseWindow::open_lesson() {
       context_.key, context_.tone_names, context_.interval_names);
   LessonFacts facts;
   facts.interval = to_int16(lesson_nr_);
-  facts.ueb_typ = settings().ueb_typ;
   facts.iv_nr = iv_nr_;
   for (const AnalysedTone& tone : analysis.tones) facts.qz_tones.push_back(tone.qz);
   for (const AnalysedInterval& interval : analysis.intervals) {

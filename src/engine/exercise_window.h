@@ -14,16 +14,16 @@
 #include "engine/exercise_controls.h"
 #include "engine/material/frequency_box.h"
 #include "engine/material/material.h"
-#include "engine/material/saved_training.h"
+#include "engine/material/training_state.h"
 #include "engine/playback.h"
-#include "engine/records/records.h"
 #include "host/error_report.h"
 #include "host/server.h"
 #include "music/analysis.h"
 #include "music/interval.h"
 #include "music/tones.h"
-#include "results/protocol/protokoll.h"
+#include "protocol/protokoll.h"
 #include "sound/midi.h"
+#include "statistics/records.h"
 
 namespace tonarix {
 
@@ -40,6 +40,7 @@ struct ExerciseContext {
   Midi& midi;
   MidiEvent& midi_event;
   Settings& settings;
+  std::optional<SavedTraining>& saved_training;  ///< what level 2 goes on with
   Key& key;
   TaskRow& row;
   Auswertung& statistics;
@@ -177,11 +178,11 @@ class ExerciseWindow : public Window, public ExerciseControls {
   std::string record_key(char record) const;
 
   double now() const { return seconds(context_.scheduler.now()); }
-  bool training() const { return settings().Uebungsmodus == 1 || settings().Uebungsmodus == 2; }
+  bool training() const { return is_training(settings().Uebungsmodus); }
   bool over() const {
     return zustand_ == Zustand::training_finished || zustand_ == Zustand::test_finished;
   }
-  bool test() const { return settings().Uebungsmodus > 2; }
+  bool test() const { return is_test(settings().Uebungsmodus); }
 
   ExerciseContext context_;
   FrequencyBox box_;
@@ -202,7 +203,6 @@ class ExerciseWindow : public Window, public ExerciseControls {
   Exit exit_ = Exit::ok;
   bool leaving_ = false;
   bool prepared_ = false;
-  bool resume_refused_ = false;  ///< the saved training did not fit
   bool result_closed_ = false;
   bool result_stood_ = false;  ///< the sheet has stood long enough
   std::int16_t iv_nr_ = 0;

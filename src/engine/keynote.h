@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "base/chance.h"
-#include "config/settings.h"
 #include "music/key.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 

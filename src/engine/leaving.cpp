@@ -1,5 +1,6 @@
 #include "base/arithmetic.h"
 #include "engine/exercise_window.h"
+#include "settings/exercises.h"
 
 namespace tonarix {
 
@@ -26,7 +27,7 @@ void ExerciseWindow::stop_all() {
 }
 
 std::string ExerciseWindow::record_key(char record) const {
-  return short_key(record, settings().ueb_typ, context_.caller.kind());
+  return tonarix::record_key(record, settings());
 }
 
 void ExerciseWindow::zurueck_click() {
@@ -74,12 +75,13 @@ bool ExerciseWindow::save_training() {
   bool had_former = false;
   try {
     had_former = context_.server.ServerRead(record_key('E'), former);
-    context_.settings.AntwSicherung = to_record(
+    const SavedTraining training =
         training_state(box_, settings(), context_.statistics, to_int16(std::stoi(zaehler[1].text)),
-                       to_int16(std::stoi(whlgzaehler.text))),
-        settings());
+                       to_int16(std::stoi(whlgzaehler.text)));
+    context_.settings.AntwSicherung = to_record(training, settings());
     context_.server.ServerStore(record_key('E'), Variant::strings(settings().EinstSicherung));
     context_.server.ServerStore(record_key('A'), Variant::strings(settings().AntwSicherung));
+    context_.saved_training = training;
     context_.caller.training_saved();
     return true;
   } catch (const std::exception&) {

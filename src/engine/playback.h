@@ -5,9 +5,9 @@
 
 #include "base/delay.h"
 #include "base/sequence.h"
-#include "config/settings.h"
 #include "engine/keynote.h"
 #include "music/key.h"
+#include "settings/settings.h"
 #include "sound/midi.h"
 
 namespace tonarix {

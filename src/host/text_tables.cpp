@@ -9,7 +9,6 @@ namespace tonarix {
 namespace {
 
 constexpr std::array kTheoryKinds{287_text, 221_text, 224_text};
-constexpr std::array kExerciseKinds{291_text, 292_text, 293_text, 715_text};
 constexpr std::array kLevels{136_text, 564_text, 565_text, 550_text, 438_text};
 constexpr std::array kAccuracies{478_text, 424_text, 400_text, 319_text, 476_text};
 constexpr std::array kStufeKurz{437_text, 433_text, 446_text, 439_text,
@@ -26,7 +25,6 @@ std::array<std::string, Size> words(const Texts& texts, const std::array<TextKey
 
 void TextTables::load(const Texts& texts) {
   theory_kinds = words(texts, kTheoryKinds);
-  exercise_kinds = words(texts, kExerciseKinds);
   levels = words(texts, kLevels);
   accuracies = words(texts, kAccuracies);
   stufe_kurz = words(texts, kStufeKurz);
@@ -35,11 +33,6 @@ void TextTables::load(const Texts& texts) {
 const std::string& TextTables::theory_kind(int Theoriewahl) const {
   if (Theoriewahl < 0 || Theoriewahl > 1) throw RuntimeError::index_out_of_range("theory_kind");
   return theory_kinds[static_cast<std::size_t>(Theoriewahl + 1)];
-}
-
-const std::string& TextTables::exercise_kind(int ueb_typ) const {
-  if (ueb_typ < 1 || ueb_typ > 4) throw RuntimeError::index_out_of_range("exercise_kind");
-  return exercise_kinds[static_cast<std::size_t>(ueb_typ - 1)];
 }
 
 }  // namespace tonarix

@@ -13,13 +13,15 @@ constexpr std::array<std::int16_t, 3> kDirectCodes{13, 17, 19};
 
 }  // namespace
 
-void build_scale(Key& key, std::int16_t tongeschl, std::int16_t abfr_iv) {
+void build_scale(Key& key, std::int16_t tongeschl, Naming abfr_iv) {
   const std::span<const Degree> scale = degrees(tongeschl);
   key.basis.fill({});
   std::transform(scale.begin(), scale.end(), key.basis.begin(),
                  [](const Degree& degree) { return degree.tone; });
   key.anz_stufen = static_cast<std::int16_t>(scale.size() - 1);
-  key.iv_anzahl = abfr_iv == 0 ? key.anz_stufen : kDirectCodes[static_cast<std::size_t>(tongeschl)];
+  key.iv_anzahl = abfr_iv == Naming::from_keynote
+                      ? key.anz_stufen
+                      : kDirectCodes[static_cast<std::size_t>(tongeschl)];
   key.skala = key.basis;
   move_to_key(key, 0);
 }

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/chance.h"
+#include "music/naming.h"
 #include "music/tone.h"
 #include "music/tones.h"
 
@@ -22,9 +23,10 @@ struct Key {
 };
 
 /// Fills the C-based table for Dur (0), moll (1) or Dur-moll (2), copies it to `skala`, and sets
-/// `anz_stufen` and `iv_anzahl`: as many codes as degrees when `abfr_iv` is 0; 13, 17 or 19 when it
-/// is 1. The key stands on C until one is chosen. RuntimeError 9 for any other `tongeschl`.
-void build_scale(Key& key, std::int16_t tongeschl, std::int16_t abfr_iv);
+/// `anz_stufen` and `iv_anzahl`: as many codes as degrees when named from the keynote; 13, 17 or 19
+/// from the tone before. The key stands on C until one is chosen. RuntimeError 9 for any other
+/// `tongeschl`.
+void build_scale(Key& key, std::int16_t tongeschl, Naming abfr_iv);
 
 /// Draws a key that is never the one on C and moves `skala` there: one sign, then a distance, which
 /// in moll is drawn again when it leads to C. Six fifths to either side of C, in moll of A minor.

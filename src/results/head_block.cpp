@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
-#include <span>
 #include <string_view>
 
-#include "base/runtime_error.h"
+#include "settings/exercises.h"
 
 namespace tonarix {
 
@@ -14,8 +13,6 @@ namespace {
 using namespace std::string_literals;
 
 constexpr std::array<TextKey, 2> kStudies{724_text, 725_text};
-constexpr std::array<TextKey, 4> kExerciseCaptions{154_text, 160_text, 496_text, 690_text};
-constexpr std::array<TextKey, 4> kExerciseNames{291_text, 292_text, 293_text, 715_text};
 
 /// The labels of the settings as the protocol has them, and the words a student reads instead.
 struct SettingLabel {
@@ -35,13 +32,6 @@ std::string shown_label(const std::string& label, const Texts& texts) {
   const auto* found = std::find_if(kSettingLabels.begin(), kSettingLabels.end(),
                                    [&](const SettingLabel& row) { return row.label == label; });
   return found == kSettingLabels.end() ? label : texts.Wort(found->word);
-}
-
-TextKey key_at(std::span<const TextKey> keys, int index) {
-  if (index < 0 || index >= static_cast<int>(keys.size())) {
-    throw RuntimeError::index_out_of_range("head_block");
-  }
-  return keys[static_cast<std::size_t>(index)];
 }
 
 /// Line ends and other control characters become blanks, so that a strange name stays on its line.
@@ -83,8 +73,7 @@ std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& sett
                 facts.user_known);
   };
   return {line(texts.Wort(189_text) + colon, date_and_time(facts.now)),
-          line(texts.Wort(586_text) + colon,
-               texts.Wort(key_at(kExerciseCaptions, settings.ueb_typ - 1))),
+          line(texts.Wort(586_text) + colon, texts.Wort(exercise_row(settings).caption)),
           line(texts.Wort(109_text) + colon, facts.computer_user),
           personal(texts.Wort(1235_text), 0),
           personal(texts.Wort(1236_text), 1),
@@ -92,8 +81,8 @@ std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& sett
 }
 
 std::string head_title(const Settings& settings, const Texts& texts) {
-  return texts.Wort(key_at(kStudies, settings.Theoriewahl)) + texts.Wort(700_text) +
-         texts.Wort(key_at(kExerciseNames, settings.ueb_typ - 1));
+  return texts.Wort(kStudies.at(static_cast<std::size_t>(settings.Theoriewahl))) +
+         texts.Wort(700_text) + texts.Wort(exercise_row(settings).title);
 }
 
 std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs, const Texts& texts) {

@@ -6,7 +6,7 @@
 
 #include "base/texts.h"
 #include "base/wall_clock.h"
-#include "config/settings.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 
@@ -30,7 +30,7 @@ struct HeadFacts {
 std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& settings,
                                     const Texts& texts);
 
-/// "Gehörbildung: tonale Intervalle (sukzessiv) bestimmen"
+/// "Gehörbildung: tonale Intervalle (sukzessiv) bestimmen"; RuntimeError 9 without an exercise.
 std::string head_title(const Settings& settings, const Texts& texts);
 
 /// The pairs of EinstDatSave as lines "Tempo: " and "40 (Largo)". Pairs without a value are left

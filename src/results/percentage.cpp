@@ -17,10 +17,6 @@ double decimal(float value) {
   return std::round(static_cast<double>(value) * 1000.0) / 1000.0;
 }
 
-bool is_training(std::int16_t Uebungsmodus) {
-  return Uebungsmodus == 1 || Uebungsmodus == 2;
-}
-
 /// What few wrong entries take off: -6, -4, -2, then nothing.
 double penalty(double wrong_entries) {
   return std::min(0.0, Int(wrong_entries - 8.0));
@@ -37,7 +33,7 @@ constexpr double kGrain = 1e-9;  // below any difference that two results can ha
 
 }  // namespace
 
-std::optional<double> interval_fraction(const RowStatistics& row, std::int16_t Uebungsmodus) {
+std::optional<double> interval_fraction(const RowStatistics& row, Level Uebungsmodus) {
   const double c0 = decimal(row.c0), c1 = decimal(row.c1), c2 = decimal(row.c2);
   const double f = c2 > 0 ? 1.0 : 0.0;
   const double p = c2 > 0 ? penalty(2.0 * c2) : 0.0;
@@ -45,12 +41,12 @@ std::optional<double> interval_fraction(const RowStatistics& row, std::int16_t U
     if (c0 <= 0 && c2 <= 0) return std::nullopt;
     return quotient(c1 + p, Int((c0 + f) * -16.0));
   }
-  if (Uebungsmodus <= 2 || !row.asked) return std::nullopt;
+  if (!is_test(Uebungsmodus) || !row.asked) return std::nullopt;
   return quotient(c0 + c1 + p, f > 0 ? -48.0 : -32.0);
 }
 
 std::optional<double> degree_fraction(const RowStatistics& rising, const RowStatistics& falling,
-                                      std::int16_t Uebungsmodus) {
+                                      Level Uebungsmodus) {
   const double c0 = decimal(rising.c0) + decimal(falling.c0);
   const double c1 = decimal(rising.c1) + decimal(falling.c1);
   const double c2 = decimal(rising.c2), c2_falling = decimal(falling.c2);
@@ -61,7 +57,7 @@ std::optional<double> degree_fraction(const RowStatistics& rising, const RowStat
     if (rising.c0 <= 0 && falling.c0 <= 0 && !wrong) return std::nullopt;
     return quotient(c1 + p, Int((c0 + f) * -16.0));
   }
-  if (Uebungsmodus <= 2 || !(rising.asked || falling.asked)) return std::nullopt;
+  if (!is_test(Uebungsmodus) || !(rising.asked || falling.asked)) return std::nullopt;
   return quotient(c0 + c1 + p, wrong ? -96.0 : -64.0);
 }
 

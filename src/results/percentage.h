@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/colour.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 
@@ -18,12 +19,12 @@ struct RowStatistics {
 
 /// Share of right answers in one interval as a fraction, 1 for 100 %; above 1 where quick answers
 /// earned more than is reckoned with. Nothing when it never came up: at the training levels
-/// (`Uebungsmodus` 1 and 2) without an answer, in a test when it was not asked. Level 0 has none.
-std::optional<double> interval_fraction(const RowStatistics& row, std::int16_t Uebungsmodus);
+/// without an answer, in a test when it was not asked. Level 0 has none.
+std::optional<double> interval_fraction(const RowStatistics& row, Level Uebungsmodus);
 
 /// The same for a degree over both its directions. A wrong entry weighs twice in the second.
 std::optional<double> degree_fraction(const RowStatistics& rising, const RowStatistics& falling,
-                                      std::int16_t Uebungsmodus);
+                                      Level Uebungsmodus);
 
 /// "72.5": the fraction in per cent with one decimal and a decimal point, halves away from zero,
 /// never "-0.0".

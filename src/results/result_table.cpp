@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/arithmetic.h"
 #include "music/degrees.h"
 #include "results/percentage.h"
 
@@ -12,12 +13,10 @@ namespace {
 // The order within a column: by size of the interval, the prime last.
 constexpr std::array<std::int16_t, 19> kIntervalOrder{11, 4,  18, 21, 7,  8,  17, 3,  12, 13,
                                                       2,  16, 9,  6,  20, 19, 5,  10, 1};
-constexpr std::int16_t kCodes = 21;           // statistic rows of one direction
-constexpr std::int16_t kDegreesPerSide = 11;  // the same when naming from the keynote
 constexpr int kFirstTop = 21;
 constexpr int kRowStep = 22;
 
-RowStatistics statistics_of(const Auswertung& statistics, std::int16_t row) {
+RowStatistics statistics_of(const Auswertung& statistics, StatisticRow row) {
   RowStatistics values;
   statistics.read(row, 0, values.c0);
   statistics.read(row, 1, values.c1);
@@ -26,10 +25,10 @@ RowStatistics statistics_of(const Auswertung& statistics, std::int16_t row) {
   return values;
 }
 
-ResultField field_of(std::optional<double> fraction, std::int16_t Uebungsmodus) {
+ResultField field_of(std::optional<double> fraction, Level Uebungsmodus) {
   if (fraction) return {fraction, percent_number(*fraction) + "%", scale_colour(*fraction)};
   ResultField empty;
-  if (Uebungsmodus > 2) empty.back = scale::under_20;
+  if (is_test(Uebungsmodus)) empty.back = scale::under_20;
   return empty;
 }
 
@@ -52,8 +51,8 @@ std::vector<ResultRow> degree_rows(const Settings& settings, const Auswertung& s
   std::vector<ResultRow> rows;
   for (std::int16_t number = 1; number < static_cast<std::int16_t>(scale.size()); ++number) {
     const auto fraction = degree_fraction(
-        statistics_of(statistics, number),
-        statistics_of(statistics, static_cast<std::int16_t>(number + kDegreesPerSide)),
+        statistics_of(statistics, statistic_row(number, Naming::from_keynote)),
+        statistics_of(statistics, statistic_row(to_int16(-number), Naming::from_keynote)),
         settings.Uebungsmodus);
     const int row = number - 1;
     rows.push_back({number, degree_caption(settings.tongeschl, row, names, texts),
@@ -71,13 +70,14 @@ std::vector<ResultRow> interval_rows(const Settings& settings, const Auswertung&
     int place = -1;
     for (const std::int16_t code : kIntervalOrder) {
       ++place;
-      const auto row = static_cast<std::int16_t>(code + kCodes * column);
+      const std::int16_t value = to_int16(column == 0 ? code : -code);
+      const StatisticRow row = statistic_row(value, Naming::from_tone_before);
       float occurrences = 0;
       statistics.read(row, 3, occurrences);
       if (!(occurrences > 0)) continue;
       const auto fraction =
           interval_fraction(statistics_of(statistics, row), settings.Uebungsmodus);
-      rows.push_back({row, names.long_name(code), names.short_name(code),
+      rows.push_back({static_cast<std::int16_t>(row), names.long_name(code), names.short_name(code),
                       field_of(fraction, settings.Uebungsmodus), column, place, top});
       top += kRowStep;
     }
@@ -90,8 +90,8 @@ std::vector<ResultRow> interval_rows(const Settings& settings, const Auswertung&
 ResultTable result_table(const Settings& settings, const Auswertung& statistics,
                          const IntervalNames& names, const Texts& texts) {
   ResultTable table;
-  table.by_interval = settings.abfr_iv == 1;
-  if (settings.Uebungsmodus > 0) {
+  table.by_interval = settings.abfr_iv == Naming::from_tone_before;
+  if (settings.Uebungsmodus != Level::free) {
     table.rows = table.by_interval ? interval_rows(settings, statistics, names)
                                    : degree_rows(settings, statistics, names, texts);
   }

@@ -6,9 +6,9 @@
 
 #include "base/colour.h"
 #include "base/texts.h"
-#include "config/settings.h"
-#include "engine/records/records.h"
 #include "music/interval.h"
+#include "settings/settings.h"
+#include "statistics/records.h"
 
 namespace tonarix {
 

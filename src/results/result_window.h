@@ -9,14 +9,14 @@
 #include "base/texts.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
-#include "config/settings.h"
-#include "engine/records/records.h"
 #include "host/error_report.h"
 #include "host/server.h"
 #include "music/interval.h"
 #include "results/chart.h"
 #include "results/sheet_picture.h"
 #include "results/sheet_printer.h"
+#include "settings/settings.h"
+#include "statistics/records.h"
 
 namespace tonarix {
 

@@ -56,7 +56,7 @@ TEST(Einstellung1, WideIntervalsAndRangesHoldEachOther) {
 }
 
 TEST(Einstellung1, TheStaffHasAnOctaveLess) {
-  SettingsBed bed(4);
+  SettingsBed bed(ExerciseKind::write);
   Einstellung1& window = bed.open();
   EXPECT_FALSE(window.E_Oktav[3].visible);
   window.click(window.E_Oktav[2]);
@@ -143,7 +143,7 @@ TEST(Einstellung1, AcceptsAndOpensTheExercise) {
 
 TEST(Einstellung1, GoesBackWhenItOrTheExerciseCannotStart) {
   for (const bool exercise : {false, true}) {
-    SettingsBed bed(exercise ? 1 : 7);
+    SettingsBed bed(exercise ? ExerciseKind::determine : ExerciseKind{7});
     bed.exercise_fails = true;
     Einstellung1& window = bed.open();
     if (exercise) window.click(window.cmdOk);

@@ -16,7 +16,7 @@ namespace tonarix {
 
 /// One settings window with all that it needs, on virtual time.
 struct SettingsBed {
-  explicit SettingsBed(std::int16_t ueb_typ = 1) {
+  explicit SettingsBed(ExerciseKind ueb_typ = ExerciseKind::determine) {
     server.ServerInit("vemo06");
     tables.load(texts);
     settings.ueb_typ = ueb_typ;
@@ -45,6 +45,7 @@ struct SettingsBed {
             .devices = devices,
             .midi_event = midi_event,
             .settings = settings,
+            .saved_training = saved_training,
             .statistics = statistics,
             .best = best,
             .tables = tables,
@@ -57,8 +58,7 @@ struct SettingsBed {
                 },
             .show_selection = [this] { steps.push_back("selection"); },
             .send_keys = [this](const std::string& keys) { steps.push_back(keys); },
-            .put_listing = [this](const std::string& document) { listing = document; },
-            .check_saved_state = check_saved_state};
+            .put_listing = [this](const std::string& document) { listing = document; }};
   }
 
   VirtualScheduler scheduler;
@@ -72,11 +72,11 @@ struct SettingsBed {
   RecordingDevices devices{scheduler};
   MidiEvent midi_event;
   Settings settings;
+  std::optional<SavedTraining> saved_training;
   Auswertung statistics;
   Ergebnis best;
   TextTables tables;
   IntervalNames interval_names{texts};
-  std::function<void(const Settings&)> check_saved_state;
   std::vector<std::string> steps;
   std::string listing;
   bool exercise_fails = false;

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "engine/material/offered_intervals.h"
+#include "settings/offered_intervals.h"
 
 namespace tonarix {
 namespace {
@@ -28,13 +28,15 @@ TEST(ZeitStrafe, IsFreeUpToTheLimitAndThenOneAndATenthPerTwoTenths) {
 TEST(WrongAnswer, HasTheDirectionAskedAndBesideAChosenDegreeIsAMemberOfTheBox) {
   for (std::int16_t tongeschl = 0; tongeschl <= 2; ++tongeschl) {
     Key key;
-    build_scale(key, tongeschl, 1);
-    EXPECT_EQ(signed_wrong_answer(key, 1, 0, 0, 5, -8), -5) << "no degree: the direction asked";
-    EXPECT_EQ(signed_wrong_answer(key, 0, 1, 2, 4, 3), 4);
+    build_scale(key, tongeschl, Naming::from_tone_before);
+    EXPECT_EQ(signed_wrong_answer(key, Naming::from_tone_before, 0, 0, 5, -8), -5)
+        << "no degree: the direction asked";
+    EXPECT_EQ(signed_wrong_answer(key, Naming::from_keynote, 1, 2, 4, 3), 4);
     for (std::int16_t degree = 0; degree < key.anz_stufen; ++degree) {
       Settings settings;
       settings.tongeschl = tongeschl;
-      settings.abfr_iv = settings.ton_st_wahl = 1;
+      settings.abfr_iv = Naming::from_tone_before;
+      settings.ton_st_wahl = 1;
       settings.stufe_wahl = degree;
       const IntervalList offered = offered_intervals(settings, key);
       const auto members = offered.values();
@@ -44,7 +46,8 @@ TEST(WrongAnswer, HasTheDirectionAskedAndBesideAChosenDegreeIsAMemberOfTheBox) {
       for (const std::int16_t asked : members) {
         for (const std::int16_t member : members) {
           const auto code = static_cast<std::int16_t>(std::abs(member));
-          const std::int16_t stored = signed_wrong_answer(key, 1, 1, degree, code, asked);
+          const std::int16_t stored =
+              signed_wrong_answer(key, Naming::from_tone_before, 1, degree, code, asked);
           EXPECT_EQ(std::abs(stored), code);
           EXPECT_TRUE(contains(stored)) << tongeschl << ' ' << degree << ' ' << stored;
           const int in_direction = asked > 0 ? code : -code;

@@ -10,7 +10,7 @@ namespace {
 struct KeynoteTest : testing::Test {
   void use(std::int16_t tongeschl, int qz_transpos) {
     settings.tongeschl = tongeschl;
-    build_scale(key, tongeschl, 0);
+    build_scale(key, tongeschl, Naming::from_keynote);
     move_to_key(key, static_cast<std::int16_t>(qz_transpos));
   }
   KeynoteChord chord(Tone answered = {}) {

@@ -108,7 +108,8 @@ class FlowBed {
   std::int16_t wrong_code(Arbeitsblatt1& window, int iv_nr) const {
     for (int code = 1; code <= 21; ++code) {
       const Control* button = window.find(
-          (module.settings().abfr_iv == 0 ? "st_int_" : "intervall_") + std::to_string(code));
+          (module.settings().abfr_iv == Naming::from_keynote ? "st_int_" : "intervall_") +
+          std::to_string(code));
       if (button != nullptr && button->open() && code != right_code(iv_nr)) {
         return static_cast<std::int16_t>(code);
       }
@@ -116,7 +117,7 @@ class FlowBed {
     return 0;
   }
   void press(Arbeitsblatt1& window, std::int16_t code) {
-    if (module.settings().abfr_iv == 0) {
+    if (module.settings().abfr_iv == Naming::from_keynote) {
       window.st_int_click(code);
     } else {
       window.intervall_click(code);

@@ -155,10 +155,12 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
   for (int key = 1; key < 2000; ++key) bed.texts.given[key] = german.language.Wort({key});
   std::string told;
   const auto tell = [&told](const auto& texts) {
-    for (const std::string& text : texts) told += text + "|";
+    for (const std::string& one : texts) told += one + "|";
   };
   tell(german.tables.theory_kinds);
-  tell(german.tables.exercise_kinds);
+  for (const ExerciseRow& row : kExercises) {
+    if (row.sounds()) tell(std::array{german.language.Wort(row.title)});
+  }
   tell(german.tables.levels);
   tell(german.tables.accuracies);
   for (const Control* control : bed.open().controls()) {

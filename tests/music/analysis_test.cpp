@@ -12,7 +12,7 @@ namespace {
 
 struct Analysis : testing::Test {
   Analysis() {
-    build_scale(key, 0, 1);
+    build_scale(key, 0, Naming::from_tone_before);
     move_to_key(key, 2);  // D major
   }
   RowAnalysis analyse(std::span<const Tone> row) const {

@@ -42,7 +42,7 @@ TEST(Key, EveryKeyThatCanBeDrawnHoldsItsScale) {
     for (const int sign : {-1, 1}) {
       for (int number = 0; number < numbers; ++number) {
         Key key;
-        build_scale(key, tongeschl, 0);
+        build_scale(key, tongeschl, Naming::from_keynote);
         ScriptedChance chance;
         chance.add_sign(sign);
         chance.add_draw(number, numbers);
@@ -63,11 +63,11 @@ TEST(Key, BuiltOnCWithTheCodesThatAreAsked) {
   Key key;
   for (const std::int16_t tongeschl : {2, 1, 0}) {
     move_to_key(key, 5);
-    build_scale(key, tongeschl, 0);
+    build_scale(key, tongeschl, Naming::from_keynote);
     EXPECT_EQ(key.iv_anzahl, key.anz_stufen);
     EXPECT_EQ(key.skala, key.basis);
     EXPECT_EQ(key.qz_transpos, 0);
-    build_scale(key, tongeschl, 1);
+    build_scale(key, tongeschl, Naming::from_tone_before);
     // The greatest code between two tones of the scale is the last that is asked.
     int greatest = 0;
     for (const Degree& one : degrees(tongeschl)) {
@@ -78,7 +78,7 @@ TEST(Key, BuiltOnCWithTheCodesThatAreAsked) {
     EXPECT_EQ(greatest, asked_code(key.iv_anzahl));
   }
   EXPECT_EQ(asked_code(14), 16) << "no augmented prime, no diminished octave";
-  EXPECT_THROW(build_scale(key, 3, 0), RuntimeError);
+  EXPECT_THROW(build_scale(key, 3, Naming::from_keynote), RuntimeError);
 }
 
 TEST(Degrees, TakeTheTonesOfTheirModeAndCountTheSteps) {

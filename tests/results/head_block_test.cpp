@@ -32,7 +32,7 @@ TEST(HeadBlock, NamesAKnownUserOnLinesOfTheirOwn) {
                           " [1235] Lovelace", " [1236] <b>Ada</b>  &amp;\u202Eעדה", " [1237] "));
   EXPECT_EQ(shown(head_lines({now, "praxis-3", {"x"}, false}, settings, texts)).size(), 3U);
   Settings wrong;
-  wrong.ueb_typ = 5;
+  wrong.ueb_typ = ExerciseKind{5};
   EXPECT_THROW(head_title(wrong, texts), RuntimeError);
 }
 

@@ -42,11 +42,12 @@ const Example kExamples[] = {
 };
 
 TEST(Fractions, WorkedExamples) {
-  for (const auto& [level, row, percent, falling] : kExamples) {
+  for (const auto& [number, row, percent, falling] : kExamples) {
+    const Level level{number};
     const auto fraction =
         falling ? degree_fraction(row, *falling, level) : interval_fraction(row, level);
     EXPECT_EQ(fraction ? percent_number(*fraction) : "", percent)
-        << "level " << level << ": " << row.c0 << ", " << row.c1 << ", " << row.c2;
+        << "level " << number << ": " << row.c0 << ", " << row.c1 << ", " << row.c2;
   }
 }
 
@@ -65,7 +66,7 @@ TEST(ScaleColour, EachStepBeginsAtItsExactFraction) {
 TEST(Fractions, SumsOfTenthsKeptInThirtyTwoBitsFallOnTheRightSide) {
   float sum = 0;
   for (int answer = 0; answer < 32; ++answer) sum += -3.2F;
-  const double fraction = interval_fraction({32, sum, 0}, 1).value();
+  const double fraction = interval_fraction({32, sum, 0}, Level::training).value();
   EXPECT_NE(static_cast<double>(sum), -102.4) << "the sum is not exact";
   EXPECT_EQ(scale_colour(fraction), scale::under_40);
   EXPECT_EQ(percent_number(fraction), "20.0");
@@ -77,7 +78,7 @@ TEST(Fractions, AnyStatisticsGiveANumberOrNothing) {
       0, -1, 16384, -1e30F, Limits::max(), Limits::infinity(), Limits::quiet_NaN()};
   for (int i = 0; i < 7 * 7 * 7 * 5; ++i) {
     const RowStatistics row{hard[i % 7], hard[i / 7 % 7], hard[i / 49 % 7], true};
-    const auto level = static_cast<std::int16_t>(i / 343);
+    const auto level = static_cast<Level>(i / 343);
     for (const auto& fraction :
          {interval_fraction(row, level), degree_fraction(row, {1, 1, 1, true}, level)}) {
       EXPECT_TRUE(!fraction || std::isfinite(*fraction));
@@ -90,11 +91,11 @@ TEST(Fractions, ABetterAnswerNeverLowersThePercentage) {
   std::mt19937 generator(7);
   std::uniform_int_distribution<int> tenths(-160, 0), count(0, 12), levels(1, 4);
   for (int round = 0; round < 20000; ++round) {
-    const auto level = static_cast<std::int16_t>(levels(generator));
+    const auto level = static_cast<Level>(levels(generator));
     const float worse = static_cast<float>(tenths(generator)) / 10.0F;
     const auto answers = static_cast<float>(count(generator) + 1);
     const auto wrong = static_cast<float>(count(generator));
-    const RowStatistics low{level > 2 ? worse : answers, worse, wrong, true};
+    const RowStatistics low{is_test(level) ? worse : answers, worse, wrong, true};
     const RowStatistics high{low.c0, worse - 1.0F, wrong, true};
     EXPECT_GT(*interval_fraction(high, level), *interval_fraction(low, level));
     EXPECT_GT(*degree_fraction(high, low, level), *degree_fraction(low, low, level));

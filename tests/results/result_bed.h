@@ -21,14 +21,14 @@ struct ResultBed {
   ResultBed() {
     server.ServerInit("vemo06");
     host.answers["LOGIN"] = Variant::Array{"Lovelace", "Ada", "4711"};
-    settings.Uebungsmodus = 1;
-    settings.abfr_iv = 1;
+    settings.Uebungsmodus = Level::training;
+    settings.abfr_iv = Naming::from_tone_before;
     settings.EinstDatSave = {"4", "Übungsmodus", "Training", "Tempo", "40 (Largo)"};
     statistics.init_arr(3, 42);
-    for (const std::int16_t row : {4, 25, 11}) statistics.Increment(row, 3);
-    statistics.Save(4, 0, 1);
-    statistics.Save(4, 1, -16);
-    statistics.Save(25, 0, 1);
+    for (const std::int16_t row : {4, 25, 11}) statistics.Increment(StatisticRow(row), 3);
+    statistics.Save(StatisticRow(4), 0, 1);
+    statistics.Save(StatisticRow(4), 1, -16);
+    statistics.Save(StatisticRow(25), 0, 1);
   }
   ResultWindow& open() {
     const ResultContext context{scheduler, windows,    texts, server,  errors,     dialogs, clock,

@@ -18,13 +18,13 @@ using testing::ElementsAre;
 struct ResultTableTest : testing::Test {
   ResultTableTest() {
     statistics.init_arr(3, 42);
-    settings.Uebungsmodus = 1;
-    settings.abfr_iv = 1;
+    settings.Uebungsmodus = Level::training;
+    settings.abfr_iv = Naming::from_tone_before;
   }
   void answered(std::int16_t row, float times, float sum, float wrong = 0) {
-    statistics.Save(row, 0, times);
-    statistics.Save(row, 1, sum);
-    statistics.Save(row, 2, wrong);
+    statistics.Save(StatisticRow(row), 0, times);
+    statistics.Save(StatisticRow(row), 1, sum);
+    statistics.Save(StatisticRow(row), 2, wrong);
   }
   ResultTable table() const { return result_table(settings, statistics, names, texts); }
 
@@ -35,8 +35,8 @@ struct ResultTableTest : testing::Test {
 };
 
 TEST_F(ResultTableTest, OfferedIntervalsStandInOrderOfSizeRisingAtLeft) {
-  for (std::int16_t row = 1; row <= 42; ++row) statistics.Increment(row, 3);
-  statistics.Save(10 + 21, 3, 0);
+  for (std::int16_t row = 1; row <= 42; ++row) statistics.Increment(StatisticRow(row), 3);
+  statistics.Save(StatisticRow(10 + 21), 3, 0);
   answered(10 + 21, 1, 0);  // never offered, so neither shown nor counted
   answered(11, 1, -16);
   const ResultTable full = table();
@@ -58,11 +58,11 @@ TEST_F(ResultTableTest, OfferedIntervalsStandInOrderOfSizeRisingAtLeft) {
 }
 
 TEST_F(ResultTableTest, ATestTellsFailedFromNeverAsked) {
-  settings.Uebungsmodus = 4;
-  for (const std::int16_t row : {2, 3, 4}) statistics.Increment(row, 3);
-  statistics.SaveBest(2, -16.0F);
-  statistics.SaveBest(2, -16.0F);
-  statistics.SaveBest(3, 0.0F);
+  settings.Uebungsmodus = Level::exam;
+  for (const std::int16_t row : {2, 3, 4}) statistics.Increment(StatisticRow(row), 3);
+  statistics.SaveBest(StatisticRow(2), -16.0F);
+  statistics.SaveBest(StatisticRow(2), -16.0F);
+  statistics.SaveBest(StatisticRow(3), 0.0F);
   const ResultTable result = table();  // in the order 4, 3, 2
   EXPECT_EQ(result.rows[0].field.text, "");
   EXPECT_EQ(result.rows[0].field.back, scale::under_20);
@@ -72,7 +72,7 @@ TEST_F(ResultTableTest, ATestTellsFailedFromNeverAsked) {
 }
 
 TEST_F(ResultTableTest, DegreesTakeBothDirectionsTogether) {
-  settings.abfr_iv = 0;
+  settings.abfr_iv = Naming::from_keynote;
   answered(2, 2, -20, 1);
   answered(2 + 11, 1, -4);
   for (const std::int16_t tongeschl : {0, 1, 2}) {
@@ -90,7 +90,7 @@ TEST_F(ResultTableTest, WithoutALevelOrAnAnswerTheTotalIsNought) {
   EXPECT_EQ(table().total.text, "0.0 %");
   const Auswertung untouched;
   EXPECT_THROW(result_table(settings, untouched, names, texts), RuntimeError);
-  settings.Uebungsmodus = 0;
+  settings.Uebungsmodus = Level::free;
   const ResultTable free_practice = result_table(settings, untouched, names, texts);
   EXPECT_TRUE(free_practice.rows.empty());
   EXPECT_EQ(free_practice.total.text, "0.0 %");
@@ -102,14 +102,14 @@ TEST_F(ResultTableTest, TheTotalIsTheMeanOfTheFilledFieldsWhateverTheStatistics)
   std::uniform_int_distribution<int> tenths(-400, 0), count(0, 5), level(1, 4);
   for (int round = 0; round < 2000; ++round) {
     statistics.Clear();
-    settings.Uebungsmodus = static_cast<std::int16_t>(level(generator));
-    settings.abfr_iv = static_cast<std::int16_t>(round % 2);
+    settings.Uebungsmodus = static_cast<Level>(level(generator));
+    settings.abfr_iv = static_cast<Naming>(round % 2);
     for (std::int16_t row = 1; row <= 42; ++row) {
       const auto times = static_cast<float>(count(generator));
       const float value = static_cast<float>(tenths(generator)) / 10.0F;
       answered(row, times, times > 0 ? value : 0, static_cast<float>(count(generator) / 4));
-      if (times > 2) statistics.SaveBest(row, value);
-      statistics.Save(row, 3, static_cast<float>(count(generator) / 2));
+      if (times > 2) statistics.SaveBest(StatisticRow(row), value);
+      statistics.Save(StatisticRow(row), 3, static_cast<float>(count(generator) / 2));
     }
     const ResultTable result = table();
     double sum = 0;
@@ -129,7 +129,7 @@ TEST_F(ResultTableTest, TheTotalIsTheMeanOfTheFilledFieldsWhateverTheStatistics)
 
 TEST_F(ResultTableTest, TheChartHasTheSheetsOrderAndSpeaksWeakestFirst) {
   texts.given = {{700, ": "}, {1209, "not asked"}};
-  for (const std::int16_t row : {2, 3, 4, 25}) statistics.Increment(row, 3);
+  for (const std::int16_t row : {2, 3, 4, 25}) statistics.Increment(StatisticRow(row), 3);
   answered(2, 1, -16);
   answered(3, 1, -24);
   answered(25, 1, -8);

@@ -39,7 +39,7 @@ TEST_F(ResultWindowTest, FillsItselfOnceInItsNamedControls) {
   statistics.Clear();
   scheduler.advance_ms(10'000);
   EXPECT_THAT(visible_texts(window.ergebnis), ElementsAre("50.0%", "100.0%", "", "0.0%"));
-  settings.abfr_iv = 0;
+  settings.abfr_iv = Naming::from_keynote;
   EXPECT_THAT(visible_texts(open_filled().Lab_richtung), IsEmpty()) << "degrees have no direction";
 }
 
@@ -58,10 +58,10 @@ TEST_F(ResultWindowTest, EachWayOutUnloadsFirstAndAnnouncesOnce) {
 
 TEST_F(ResultWindowTest, AFailureIsLoggedShownAndClosesTheSheet) {
   dialogs.hold = true;
-  settings.ueb_typ = 9;
+  settings.ueb_typ = ExerciseKind{9};
   open_filled();
   EXPECT_THAT(host.error_places(), ElementsAre("vemo06.LbGrdEinst."));
-  settings.ueb_typ = 1;
+  settings.ueb_typ = ExerciseKind::determine;
   statistics = {};
   ResultWindow& window = open_filled();
   EXPECT_EQ(host.error_places().back(), "vemo06.LbEinst.");

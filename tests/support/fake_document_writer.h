@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "results/protocol/document_writer.h"
+#include "protocol/document_writer.h"
 
 namespace tonarix {
 

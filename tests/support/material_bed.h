@@ -38,7 +38,7 @@ class MaterialBed {
   /// Answers all intervals of the row, each wrong at first with the chance `wrong`; then counts the
   /// task. False when the training or the test has ended.
   bool answer(double wrong) {
-    if (settings.Uebungsmodus == 0) return true;
+    if (settings.Uebungsmodus == Level::free) return true;
     const int asked = settings.invzahl + 1;
     for (int i = settings.ton_st_wahl; i < asked; ++i) {
       const auto place = static_cast<std::size_t>(i);
@@ -47,7 +47,7 @@ class MaterialBed {
       if (failed) box.f_antw_wert[place][1] = to_int16(-row.iv[place]);
     }
     const BoxOutcome outcome = box.BoxAuswerten(row, asked);
-    if (settings.Uebungsmodus <= 2) return outcome.zustand == 1;
+    if (!is_test(settings.Uebungsmodus)) return outcome.zustand == 1;
     if (--box.aufg_rest == 0) return false;
     if (box.aufg_rest == box.aufg_gesamt / 2) box.TestListeFuellen();
     return true;
@@ -95,10 +95,12 @@ inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) 
     if (tone.chr == before.chr || (iv > 0) != (direction > 0)) return "a false direction";
     const int fifths = tone.qz - before.qz;
     const int size = std::abs(iv);
-    if (s.abfr_iv == 1 && fifths != (size % 2 == 0 ? direction : -direction) * (size / 2)) {
+    if (s.abfr_iv == Naming::from_tone_before &&
+        fifths != (size % 2 == 0 ? direction : -direction) * (size / 2)) {
       return "a code that is not the step";
     }
-    if (s.abfr_iv == 0 && bed.key.skala.at(static_cast<std::size_t>(size - 1)).qz != tone.qz) {
+    if (s.abfr_iv == Naming::from_keynote &&
+        bed.key.skala.at(static_cast<std::size_t>(size - 1)).qz != tone.qz) {
       return "a degree that is not the tone";
     }
     if (s.ton_st_wahl == 1 && i == 1 &&
@@ -115,9 +117,9 @@ inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) 
 }
 
 /// One cell of the statistics.
-inline float statistic(const MaterialBed& bed, int row, int column) {
+inline float statistic(const MaterialBed& bed, StatisticRow row, int column) {
   float value = -1000;
-  bed.statistics.read(to_int16(row), static_cast<float>(column), value);
+  bed.statistics.read(row, static_cast<float>(column), value);
   return value;
 }
 

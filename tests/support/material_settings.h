@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/arithmetic.h"
-#include "config/settings.h"
 #include "music/key.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 
@@ -41,8 +41,10 @@ inline std::vector<Settings> material_settings(int step = 1) {
       }
     }
   };
-  for (s.Uebungsmodus = 0; s.Uebungsmodus <= 4; ++s.Uebungsmodus) {
-    for (s.abfr_iv = 0; s.abfr_iv <= 1; ++s.abfr_iv) {
+  for (int level = 0; level <= 4; ++level) {
+    s.Uebungsmodus = static_cast<Level>(level);
+    for (const Naming naming : {Naming::from_keynote, Naming::from_tone_before}) {
+      s.abfr_iv = naming;
       for (s.tongeschl = 0; s.tongeschl <= 2; ++s.tongeschl) {
         for (s.Tonart = 0; s.Tonart <= 1; ++s.Tonart) add_ranges();
       }
@@ -54,9 +56,9 @@ inline std::vector<Settings> material_settings(int step = 1) {
 /// The settings of a new window at a level, with the given mode and naming.
 inline Settings material_of(int level, double mode, double abfr_iv) {
   Settings settings;
-  settings.Uebungsmodus = to_int16(level);
+  settings.Uebungsmodus = static_cast<Level>(level);
   settings.tongeschl = to_int16(mode);
-  settings.abfr_iv = to_int16(abfr_iv);
+  settings.abfr_iv = static_cast<Naming>(abfr_iv);
   return settings;
 }
 
@@ -64,11 +66,11 @@ inline std::string describe(const Settings& s) {
   const auto field = [](const char* name, int value) {
     return std::string(name) + "=" + std::to_string(value) + " ";
   };
-  return field("Uebungsmodus", s.Uebungsmodus) + field("abfr_iv", s.abfr_iv) +
-         field("tongeschl", s.tongeschl) + field("Tonart", s.Tonart) + field("ivg", s.ivg) +
-         field("E_Oktav", s.E_Oktav) + field("tonraum_min", s.tonraum_min) +
-         field("ton_st_wahl", s.ton_st_wahl) + field("stufe_wahl", s.stufe_wahl) +
-         field("invzahl", s.invzahl);
+  return field("Uebungsmodus", static_cast<int>(s.Uebungsmodus)) +
+         field("abfr_iv", static_cast<int>(s.abfr_iv)) + field("tongeschl", s.tongeschl) +
+         field("Tonart", s.Tonart) + field("ivg", s.ivg) + field("E_Oktav", s.E_Oktav) +
+         field("tonraum_min", s.tonraum_min) + field("ton_st_wahl", s.ton_st_wahl) +
+         field("stufe_wahl", s.stufe_wahl) + field("invzahl", s.invzahl);
 }
 
 }  // namespace tonarix

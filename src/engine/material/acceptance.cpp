@@ -17,7 +17,8 @@ bool named(Tone tone) {
 bool leads(const Settings& settings, const Key& key, std::int16_t iv, Tone from, Tone to) {
   const int direction = Sgn(to.chr - from.chr);
   if (direction == 0 || Sgn(iv) != direction) return false;
-  if (settings.abfr_iv == 1) return direct_code(direction, to.qz, from.qz) == iv;
+  if (settings.abfr_iv == Naming::from_tone_before)
+    return direct_code(direction, to.qz, from.qz) == iv;
   const int row = std::abs(iv) - 1;
   return row <= key.anz_stufen && key.skala[static_cast<std::size_t>(row)].qz == to.qz;
 }

@@ -21,16 +21,12 @@ FrequencyBox::FrequencyBox(const Settings& settings, const Key& key, Auswertung&
   matbox.reserve(kUsualListLength);
 }
 
-std::int16_t FrequencyBox::start_gewicht_of(int box_zeilen) {
-  return to_int16(box_zeilen * 4 < 30 ? 30 / box_zeilen : 4);
-}
-
 void FrequencyBox::BoxAufbau(const TestTiming& timing) {
   begin_task();
   matbox.assign(1, 0);
   matboxmax = matbox_vorn = matbox_pos = 0;
   box_zeilen = 0;
-  if (settings_.Uebungsmodus == 0) return;
+  if (settings_.Uebungsmodus == Level::free) return;
   const IntervalList offered = offered_intervals(settings_, key_);
   for (const std::int16_t value : offered) mathaeufgk_box[++box_zeilen].value = value;
   start_gewicht = start_gewicht_of(box_zeilen);
@@ -125,7 +121,7 @@ void FrequencyBox::settle_result(std::size_t i) {
   }
 }
 
-void FrequencyBox::StatEintrag(std::int16_t row, std::size_t i) {
+void FrequencyBox::StatEintrag(StatisticRow row, std::size_t i) {
   const float value = rf[i] - 8.0F;
   if (training()) {
     statistics_.Increment(row, 0);
@@ -169,13 +165,12 @@ double FrequencyBox::percentage() const {
   return ceiling() == 0 ? 0 : 100.0 * box_summe / ceiling();
 }
 
-int FrequencyBox::draw_interval(const StatisticRowSet& wanted, int tries) {
-  if (test()) return draw_test_place(wanted, tries);
-  for (int failed = 0; failed < tries; ++failed) {
+void FrequencyBox::draw_interval() {
+  if (test()) {
+    draw_test_place();
+  } else {
     draw_training_place();
-    if (wanted[static_cast<std::size_t>(row_of(drawn()))] != 0) return failed;
   }
-  return tries;
 }
 
 // The nearer the training comes to its end, the more of the draws go to what is still unsolved.

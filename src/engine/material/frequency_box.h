@@ -6,19 +6,13 @@
 #include <vector>
 
 #include "base/chance.h"
-#include "config/settings.h"
-#include "engine/material/offered_intervals.h"
-#include "engine/records/records.h"
 #include "music/key.h"
+#include "settings/offered_intervals.h"
+#include "settings/saved_training.h"
+#include "settings/settings.h"
+#include "statistics/records.h"
 
 namespace tonarix {
-
-/// One row of the box.
-struct BoxRow {
-  std::int16_t value = 0;   ///< signed interval value
-  std::int16_t weight = 0;  ///< how often it is asked; may fall below zero
-  friend constexpr bool operator==(const BoxRow&, const BoxRow&) = default;
-};
 
 /// Where the training stands after a task.
 struct BoxOutcome {
@@ -66,10 +60,8 @@ class FrequencyBox {
   /// Length of a test of `aufg_gesamt` tasks in seconds, rounded up to whole tens.
   std::int16_t estimate(const TestTiming& timing) const;
 
-  /// Draws entries of `matbox` by the rule of the level, into `matbox_pos`, until one has a
-  /// statistic row among `wanted`, at most `tries` times. Returns how many draws failed; `tries`
-  /// when all did.
-  int draw_interval(const StatisticRowSet& wanted, int tries);
+  /// Draws an entry of `matbox` by the rule of the level, into `matbox_pos`.
+  void draw_interval();
   /// The interval last drawn.
   std::int16_t drawn() const { return matbox[static_cast<std::size_t>(matbox_pos)]; }
   /// Takes the first entry with this value from a test's list; false when there is none.
@@ -82,9 +74,6 @@ class FrequencyBox {
 
   /// Share of the weights in their ceiling, 0 to 100: 0 is solved, 100 too hard.
   double percentage() const;
-
-  /// Weight that a box of this many rows starts with.
-  static std::int16_t start_gewicht_of(int box_zeilen);
 
   std::int16_t box_zeilen = 0;
   std::int16_t start_gewicht = 0;
@@ -112,10 +101,10 @@ class FrequencyBox {
     std::int16_t value;
   };
 
-  bool training() const { return settings_.Uebungsmodus == 1 || settings_.Uebungsmodus == 2; }
-  bool test() const { return settings_.Uebungsmodus > 2; }
-  std::int16_t row_of(std::int16_t value) const { return statistic_row(value, settings_.abfr_iv); }
-  int ceiling() const { return start_gewicht * box_zeilen * 2; }
+  bool training() const { return is_training(settings_.Uebungsmodus); }
+  bool test() const { return is_test(settings_.Uebungsmodus); }
+  StatisticRow row_of(std::int16_t value) const { return statistic_row(value, settings_.abfr_iv); }
+  int ceiling() const { return box_zeilen == 0 ? 0 : weight_ceiling(box_zeilen); }
   std::span<BoxRow> rows() { return {mathaeufgk_box.data() + 1, std::size_t(box_zeilen)}; }
 
   void build_training();
@@ -123,12 +112,11 @@ class FrequencyBox {
   void add_weight(std::int16_t value, float amount);
   void settle_result(std::size_t i);
   void count_confusions(std::size_t i);
-  void StatEintrag(std::int16_t row, std::size_t i);
+  void StatEintrag(StatisticRow row, std::size_t i);
   BoxOutcome standing();
   std::int16_t draw_offered();
   void draw_training_place();
-  int draw_test_place(const StatisticRowSet& wanted, int tries);
-  std::int16_t place_of(std::size_t row) const;
+  void draw_test_place();
 
   const Settings& settings_;
   const Key& key_;
@@ -140,8 +128,7 @@ class FrequencyBox {
   std::array<Taken, 8> taken_{};
   std::size_t taken_count_ = 0;
 
-  std::array<std::int16_t, kStatisticRows> open_{};  // open entries of a test's list by row
-  std::int16_t open_entries_ = 0;
+  std::vector<std::int16_t> open_places_;  // of a test's list: where an entry is not yet used
 };
 
 }  // namespace tonarix

@@ -54,29 +54,13 @@ void Material::begin() {
   const int octaves = settings_.E_Oktav + 2;
   anz_okt_lage_ = to_int16(octaves - (settings_.ivg == 0 ? 1 : 2));
   stufen_liste_.clear();
-  if (settings_.abfr_iv == 1) stufen_liste_ = StufenGewichte(key_);
+  if (settings_.abfr_iv == Naming::from_tone_before) stufen_liste_ = StufenGewichte(key_);
   codes_ = offered_codes(settings_, key_);
-  prepare_leading_on();
-}
-
-// Named from the keynote every interval leads on from everywhere; named from the tone before, only
-// to a tone of the scale.
-void Material::prepare_leading_on() {
-  for (StatisticRowSet& rows : leading_on_) rows.fill(settings_.abfr_iv == 0 ? 1 : 0);
-  if (settings_.abfr_iv == 0) return;
-  for (std::size_t from = 0; from < static_cast<std::size_t>(key_.anz_stufen); ++from) {
-    for (std::size_t to = 0; to < static_cast<std::size_t>(key_.anz_stufen); ++to) {
-      for (const int direction : {1, -1}) {
-        const auto code = direct_code(direction, key_.basis[to].qz, key_.basis[from].qz);
-        leading_on_[from][static_cast<std::size_t>(statistic_row(code, settings_.abfr_iv))] = 1;
-      }
-    }
-  }
 }
 
 bool Material::mat_wahl() {
   const bool new_key = erster_lauf || settings_.Tonart == 1;
-  if (new_key) choose_new_key();
+  if (new_key) choose_key(key_, settings_.tongeschl, chance_);
   box_.begin_task();
   draw_acceptable_row();
   if (settings_.tongeschl == 2) find_thirds();
@@ -84,14 +68,6 @@ bool Material::mat_wahl() {
   tune();
   erster_lauf = false;
   return new_key;
-}
-
-void Material::choose_new_key() {
-  choose_key(key_, settings_.tongeschl, chance_);
-  row_of_qz_.fill(-1);
-  for (int r = key_.anz_stufen; r >= 0; --r) {
-    row_of_qz_[static_cast<std::size_t>(skala(r).qz)] = static_cast<std::int8_t>(r);
-  }
 }
 
 // A refused row leaves no trace: what it took goes back, and the next one starts from the same
@@ -112,7 +88,7 @@ void Material::draw_acceptable_row() {
 void Material::draw_row() {
   for (int i = 1; i <= settings_.invzahl + 1; ++i) {
     draw_tone(i);
-    if (settings_.Uebungsmodus > 2 && (settings_.ton_st_wahl == 0 || i == 2)) {
+    if (is_test(settings_.Uebungsmodus) && (settings_.ton_st_wahl == 0 || i == 2)) {
       pruef_frei_ = !box_.take_from_list(iv(i - 1));
     }
   }
@@ -121,12 +97,15 @@ void Material::draw_row() {
 // A box whose intervals do not lead on from here is left after as many failures as its list has
 // entries; then chance alone decides.
 void Material::draw_tone(int i) {
-  const int tries = i != 1 && settings_.Uebungsmodus > 0 ? box_.matboxmax : 0;
+  const bool box = i != 1 && settings_.Uebungsmodus != Level::free;
   bool ok = false;
   for (int versuch = 1; !ok; ++versuch) {
-    if (versuch < tries) versuch += draw_from_box(i, tries - versuch);
-    if (versuch >= tries) draw_freely(i);
-    if (settings_.abfr_iv == 0) {
+    if (box && versuch < box_.matboxmax) {
+      if (!draw_from_box(i)) continue;
+    } else {
+      draw_freely(i);
+    }
+    if (settings_.abfr_iv == Naming::from_keynote) {
       OktavLage(i);
     } else {
       tone(i).chr = static_cast<std::int16_t>(tone(i - 1).chr + DirektSchritt(i));
@@ -136,18 +115,14 @@ void Material::draw_tone(int i) {
   }
 }
 
-// Returns how many tries failed before one that leads on.
-int Material::draw_from_box(int i, int tries) {
-  const int failed = box_.draw_interval(leading_on_[scale_row(i - 1)], tries);
-  if (failed == tries) return failed;
+// False when the interval leads to no tone of the scale.
+bool Material::draw_from_box(int i) {
+  box_.draw_interval();
   iv(i - 1) = box_.drawn();
   richtung_ = Sgn(iv(i - 1));
-  if (settings_.abfr_iv == 1) {
-    NaechsterTon(i);
-  } else {
-    tone(i) = skala(std::abs(iv(i - 1) - richtung_));
-  }
-  return failed;
+  if (settings_.abfr_iv == Naming::from_tone_before) return NaechsterTon(i);
+  tone(i) = skala(std::abs(iv(i - 1) - richtung_));
+  return true;
 }
 
 void Material::draw_freely(int i) {
@@ -155,7 +130,7 @@ void Material::draw_freely(int i) {
   if (i == 1) {
     tone(0) = skala(0);
     ErsterTon(i);
-  } else if (settings_.abfr_iv == 0) {
+  } else if (settings_.abfr_iv == Naming::from_keynote) {
     const int r = draw(chance_, key_.anz_stufen);
     tone(i) = skala(r);
     iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
@@ -173,12 +148,14 @@ void Material::draw_freely(int i) {
 void Material::ErsterTon(int i) {
   int r = settings_.stufe_wahl;
   if (settings_.ton_st_wahl == 0) {
-    r = settings_.abfr_iv == 0 ? draw(chance_, key_.anz_stufen)
-                               : stufen_liste_[static_cast<std::size_t>(
-                                     draw(chance_, static_cast<int>(stufen_liste_.size())))];
+    r = settings_.abfr_iv == Naming::from_keynote
+            ? draw(chance_, key_.anz_stufen)
+            : stufen_liste_[static_cast<std::size_t>(
+                  draw(chance_, static_cast<int>(stufen_liste_.size())))];
   }
   tone(i) = skala(r);
-  if (settings_.abfr_iv == 0) iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
+  if (settings_.abfr_iv == Naming::from_keynote)
+    iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
 
   const int o = draw(chance_, anz_okt_lage_ + 1);
   int t = tone(i - 1).chr;
@@ -219,9 +196,10 @@ int Material::DirektSchritt(int i) {
   return okt_zusatz_ * richtung_ + x;
 }
 
-void Material::NaechsterTon(int i) {
-  const int qz = next_qz(tone(i - 1).qz, iv(i - 1));
-  tone(i) = skala(row_of_qz_[static_cast<std::size_t>(qz)]);
+bool Material::NaechsterTon(int i) {
+  const auto row = skala_row(key_, next_qz(tone(i - 1).qz, iv(i - 1)));
+  if (row) tone(i) = skala(*row);
+  return row.has_value();
 }
 
 // Only with one interval to name would a row that begins like the last one give it away.

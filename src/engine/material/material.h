@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "base/chance.h"
-#include "config/settings.h"
 #include "engine/material/acceptance.h"
 #include "engine/material/frequency_box.h"
 #include "music/key.h"
 #include "music/tones.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 
@@ -52,19 +52,15 @@ class Material {
     tone(i).chr = static_cast<std::int16_t>(tone(i).chr + semitones);
   }
 
-  std::size_t scale_row(int i) { return std::size_t(row_of_qz_[std::size_t(tone(i).qz)]); }
-
-  void prepare_leading_on();
-  void choose_new_key();
   void draw_acceptable_row();
   void draw_row();
   void draw_tone(int i);
-  int draw_from_box(int i, int tries);
+  bool draw_from_box(int i);
   void draw_freely(int i);
   void ErsterTon(int i);
   void OktavLage(int i);
   int DirektSchritt(int i);
-  void NaechsterTon(int i);
+  bool NaechsterTon(int i);
   void draw_okt_zusatz();
   bool repeats_last_task() const;
   void find_thirds();
@@ -85,9 +81,6 @@ class Material {
 
   std::vector<std::int16_t> stufen_liste_;
   std::bitset<22> codes_;
-  // By row of the scale: the statistic rows of all intervals that lead from it to a row.
-  std::array<StatisticRowSet, 12> leading_on_;
-  std::array<std::int8_t, kNamedTones> row_of_qz_{};  // -1: not in the key
   std::int16_t anz_okt_lage_ = 0;
   std::int16_t richtung_ = 1;
   std::int16_t okt_zusatz_ = 0;

@@ -14,7 +14,7 @@ bool Material::TonraumTest(int i) {
   bool ok = true;
   if (tone(i).chr < lowest || tone(i).chr > highest) {
     const bool wende = i != 2 && Sgn(iv(i - 1)) != Sgn(iv(i - 2));
-    if (wende || settings_.Uebungsmodus <= 2 || !pruef_frei_) {
+    if (wende || !is_test(settings_.Uebungsmodus) || !pruef_frei_) {
       turn_round(i);
     } else if (i == 2) {
       shift_row_back();
@@ -33,7 +33,7 @@ void Material::shift_row_back() {
 // In a test whose list has lost the interval before, that one may turn instead, so that the drawn
 // interval, which the list still needs, stays.
 bool Material::go_on_in_direction(int i) {
-  if (settings_.abfr_iv == 0) {
+  if (settings_.abfr_iv == Naming::from_keynote) {
     turn_degree(i);
     return true;
   }
@@ -47,7 +47,7 @@ bool Material::go_on_in_direction(int i) {
 }
 
 void Material::turn_round(int i) {
-  if (settings_.abfr_iv == 0) {
+  if (settings_.abfr_iv == Naming::from_keynote) {
     turn_degree(i);
     return;
   }

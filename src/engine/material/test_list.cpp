@@ -1,6 +1,5 @@
 #include <algorithm>
-#include <cmath>
-#include <utility>
+#include <numeric>
 
 #include "base/arithmetic.h"
 #include "engine/material/frequency_box.h"
@@ -11,14 +10,6 @@ namespace {
 
 constexpr std::int16_t to_even(std::int16_t number) {
   return is_odd(number) ? static_cast<std::int16_t>(number + 1) : number;
-}
-
-double power(double base, int exponent) {
-  double result = 1;
-  for (; exponent > 0; exponent /= 2, base *= base) {
-    if (is_odd(exponent)) result *= base;
-  }
-  return result;
 }
 
 }  // namespace
@@ -67,11 +58,8 @@ void FrequencyBox::TestListeFuellen() {
     const std::int16_t value = draw_offered();
     if (value != 0) matbox.push_back(value);
   }
-  open_.fill(0);
-  for (std::size_t place = 1; place < matbox.size(); ++place) {
-    ++open_[static_cast<std::size_t>(row_of(matbox[place]))];
-  }
-  open_entries_ = to_int16(static_cast<std::int64_t>(matbox.size()) - 1);
+  open_places_.resize(matbox.size() - 1);
+  std::iota(open_places_.begin(), open_places_.end(), std::int16_t{1});
   // A refilled list has no places left to give back to.
   for (std::size_t i = 0; i < taken_count_; ++i) taken_[i].place = 0;
 }
@@ -79,7 +67,7 @@ void FrequencyBox::TestListeFuellen() {
 // 0 when the draw fell on a row that is not asked beside the chosen degree.
 std::int16_t FrequencyBox::draw_offered() {
   const int sign = draw_sign(chance_);
-  if (settings_.ton_st_wahl == 1 && settings_.abfr_iv == 1) {
+  if (settings_.ton_st_wahl == 1 && settings_.abfr_iv == Naming::from_tone_before) {
     const auto pair = degree_pair(key_, settings_.stufe_wahl, draw(chance_, key_.anz_stufen));
     if (!pair) return 0;
     return Sgn(pair->interval) == sign ? pair->interval : pair->complement;
@@ -88,80 +76,37 @@ std::int16_t FrequencyBox::draw_offered() {
 }
 
 bool FrequencyBox::take_from_list(std::int16_t value) {
-  const auto row = static_cast<std::size_t>(row_of(value));
-  if (open_[row] == 0) return false;
   const auto entry = std::ranges::find(matbox, value);
+  if (entry == matbox.end()) return false;
+  const auto place = to_int16(entry - matbox.begin());
   *entry = 0;
-  --open_[row];
-  --open_entries_;
-  ++test_haeufgk[row];
-  taken_.at(taken_count_++) = {static_cast<std::int16_t>(entry - matbox.begin()), value};
+  std::erase(open_places_, place);
+  ++test_haeufgk[place_of(row_of(value))];
+  taken_.at(taken_count_++) = {place, value};
   return true;
 }
 
 void FrequencyBox::give_back() {
   while (taken_count_ > 0) {
     const Taken taken = taken_[--taken_count_];
-    const auto row = static_cast<std::size_t>(row_of(taken.value));
-    --test_haeufgk[row];
+    --test_haeufgk[place_of(row_of(taken.value))];
     if (taken.place == 0) continue;
     matbox[static_cast<std::size_t>(taken.place)] = taken.value;
-    ++open_[row];
-    ++open_entries_;
+    open_places_.push_back(taken.place);
   }
 }
 
 // In the first half of a test an interval not used yet is preferred, in the second half one used at
-// most once: open entries are drawn up to `box_zeilen` times until one is preferred, so a draw ends
-// on another interval only when all of them missed. Near the end of a list most such draws don't
-// lead on, and there would be hundreds. As all have the same chance, one number tells how many fail
-// before the first that does not, and a second one tells what that one finds.
-int FrequencyBox::draw_test_place(const StatisticRowSet& wanted, int tries) {
-  if (open_entries_ == 0) TestListeFuellen();
-  const int half = aufg_gesamt / 2;
+// most once.
+void FrequencyBox::draw_test_place() {
+  if (open_places_.empty()) TestListeFuellen();
+  const int half = static_cast<int>(Round(aufg_gesamt / 2.0));
   const int uses = (aufg_gesamt - aufg_rest) / half + 1;
-  std::int16_t preferred = 0;
-  std::int16_t wanted_open = 0;
-  std::int16_t wanted_preferred = 0;
-  for (std::size_t row = 0; row < kStatisticRows; ++row) {
-    const std::int16_t first = test_haeufgk[row] < uses;
-    preferred += open_[row] * first;
-    wanted_open += open_[row] * wanted[row];
-    wanted_preferred += open_[row] * wanted[row] * first;
+  for (int n = 0; n < box_zeilen; ++n) {
+    const int open = draw(chance_, static_cast<int>(open_places_.size()));
+    matbox_pos = open_places_[static_cast<std::size_t>(open)];
+    if (test_haeufgk[place_of(row_of(drawn()))] < uses) break;
   }
-  const int other = open_entries_ - preferred;
-  const int wanted_other = wanted_open - wanted_preferred;
-  const double missed = power(static_cast<double>(other) / open_entries_, box_zeilen);
-  const double to_preferred =
-      wanted_preferred == 0 ? 0 : (1 - missed) * wanted_preferred / preferred;
-  const double to_other = wanted_other == 0 ? 0 : missed * wanted_other / other;
-  const double chance = to_preferred + to_other;
-
-  if (chance <= 0) return tries;
-  int failed = 0;
-  const double u = chance_.Rnd();
-  if (u >= chance) {
-    // A chance may be too small to be told from 0 in 1 - chance.
-    const double fails = std::log1p(-u) / std::log1p(-chance);
-    if (fails >= tries) return tries;
-    failed = static_cast<int>(fails);
-  }
-  const bool first = wanted_other == 0 || chance_.Rnd() * chance < to_preferred;
-  int entry = draw(chance_, first ? wanted_preferred : wanted_other);
-  for (std::size_t row = 0; row < kStatisticRows; ++row) {
-    if ((test_haeufgk[row] < uses) == first) entry -= open_[row] * wanted[row];
-    if (entry >= 0) continue;
-    matbox_pos = place_of(row);
-    break;
-  }
-  return failed;
-}
-
-std::int16_t FrequencyBox::place_of(std::size_t row) const {
-  const auto directions = settings_.abfr_iv == 0 ? 11 : 21;
-  const int number = static_cast<int>(row);
-  const int value = number > directions ? directions - number : number;
-  return static_cast<std::int16_t>(std::ranges::find(matbox, value) - matbox.begin());
 }
 
 }  // namespace tonarix

@@ -46,7 +46,7 @@ class Arbeitsblatt1 final : public ExerciseWindow {
  private:
   void IvKnoepfe();
   std::string VorzeichenText() const;
-  bool by_degree() const { return settings().abfr_iv == 0; }
+  bool by_degree() const { return settings().abfr_iv == Naming::from_keynote; }
 };
 
 }  // namespace tonarix

@@ -6,9 +6,9 @@
 
 #include "base/windows/presenter.h"
 #include "config/windows/einstellung1_view.h"
+#include "config/windows/selection_view.h"
 #include "flow/flow_bed.h"
 #include "host/local/catalogue_folder.h"
-#include "host/windows/selection_view.h"
 
 namespace tonarix {
 namespace {

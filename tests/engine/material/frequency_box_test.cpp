@@ -38,12 +38,13 @@ void expect_list_matches_weights(const FrequencyBox& box) {
 TEST(FrequencyBox, AsksWhatHasAButtonAndHasTheRowsOfItsScale) {
   std::set<std::string> seen;
   for (Settings settings : material_settings()) {
-    if (settings.Uebungsmodus != 1 || settings.Tonart != 0 || settings.E_Oktav != 3) continue;
+    if (settings.Uebungsmodus != Level::training || settings.Tonart != 0 || settings.E_Oktav != 3)
+      continue;
     const MaterialBed bed(settings, 1);
     const IntervalList offered = offered_intervals(settings, bed.key);
     const std::set<int> values(offered.values().begin(), offered.values().end());
     int rows = bed.key.iv_anzahl * 2;
-    if (settings.ton_st_wahl == 1 && settings.abfr_iv == 1) {
+    if (settings.ton_st_wahl == 1 && settings.abfr_iv == Naming::from_tone_before) {
       const int own = bed.key.basis[static_cast<std::size_t>(settings.stufe_wahl)].qz;
       bool seven_fifths = false;
       for (int r = 0; r < bed.key.anz_stufen; ++r) {
@@ -58,9 +59,11 @@ TEST(FrequencyBox, AsksWhatHasAButtonAndHasTheRowsOfItsScale) {
     const std::bitset<22> codes = offered_codes(settings, bed.key);
     EXPECT_FALSE(codes[0] || codes[14] || codes[15]);
     for (int row = 1; row < kStatisticRows; ++row) {
-      const int half = settings.abfr_iv == 0 ? 11 : 21;
+      const int half = settings.abfr_iv == Naming::from_keynote ? 11 : 21;
       const int value = row > half ? half - row : row;
-      EXPECT_EQ(statistic(bed, row, 3), values.contains(value)) << describe(settings) << value;
+      EXPECT_EQ(value_of(StatisticRow(row), settings.abfr_iv), value);
+      EXPECT_EQ(statistic(bed, StatisticRow(row), 3), values.contains(value))
+          << describe(settings) << value;
       EXPECT_TRUE(!values.contains(value) || codes[static_cast<std::size_t>(std::abs(value))]);
     }
     expect_list_matches_weights(bed.box);
@@ -74,7 +77,7 @@ TEST(FrequencyBox, ChosenDegreeIsTheRowOfTheScale) {
       {1, 4, 8, 3, 2, 6, 10}, {1, 4, 7, 3, 2, 9, 6, 5, 10}, {1, 11, 4, 7, 8, 3, 2, 9, 6, 5, 10}};
   for (std::int16_t mode = 0; mode <= 2; ++mode) {
     Key key;
-    build_scale(key, mode, 0);
+    build_scale(key, mode, Naming::from_keynote);
     ASSERT_EQ(static_cast<int>(listed[static_cast<std::size_t>(mode)].size()), key.anz_stufen);
     for (int row = 0; row < key.anz_stufen; ++row) {
       EXPECT_EQ(direct_code_of_degree(key, row + 1),
@@ -106,7 +109,7 @@ TEST(FrequencyBox, MovesAsWorkedOutByHand) {
     box.rf[0] = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
     box.wdh_gewicht[0] = to_int16(next());
     box.zeit_gewicht[0] = static_cast<float>(next());
-    const std::int16_t row = statistic_row(bed->row.iv[0], bed->settings.abfr_iv);
+    const StatisticRow row = statistic_row(bed->row.iv[0], bed->settings.abfr_iv);
     const float before = statistic(*bed, row, 1);
     const BoxOutcome outcome = box.BoxAuswerten(bed->row, 1);
 
@@ -143,7 +146,7 @@ TEST(FrequencyBox, LeavesOutAGivenFirstInterval) {
   EXPECT_EQ(weight(2), 5);
   EXPECT_EQ(weight(-3), 5);
   EXPECT_EQ(weight(6), 4);
-  EXPECT_EQ(statistic(bed, 2, 0), 0);
+  EXPECT_EQ(statistic(bed, StatisticRow{2}, 0), 0);
 }
 
 // Near the end of a training most draws go to what still has weight.
@@ -156,12 +159,10 @@ TEST(FrequencyBox, DrawsTheUnsolvedNearTheEnd) {
   bed.box.restore(rows);
   ASSERT_EQ(bed.box.matbox_vorn, 13);
   ASSERT_EQ(bed.box.matboxmax, 26);
-  StatisticRowSet all;
-  all.fill(1);
   int hits = 0;
   constexpr int kDraws = 100000;
   for (int i = 0; i < kDraws; ++i) {
-    ASSERT_EQ(bed.box.draw_interval(all, 1), 0);
+    bed.box.draw_interval();
     if (bed.box.drawn() == 3) ++hits;
   }
   // 5 of 100: p = 45 and t = 70, so 71 of 100 draws are of the unsolved, the others of all.

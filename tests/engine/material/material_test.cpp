@@ -40,7 +40,7 @@ TEST(Material, FirstDegreesStandAsOftenAsWorkedOutByHand) {
     int mode = 0;
     example >> mode;
     Key key;
-    build_scale(key, to_int16(mode), 1);
+    build_scale(key, to_int16(mode), Naming::from_tone_before);
     std::vector<std::int16_t> expected;
     std::int16_t row = 0;
     for (std::size_t count = 0; example >> count; ++row) {
@@ -70,8 +70,8 @@ TEST(Material, KeyStaysOrChangesWithEachTask) {
 // In a whole test nearly every interval of the list is asked: only the first one of each row is
 // drawn without looking at it, and what is not on the list there costs a place.
 TEST(Material, ATestAsksItsList) {
-  for (const std::int16_t abfr_iv : {std::int16_t{0}, std::int16_t{1}}) {
-    const Settings settings = material_of(3, 0, abfr_iv);
+  for (const Naming abfr_iv : {Naming::from_keynote, Naming::from_tone_before}) {
+    const Settings settings = material_of(3, 0, static_cast<int>(abfr_iv));
     MaterialBed bed(settings, 12);
     int missing = 0;
     constexpr int kTests = 50;
@@ -81,12 +81,12 @@ TEST(Material, ATestAsksItsList) {
         bed.material.mat_wahl();
       } while (bed.answer(0.2));
       for (const std::int16_t value : offered_intervals(settings, bed.key)) {
-        if (bed.box.test_haeufgk[static_cast<std::size_t>(statistic_row(value, abfr_iv))] == 0) {
+        if (bed.box.test_haeufgk[place_of(statistic_row(value, abfr_iv))] == 0) {
           ++missing;
         }
       }
     }
-    EXPECT_LT(missing, kTests * bed.box.box_zeilen / 20) << abfr_iv;
+    EXPECT_LT(missing, kTests * bed.box.box_zeilen / 20) << static_cast<int>(abfr_iv);
   }
 }
 
@@ -101,7 +101,7 @@ TEST(Material, ReportsWhenNoRowCanBeDrawn) {
 // other laws.
 TEST(Material, OnlyTheRangeGivesWay) {
   Settings settings;
-  settings.abfr_iv = 1;
+  settings.abfr_iv = Naming::from_tone_before;
   settings.tonraum_max = to_int16(settings.tonraum_min + 2);
   MaterialBed bed(settings, 3);
   constexpr int kRows = 20;

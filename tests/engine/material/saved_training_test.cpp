@@ -1,4 +1,4 @@
-#include "engine/material/saved_training.h"
+#include "engine/material/training_state.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
     EXPECT_EQ(record.front(), "true");
 
     Settings settings = left.settings;
-    settings.Uebungsmodus = 2;
+    settings.Uebungsmodus = Level::continued;
     MaterialBed next(settings, 22);
     const auto read = from_record(record, settings, next.key);
     ASSERT_TRUE(std::holds_alternative<SavedTraining>(read));
@@ -48,7 +48,8 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
     EXPECT_EQ(next.box.percentage(), left.box.percentage());
     for (int row = 0; row < kStatisticRows; ++row) {
       for (int column = 0; column <= 3; ++column) {
-        EXPECT_EQ(statistic(next, row, column), statistic(left, row, column));
+        EXPECT_EQ(statistic(next, StatisticRow(row), column),
+                  statistic(left, StatisticRow(row), column));
       }
     }
     EXPECT_EQ(record_of(next), record);

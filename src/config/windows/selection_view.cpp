@@ -1,0 +1,69 @@
+#include "config/windows/selection_view.h"
+
+#include <QVBoxLayout>
+
+namespace tonarix {
+
+SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
+    : WindowView(window, texts) {
+  auto* rows = new QVBoxLayout(&content());
+  rows->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::inside);
+  rows->setSpacing(4);
+  question_ = text({}, TextRole::question);
+  subject_ = text({}, TextRole::note);
+  rows->addWidget(question_);
+  rows->addWidget(subject_);
+  rows->addSpacing(theme::between - 4);
+  // As wide as looks calm, narrower where the screen is.
+  rows->addItem(new QSpacerItem(584, 0, QSizePolicy::Preferred, QSizePolicy::Fixed));
+
+  auto* groups = new QHBoxLayout;
+  groups->setSpacing(theme::between);
+  Card* areas = card(nullptr, nullptr);
+  area_ = &areas->title();
+  areas_ = options(window.Theoriewahl, areas->body(),
+                   [&window](int index) { window.Theoriewahl_click(index); });
+  areas->body().addStretch();
+  Card* exercises = card(nullptr, &window.grdeinst_lb);
+  exercises_ = options(window.ueb_typ, exercises->body(),
+                       [&window](int index) { window.ueb_typ_click(index); });
+  exercises->body().addStretch();
+  for (Card* group : {areas, exercises}) groups->addWidget(group, 1);
+  // Room for all four, so that nothing jumps when theory hides two of them.
+  groups->addStrut(232);
+  rows->addLayout(groups, 1);
+
+  Label* version = label(window.version, TextRole::note);
+  actions().addWidget(version);
+  actions().addStretch();
+  Button* help_button = button(window.cmdHilfe, [&window] { window.cmdHilfe_click(); });
+  Button* end = button(window.cmdEnde, [&window] { window.cmdEnde_click(); });
+  Button* ok = button(window.cmdOk, [&window] { window.cmdOk_click(); });
+  ok->setMinimumWidth(110);
+  for (Button* one : {help_button, end, ok}) actions().addWidget(one);
+  way_on({ok});
+  way_back({end});
+  help(help_button);
+  for (const auto* group : {&areas_, &exercises_}) {
+    for (Option* choice : *group) choice->setFont(theme::font(TextRole::choice));
+  }
+}
+
+void SelectionView::applied() {
+  // The language is loaded after the window has opened.
+  if (question_->text() != word(1253_text)) explain();
+}
+
+void SelectionView::explain() {
+  question_->setText(word(1253_text));
+  subject_->setText(word(1254_text));
+  area_->setText(word(1255_text));
+  areas_[0]->set_note(word(1256_text));
+  areas_[1]->set_note(word(1257_text));
+  exercises_[0]->set_note(word(1258_text));
+  exercises_[1]->set_note(word(1259_text));
+  exercises_[2]->set_note(word(1260_text));
+  exercises_[3]->set_note(word(1261_text));
+}
+
+}  // namespace tonarix

@@ -1,0 +1,142 @@
+#include "config/selection_window.h"
+
+#include <gmock/gmock.h>
+
+#include "support/fake_dialogs.h"
+#include "support/fake_host.h"
+#include "support/virtual_scheduler.h"
+
+namespace tonarix {
+namespace {
+
+using testing::ElementsAre;
+
+struct KeyLanguage final : LanguageObject, LanguageList {
+  std::vector<LanguageRow> languages() override { return {{"Deutsch", "deutsch"}}; }
+  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
+};
+
+struct SelectionWindowTest : testing::Test {
+  void start() {
+    window.load();
+    scheduler.advance_ms(100);
+  }
+  SelectionContext context() {
+    return {.scheduler = scheduler,
+            .windows = windows,
+            .server = server,
+            .language = language,
+            .tables = tables,
+            .errors = errors,
+            .dialogs = dialogs,
+            .settings = settings,
+            .screen_width = 1000,
+            .open_settings =
+                [this](SettingsKind kind) {
+                  if (settings_break) throw RuntimeError::overflow("settings");
+                  opened.push_back(kind);
+                },
+            .show_help = {},
+            .quit = [this] { ++quits; },
+            .available = [this](const ExerciseRow& row) { return offered(row); },
+            .join_companion = {}};
+  }
+
+  VirtualScheduler scheduler;
+  FakeHost host;
+  Server server{host.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
+  Language language{{[] { return std::make_unique<KeyLanguage>(); },
+                     [](const std::string&) { return std::make_unique<KeyLanguage>(); }}};
+  TextTables tables;
+  RecordingDialogs dialogs{scheduler};
+  ErrorReport errors{server, language, dialogs};
+  Settings settings;
+  bool settings_break = false;
+  std::function<bool(const ExerciseRow&)> offered = [](const ExerciseRow&) { return true; };
+  std::vector<SettingsKind> opened;
+  int quits = 0;
+  WindowList windows{scheduler};
+  SelectionWindow& window = windows.open(std::make_unique<SelectionWindow>(context()));
+};
+
+TEST_F(SelectionWindowTest, StartsInOrderAndIsReady) {
+  host.answers["STATUS"] = Variant::Array{0, 4};
+  start();
+  EXPECT_EQ(host.keys(), "STATUS MIDI LOGMESS LANG LOGIN ");
+  EXPECT_TRUE(settings.supervisor && settings.klein_bildschirm);
+  EXPECT_EQ(settings.ueb_typ, ExerciseKind::determine);
+  EXPECT_EQ(settings.tempo_ms[2], 1000);
+  EXPECT_EQ(window.caption, "[287s][700s][1003s]");
+  EXPECT_EQ(window.version.text, "[699s] 1.0.0000");
+  EXPECT_EQ(window.ueb_typ[1].text, "[154s]");
+  EXPECT_EQ(window.Theoriewahl[0].text + window.Theoriewahl[1].text, "[724s][725s]");
+}
+
+TEST_F(SelectionWindowTest, AnUnwantedModuleSaysItsStatusAndEnds) {
+  host.answers["STATUS"] = Variant::Array{0, 3};
+  start();
+  EXPECT_FALSE(window.visible);
+  EXPECT_EQ(dialogs.shown.at(0).text, "Status 3");
+  EXPECT_EQ(quits, 1);
+  EXPECT_TRUE(host.calls_of("LANG").empty());
+}
+
+TEST_F(SelectionWindowTest, AStartThatFailsInPartGoesOnAndSaysSoInTheLanguage) {
+  host.failing = {"LANG", "LOGIN"};
+  start();
+  EXPECT_THAT(host.error_places(), ElementsAre("vemo06.start_timer."));
+  EXPECT_EQ(dialogs.shown.at(0).text, "[720s]\n[721s]\n[722s]\n[723s]");
+  EXPECT_TRUE(window.cmdOk.open());
+}
+
+TEST_F(SelectionWindowTest, OkOpensTheSettingsOfEachExerciseAlsoWhenTheHostCannotLog) {
+  using Kind = SettingsKind;
+  start();
+  for (const auto& [study, exercise] : {std::pair{0, 1}, {0, 2}, {0, 3}, {0, 4}, {1, 3}, {1, 4}}) {
+    window.show();
+    window.Theoriewahl_click(0);
+    window.ueb_typ_click(exercise);
+    window.Theoriewahl_click(study);
+    EXPECT_EQ(window.ueb_typ[3].visible, study == 0);
+    EXPECT_EQ(static_cast<int>(settings.ueb_typ), study == 1 && exercise == 3 ? 1 : exercise)
+        << "what a study has not";
+    if (study == 1) host.failing = {"LOGMESS"};
+    window.cmdOk_click();
+    if (study == 1) window.cmdOk_click();  // while the failure is told
+    scheduler.settle();
+    EXPECT_FALSE(window.visible);
+  }
+  EXPECT_THAT(opened, ElementsAre(Kind::einstellung1, Kind::einstellung2, Kind::einstellung1,
+                                  Kind::einstellung1, Kind::einstellung1b, Kind::einstellung1b));
+  EXPECT_EQ(host.log_lines().at(2), "2; uebungs_typ=0; Theorietyp =");
+}
+
+TEST_F(SelectionWindowTest, WhatIsNotThereYetIsShownButCannotBeChosen) {
+  offered = [](const ExerciseRow& row) { return row.record == "4"; };
+  start();
+  window.ueb_typ_click(1);
+  window.Theoriewahl_click(1);
+  EXPECT_EQ(exercise_row(settings).record, "4");
+  EXPECT_TRUE(window.cmdOk.enabled && window.ueb_typ[1].visible);
+  EXPECT_EQ(window.ueb_typ[1].accessible_name, "[154s], [1002s]");
+}
+
+TEST_F(SelectionWindowTest, SettingsThatDoNotOpenEndTheModuleOnceAlsoWhenTheHostFails) {
+  start();
+  settings_break = true;
+  host.failing = {"MENUE"};
+  dialogs.hold = true;
+  window.cmdOk_click();
+  EXPECT_THAT(host.error_places(), ElementsAre("vemo06.cmdOK_click."));
+  dialogs.answer(Reply::ok);
+  EXPECT_THAT(host.error_places(), ElementsAre("vemo06.cmdOK_click.", "vemo06.cmdEnde_click."));
+  window.title_bar_close();
+  EXPECT_EQ(quits, 0) << "a message is open";
+  dialogs.answer(Reply::ok);
+  EXPECT_EQ(host.calls_of("MENUE").size(), 1u);
+  EXPECT_EQ(quits, 1);
+  EXPECT_EQ(windows.count(), 0);
+}
+
+}  // namespace
+}  // namespace tonarix
