@@ -70,19 +70,15 @@ double microseconds_of_box_auswerten() {
     const int code = i / 2 + 1;
     rows.push_back({to_int16(i % 2 == 0 ? code : -code), to_int16(i % 12 - 2)});
   }
-  bed.row.iv = {2, -3, 21, -21, 8};
+  std::vector<AnsweredInterval> answered;
+  for (const std::int16_t interval : {2, -3, 21, -21, 8}) {
+    answered.push_back({interval, 6, 0, 0, {0, 11, 12, 13}});
+  }
   double best = std::numeric_limits<double>::max();
   for (int pass = 0; pass < 2000; ++pass) {
     bed.box.restore(rows);
-    bed.box.begin_task();
-    for (std::size_t i = 0; i < 5; ++i) {
-      bed.box.rf[i] = 6;
-      for (std::size_t k = 1; k <= 3; ++k) {
-        bed.box.f_antw_wert[i][k] = to_int16(static_cast<std::int64_t>(10 + k));
-      }
-    }
     const Clock::time_point start = Clock::now();
-    bed.box.BoxAuswerten(bed.row, 5);
+    bed.box.BoxAuswerten(answered);
     best = std::min(best, seconds_since(start));
   }
   return best * 1e6;

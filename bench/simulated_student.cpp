@@ -56,20 +56,21 @@ Settings settings_of(std::int16_t level) {
 
 // Presses buttons, each wrong one only once, until one is right or the fourth was wrong. The time
 // stays within the limit.
-void answer(MaterialBed& bed, std::size_t place, double right, const std::vector<int>& codes) {
-  FrequencyBox& box = bed.box;
-  const int asked = bed.row.iv[place];
+AnsweredInterval answer(MaterialBed& bed, std::int16_t asked, double right,
+                        const std::vector<int>& codes) {
+  AnsweredInterval answer{asked, 0, 0, 0, {}};
   std::vector<int> open;
   std::ranges::copy_if(codes, std::back_inserter(open),
                        [&](int code) { return code != std::abs(asked); });
-  for (std::size_t wrong = 1; wrong <= FrequencyBox::kWrongAnswers; ++wrong) {
+  for (std::size_t wrong = 1; wrong <= 4; ++wrong) {
     if (bed.chance.Rnd() < right) break;
-    box.rf[place] += 2;
+    answer.rf += 2;
     const auto pressed = open.begin() + draw(bed.chance, static_cast<int>(open.size()));
-    box.f_antw_wert[place][wrong] = to_int16(*pressed * Sgn(asked));
+    answer.f_antw_wert[wrong] = to_int16(*pressed * Sgn(asked));
     open.erase(pressed);
   }
-  if (box.rf[place] == 0) box.rf[place] = -4;
+  if (answer.rf == 0) answer.rf = -4;
+  return answer;
 }
 
 using Row = std::vector<bool>;  // which questions of a task were weak
@@ -87,12 +88,13 @@ std::vector<Row> work_through(std::int16_t level, double weak, std::uint64_t see
   for (panel = 0; panel == 0 && static_cast<int>(rows.size()) < tasks;) {
     bed.material.mat_wahl();
     Row row;
+    std::vector<AnsweredInterval> answered;
     for (std::size_t i = 0; i < static_cast<std::size_t>(asked); ++i) {
       row.push_back(is_weak(bed.row.iv[i]));
-      answer(bed, i, row.back() ? weak : kStrong, codes);
+      answered.push_back(answer(bed, bed.row.iv[i], row.back() ? weak : kStrong, codes));
     }
     rows.push_back(row);
-    if (level == 1) panel = bed.box.BoxAuswerten(bed.row, asked).ergebnis_anz;
+    if (level == 1) panel = bed.box.BoxAuswerten(answered).ergebnis_anz;
   }
   return rows;
 }

@@ -4,14 +4,13 @@
 
 namespace tonarix {
 
-/// The controls that every exercise window has, under their given names.
+// The controls of the exercise windows, under their given names, by who needs them.
+
+/// What every exercise window has.
 struct ExerciseControls {
   explicit ExerciseControls(Window& window)
       : CmdNextAufg(window, "CmdNextAufg"),
         LbNextAufg(window, "LbNextAufg"),
-        wieder(window, "wieder"),
-        wieder2(window, "wieder2"),
-        grundton(window, "grundton"),
         zurueck(window, "zurueck"),
         cmd_test_ein(window, "cmd_test_ein"),
         cmd_test_aus(window, "cmd_test_aus"),
@@ -21,23 +20,13 @@ struct ExerciseControls {
         stop_uhr(window, "stop_uhr"),
         Uhr(window, "Uhr"),
         zaehler(window, "zaehler"),
-        whlgzaehler(window, "whlgzaehler"),
-        GrdtonWhlg(window, "GrdtonWhlg"),
-        ergebnis(window, "ergebnis"),
-        nriv(window, "nriv"),
         true_false(window, "true_false"),
         WaitMeldung(window, "WaitMeldung"),
-        repeat_label(window, "repeat_label"),
-        keynote_label(window, "keynote_label"),
         question(window, "question"),
-        hint(window, "hint"),
-        sounding(window, "sounding") {}
+        hint(window, "hint") {}
 
   Control CmdNextAufg;  ///< next task, order by hand
   Control LbNextAufg;   ///< shown while the automatic order waits
-  Control wieder;       ///< repeat during the task
-  Control wieder2;      ///< repeat after its end
-  Control grundton;     ///< keynote check
   Control zurueck;
   Control cmd_test_ein;
   Control cmd_test_aus;
@@ -46,18 +35,41 @@ struct ExerciseControls {
   Control lab_aufgaben;                      ///< tasks left
   Control stop_uhr;                          ///< time left
   Control Uhr;
-  ControlArray<Control, 0, 1> zaehler;   ///< right, wrong
-  Control whlgzaehler;                   ///< repeats
-  Control GrdtonWhlg;                    ///< keynote checks
-  ControlArray<Control, 0, 4> ergebnis;  ///< answer fields
-  ControlArray<Control, 0, 4> nriv;      ///< number of the interval being asked
+  ControlArray<Control, 0, 1> zaehler;  ///< right, wrong
   ControlArray<Control, 0, 1> true_false;
   Control WaitMeldung;
+  Control question;  ///< the one question of the window
+  Control hint;      ///< what comes next, where it would be a riddle
+};
+
+/// What a window has whose rows sound.
+struct SoundControls {
+  explicit SoundControls(Window& window)
+      : wieder(window, "wieder"),
+        wieder2(window, "wieder2"),
+        grundton(window, "grundton"),
+        whlgzaehler(window, "whlgzaehler"),
+        GrdtonWhlg(window, "GrdtonWhlg"),
+        repeat_label(window, "repeat_label"),
+        keynote_label(window, "keynote_label"),
+        sounding(window, "sounding") {}
+
+  Control wieder;       ///< repeat during the task
+  Control wieder2;      ///< repeat after its end
+  Control grundton;     ///< keynote check
+  Control whlgzaehler;  ///< repeats
+  Control GrdtonWhlg;   ///< keynote checks
   Control repeat_label;
   Control keynote_label;
-  Control question;                      ///< the one question of the window
-  Control hint;                          ///< what comes next, where it would be a riddle
   ControlArray<Control, 0, 5> sounding;  ///< the tone that sounds now, by its place in the row
+};
+
+/// Answer fields with their numbers, as many as a window's row can have intervals.
+struct PlaceControls {
+  explicit PlaceControls(Window& window) : ergebnis(window, "ergebnis"), nriv(window, "nriv") {}
+
+  ControlArray<Control, 0, 4> ergebnis;  ///< answer fields
+  ControlArray<Control, 0, 4> nriv;      ///< number of the interval being asked
 };
 
 }  // namespace tonarix

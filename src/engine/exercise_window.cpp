@@ -1,8 +1,21 @@
 #include "engine/exercise_window.h"
 
 #include "base/arithmetic.h"
+#include "engine/answer_rules.h"
+#include "engine/material/training_state.h"
+#include "music/analysis.h"
+#include "settings/exercises.h"
 
 namespace tonarix {
+
+namespace {
+
+constexpr double kResetPause = 50;        // ms for a device to fall silent
+constexpr double kClockInterval = 10000;  // ms
+constexpr std::int16_t kClockSeconds = 10;
+constexpr const char* kLeavingTag = "zurueck_click.";
+
+}  // namespace
 
 ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
     : Window(context.scheduler, std::move(name)),
@@ -10,25 +23,238 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       context_(context),
       box_(context.settings, context.key, context.statistics, context.chance),
       material_(context.settings, context.key, context.row, box_, context.chance),
-      playback_(context.midi, context.settings, context.key, context.row),
+      answers_(context.scheduler, context.protocol),
+      training_(context.server, context.errors, context.settings, context.saved_training),
+      standing_(*this, context.texts, box_),
+      next_task_(context.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
+      way_out_(context_, *this, *this, waits()),
       start_(context.scheduler, [this] { start_timer(); }),
-      spieltimer_(context.scheduler, [this] { spieltimer_timer(); }),
-      grdton_Timer_(context.scheduler, [this] { grdton_Timer_timer(); }),
-      WahlAutomat_(context.scheduler, [this] { WahlAutomat_timer(); }),
       Uhrzeit_(context.scheduler, [this] { Uhrzeit_timer(); }),
-      testtimer_(context.scheduler, [this] { zurueck_click(); }),
-      sounding_timer_(context.scheduler, [this] {
-        show_sounding(sounding_place_ + 1);
-        changed();
-      }) {
-  context_.midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
-  name_window();
-  clear_statistics();
+      testtimer_(context.scheduler, [this] { zurueck_click(); }) {
+  caption = Wort(exercise_row(context.settings).title);
+  context_.statistics.init_arr(3, kStatisticRows - 1);
+  context_.statistics.Clear();
+  context_.best.init_arr(kStatisticRows - 1);
+  context_.best.Clear();
+  WaitMeldung.visible = false;
+  Uhrzeit_.set_interval(kClockInterval);
   start_.enable();
 }
 
-ExerciseWindow::~ExerciseWindow() {
-  context_.midi_event.QueueEmpty = nullptr;
+void ExerciseWindow::start_timer() {
+  handle("start_timer.", [this] {
+    zurueck.text = Wort(640_text);
+    true_false[0].text = Wort(468_text);
+    true_false[1].text = Wort(232_text);
+    WaitMeldung.text = Wort(1120_text);
+    Uhr.text = time_of_day(context_.clock.now());
+    next_task_.name(context_.texts, 0);
+    Uhrzeit_.enable();
+    prepare_level();
+    prepare();
+    update_counts();
+    run("mat_wahl.", mat_wahl());
+  });
+}
+
+void ExerciseWindow::prepare_level() {
+  const Settings& settings = context_.settings;
+  build_scale(context_.key, settings.tongeschl, settings.abfr_iv);
+  if (level() != Level::free) {
+    box_.BoxAufbau({player().row_ms(), next_task_.pause_ms(), zeit_grenze_of(settings.abfr_iv)});
+  }
+  if (level() == Level::continued) {
+    const SavedTraining& saved = training_.resumed();
+    resume(saved, settings, box_, context_.statistics);
+    answers_.counts.wrong = saved.zaehler;
+    answers_.counts.repeats = saved.whlgzaehler;
+  }
+  material_.begin();
+  standing_.prepare(level());
+}
+
+Sequence ExerciseWindow::mat_wahl() {
+  material_.mat_wahl();
+  next_task_.name(context_.texts, ++lesson_nr_);
+  player().begin_task(tune(), material_.terz_typ);
+  const auto intervals =
+      std::span(context_.row.iv).first(static_cast<std::size_t>(context_.settings.invzahl) + 1);
+  answers_.begin_task(intervals, first_asked(),
+                      {zeit_grenze_of(context_.settings.abfr_iv), level() != Level::free});
+  show_task();
+  enter(Phase::sounding);
+  LessonFacts facts = lesson_facts();
+  facts.interval = to_int16(lesson_nr_);
+  context_.protocol.ProtokollAufgabe(facts);
+  co_await Delay(kResetPause);
+  if (waits().closed()) co_return;
+  co_await player().play(SpielArt::task, {});
+}
+
+LessonFacts ExerciseWindow::lesson_facts() const {
+  const auto tones = static_cast<std::size_t>(context_.settings.invzahl) + 2;
+  const RowAnalysis analysis =
+      analyse_row(std::span(context_.row.inv_ton).first(tones), context_.key, context_.tone_names,
+                  context_.interval_names);
+  LessonFacts facts;
+  facts.iv_nr = to_int16(first_asked());
+  for (const AnalysedTone& tone : analysis.tones) facts.qz_tones.push_back(tone.qz);
+  for (const AnalysedInterval& interval : analysis.intervals) {
+    facts.intervals.push_back({interval.degree_text, interval.interval_text});
+  }
+  return facts;
+}
+
+void ExerciseWindow::enter(Phase phase) {
+  phase_ = phase;
+  const Actions& actions = actions_in(phase);
+  const bool automatic = context_.settings.abfrage == 1;
+  next_task_.withdraw();
+  if (actions.next_task) next_task_.offer(automatic);
+  if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
+  hint.text = actions.hint == TextKey{} ? "" : Wort(actions.hint);
+  if (actions.next_task && automatic) hint.text = Wort(1121_text);
+  if (is_over(phase)) {
+    zurueck.back = signal::finished;
+    zurueck.fore = signal::wrong;
+    zurueck.text = Wort(625_text);
+  }
+  zurueck.enabled = phase != Phase::leaving;
+  open_answers(actions.answers);
+  show_actions(actions);
+}
+
+void ExerciseWindow::after_playing() {
+  if (phase_ == Phase::sounding) {
+    row_sounded();
+    answers_.open();
+  }
+  if (!waits().closed()) enter(after_sounding(phase_));
+}
+
+void ExerciseWindow::go_on_after_answer() {
+  update_counts();
+  if (answers_.book().done()) finish_row();
+}
+
+void ExerciseWindow::update_counts() {
+  zaehler[0].text = std::to_string(answers_.counts.right);
+  zaehler[1].text = std::to_string(answers_.counts.wrong);
+  show_counts(answers_.counts);
+}
+
+void ExerciseWindow::finish_row() {
+  ++tasks_done_;
+  BoxOutcome outcome{1, 0};
+  if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book().answered());
+  if (is_training(level())) {
+    standing_.show_training();
+    if (outcome.zustand == 4) return finish_training(outcome.ergebnis_anz);
+  }
+  Phase next = Phase::row_done;
+  if (is_test(level())) {
+    if (--box_.aufg_rest == 0) {
+      Uhrzeit_.disable();
+      next = Phase::test_finished;
+    } else if (box_.aufg_rest * 2 == box_.aufg_gesamt) {
+      box_.TestListeFuellen();
+    }
+    standing_.show_test();
+  }
+  enter(next);
+}
+
+void ExerciseWindow::finish_training(int panel) {
+  standing_.show_panel(panel);
+  enter(Phase::training_finished);
+  if (!training_.drop()) tell(Wort(1129_text));
+  context_.caller.training_finished();
+}
+
+void ExerciseWindow::CmdNextAufg_click() {
+  press(CmdNextAufg, "mat_wahl.", [this] { return mat_wahl(); });
+}
+
+void ExerciseWindow::cmd_test_ein_click() {
+  press(cmd_test_ein, "cmd_test_ein_click.", [this] { standing_.show_test_lines(true); });
+}
+
+void ExerciseWindow::cmd_test_aus_click() {
+  press(cmd_test_aus, "cmd_test_aus_click.", [this] { standing_.show_test_lines(false); });
+}
+
+void ExerciseWindow::Uhrzeit_timer() {
+  handle("Uhrzeit_timer.", [this] {
+    Uhr.text = time_of_day(context_.clock.now());
+    Uhrzeit_.enable();
+    if (!is_test(level())) return;
+    box_.aufg_dauer = to_int16(box_.aufg_dauer - kClockSeconds);
+    standing_.show_test();
+    if (box_.aufg_dauer > 0) return;
+    stop_all();
+    enter(Phase::time_up);
+  });
+}
+
+const Control* ExerciseWindow::default_button() const {
+  const Way way = actions_in(phase_).way_on;
+  if (way == Way::zurueck) return &zurueck;
+  return way == Way::next_task && CmdNextAufg.open() ? &CmdNextAufg : nullptr;
+}
+
+void ExerciseWindow::escape_key() {
+  if (!is_test(level()) || is_over(phase_)) zurueck_click();
+}
+
+void ExerciseWindow::zurueck_click() {
+  if (phase_ == Phase::leaving) return;
+  const auto keep = way_to_keep();
+  stop_all();
+  enter(Phase::leaving);
+  run(kLeavingTag, way_out_.leave(keep));
+}
+
+std::function<bool()> ExerciseWindow::way_to_keep() {
+  if (is_over(phase_) || broken_ || !is_training(level()) || tasks_done_ == 0) return {};
+  return [this] {
+    return training_.keep(training_state(box_, context_.settings, context_.statistics,
+                                         answers_.counts.wrong, answers_.counts.repeats));
+  };
+}
+
+void ExerciseWindow::stop_all() {
+  waits().close();
+  for (Timer* timer : {&start_, &Uhrzeit_, &testtimer_}) timer->disable();
+  try {
+    player().silence();
+  } catch (const std::exception&) {
+    context_.errors.log("MidiReset.", std::current_exception());  // a vanished device is silent too
+  }
+}
+
+void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
+  if (phase_ == Phase::leaving && tag == kLeavingTag) return way_out_.give_up(tag, error);
+  if (broken_ || phase_ == Phase::leaving) return context_.errors.log(tag, error);
+  if (is_device_failure(error)) return device_failed(tag, error);
+  broken_ = true;
+  stop_all();
+  open_answers(false);
+  next_task_.withdraw();
+  context_.errors.report_exercise(name(), tag, error, [this, alive = std::weak_ptr<bool>(alive_)] {
+    if (alive.expired()) return;
+    testtimer_.set_interval(0);
+    testtimer_.enable();
+  });
+}
+
+// A silent device takes nothing away that was earned: the answers open as if the row had sounded,
+// and the next playback opens the device anew.
+void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr error) {
+  context_.errors.log(tag, error);
+  player().forget();
+  after_playing();
+  // The time that goes into reading the message is not the student's.
+  tell(Wort(1128_text), [this] { answers_.open(); });
 }
 
 void ExerciseWindow::tell(const std::string& text, std::function<void()> then) {
@@ -36,170 +262,6 @@ void ExerciseWindow::tell(const std::string& text, std::function<void()> then) {
                         [then = std::move(then), alive = std::weak_ptr<bool>(alive_)](Reply) {
                           if (!alive.expired() && then) then();
                         });
-}
-
-Sequence ExerciseWindow::mat_wahl() {
-  material_.mat_wahl();
-  reset_display();
-  tuning_ = {material_.ton_abw, material_.freq_abw};
-  open_lesson();
-  co_await Delay(kResetPause);
-  if (waits().closed()) co_return;
-  co_await play(SpielArt::task);
-}
-
-void ExerciseWindow::reset_display() {
-  ++lesson_nr_;
-  name_next_task();
-  antw_seconds_ = 0;
-  AntwDau_ = 0;
-  wdh_gesamt_ = 0;
-  iv_nr_ = 0;
-  gesperrt_.fill(0);
-  for (int i = ergebnis.first; i <= ergebnis.last; ++i) {
-    ergebnis[i].text.clear();
-    ergebnis[i].accessible_name = nriv[i].text;
-    ergebnis[i].back = ergebnis[i].fore = std::nullopt;
-    nriv[i].visible = false;
-  }
-  if (settings().ton_st_wahl == 1) give_first_interval();
-  nriv[iv_nr_].visible = true;
-  question.text = Wort(1111_text);
-  wieder2.visible = false;
-  wieder.visible = true;
-  wieder.enabled = grundton.enabled = false;
-  set_answers_enabled(false);
-}
-
-void ExerciseWindow::name_next_task() {
-  CmdNextAufg.text = LbNextAufg.text = Wort(129_text) + " " + std::to_string(lesson_nr_ + 1);
-}
-
-void ExerciseWindow::give_first_interval() {
-  const std::int16_t code = settings().abfr_iv == Naming::from_keynote
-                                ? to_int16(settings().stufe_wahl + 1)
-                                : to_int16(std::abs(context_.row.iv[0]));
-  ergebnis[0].text = answer_text(code);
-  ergebnis[0].accessible_name = nriv[0].text + ": " + ergebnis[0].text;
-  ergebnis[0].back = signal::right;
-  ergebnis[0].fore = signal::black;
-  iv_nr_ = 1;
-}
-
-void ExerciseWindow::open_lesson() {
-  const RowAnalysis analysis = analyse_row(
-      std::span(context_.row.inv_ton).first(static_cast<std::size_t>(playback_.tones())),
-      context_.key, context_.tone_names, context_.interval_names);
-  LessonFacts facts;
-  facts.interval = to_int16(lesson_nr_);
-  facts.iv_nr = iv_nr_;
-  for (const AnalysedTone& tone : analysis.tones) facts.qz_tones.push_back(tone.qz);
-  for (const AnalysedInterval& interval : analysis.intervals) {
-    facts.intervals.push_back({interval.degree_text, interval.interval_text});
-  }
-  if (settings().frequenz != 0 || settings().stimm_g != 0) {
-    for (int i = 0; i < playback_.tones(); ++i) {
-      facts.pb_abweichung.push_back(
-          to_int16(tuning_.ton_abw[static_cast<std::size_t>(i)] + tuning_.freq_abw));
-    }
-  }
-  context_.protocol.ProtokollAufgabe(facts);
-  answer_lfd_ = 1;
-}
-
-void ExerciseWindow::offer_next_task() {
-  if (settings().abfrage == 1) {
-    WahlAutomat_.enable();
-    LbNextAufg.visible = true;
-    hint.text = Wort(1121_text);
-  } else {
-    CmdNextAufg.visible = CmdNextAufg.enabled = true;
-  }
-}
-
-void ExerciseWindow::withdraw_next_task() {
-  WahlAutomat_.disable();
-  LbNextAufg.visible = false;
-  CmdNextAufg.visible = false;
-}
-
-void ExerciseWindow::CmdNextAufg_click() {
-  press(CmdNextAufg, "mat_wahl.", [this] {
-    CmdNextAufg.visible = false;
-    return mat_wahl();
-  });
-}
-
-void ExerciseWindow::WahlAutomat_timer() {
-  LbNextAufg.visible = false;
-  run("mat_wahl.", mat_wahl());
-}
-
-Sequence ExerciseWindow::AutoAntwort() {
-  co_await Delay(draw(context_.chance, 10) * 400 + 300);
-  co_await Delay(kResetPause);
-  if (waits().closed()) co_return;
-  const auto right = to_int16(std::abs(iv()));
-  std::int16_t code = right;
-  if (draw(context_.chance, 2) == 1) {
-    do {
-      code = to_int16(draw(context_.chance, key().iv_anzahl) + 1);
-    } while (code == right || locked(code));
-  }
-  press_answer(code);
-}
-
-void ExerciseWindow::cmd_test_ein_click() {
-  press(cmd_test_ein, "cmd_test_ein_click.", [this] {
-    lab_aufgaben.visible = stop_uhr.visible = true;
-    cmd_test_ein.visible = cmd_test_ein.enabled = false;
-    cmd_test_aus.visible = cmd_test_aus.enabled = true;
-  });
-}
-
-void ExerciseWindow::cmd_test_aus_click() {
-  press(cmd_test_aus, "cmd_test_aus_click.", [this] {
-    lab_aufgaben.visible = stop_uhr.visible = false;
-    cmd_test_aus.visible = cmd_test_aus.enabled = false;
-    cmd_test_ein.visible = cmd_test_ein.enabled = true;
-  });
-}
-
-void ExerciseWindow::Uhrzeit_timer() {
-  handle("Uhrzeit_timer.", [this] {
-    Uhr.text = time_of_day(context_.clock.now());
-    Uhrzeit_.enable();
-    if (!test()) return;
-    box_.aufg_dauer = to_int16(box_.aufg_dauer - 10);
-    show_test_standing();
-    if (box_.aufg_dauer <= 0) end_test();
-  });
-}
-
-const Control* ExerciseWindow::default_button() const {
-  if (zurueck.back == signal::finished) return &zurueck;
-  if (CmdNextAufg.open()) return &CmdNextAufg;
-  return wieder2.open() ? &wieder2 : nullptr;
-}
-
-void ExerciseWindow::escape_key() {
-  if (!test() || zustand_ == Zustand::test_finished) zurueck_click();
-}
-
-void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
-  if (leaving_ && tag == kLeavingTag) return give_up_leaving(error);
-  if (exit_ == Exit::error || leaving_) {
-    context_.errors.log(tag, error);
-    return;
-  }
-  if (is_device_failure(error)) return device_failed(tag, error);
-  exit_ = Exit::error;
-  stop_all();
-  context_.errors.report_exercise(name(), tag, error, [this, alive = std::weak_ptr<bool>(alive_)] {
-    if (alive.expired()) return;
-    testtimer_.set_interval(0);
-    testtimer_.enable();
-  });
 }
 
 }  // namespace tonarix

@@ -6,17 +6,12 @@
 #include "base/delay.h"
 #include "base/sequence.h"
 #include "engine/keynote.h"
+#include "engine/task_tuning.h"
 #include "music/key.h"
 #include "settings/settings.h"
 #include "sound/midi.h"
 
 namespace tonarix {
-
-/// How far the tones of the running task lie from equal temperament, in bend steps.
-struct TaskTuning {
-  std::array<std::int16_t, 6> ton_abw{};  ///< by temperament, for each tone of the row
-  std::int16_t freq_abw = 0;              ///< common to all
-};
 
 /// Sounds the row of the task and the keynote check over the current MIDI output. Each operation is
 /// ended by the closing of `waits`; the queue then does not start.

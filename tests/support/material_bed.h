@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "base/arithmetic.h"
 #include "engine/material/material.h"
@@ -39,20 +40,23 @@ class MaterialBed {
   /// task. False when the training or the test has ended.
   bool answer(double wrong) {
     if (settings.Uebungsmodus == Level::free) return true;
-    const int asked = settings.invzahl + 1;
-    for (int i = settings.ton_st_wahl; i < asked; ++i) {
-      const auto place = static_cast<std::size_t>(i);
-      const bool failed = chance.Rnd() < wrong;
-      box.rf[place] = failed ? 2.0F : -4.0F;
-      if (failed) box.f_antw_wert[place][1] = to_int16(-row.iv[place]);
+    std::vector<AnsweredInterval> answered;
+    for (int i = settings.ton_st_wahl; i <= settings.invzahl; ++i) {
+      AnsweredInterval interval{row.iv[static_cast<std::size_t>(i)], -4, lateness, 0, {}};
+      if (chance.Rnd() < wrong) {
+        interval.rf = 2;
+        interval.f_antw_wert[1] = to_int16(-interval.interval);
+      }
+      answered.push_back(interval);
     }
-    const BoxOutcome outcome = box.BoxAuswerten(row, asked);
+    const BoxOutcome outcome = box.BoxAuswerten(answered);
     if (!is_test(settings.Uebungsmodus)) return outcome.zustand == 1;
     if (--box.aufg_rest == 0) return false;
     if (box.aufg_rest == box.aufg_gesamt / 2) box.TestListeFuellen();
     return true;
   }
 
+  float lateness = 0;  ///< of right answers
   Settings settings;
   Key key;
   TaskRow row;

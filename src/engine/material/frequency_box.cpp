@@ -13,6 +13,15 @@ namespace {
 // drawing list after a task does not allocate.
 constexpr std::size_t kUsualListLength = 1024;
 
+// A right first answer is a reward that repeats and lateness use up, but never turn into a fine.
+float settled(const AnsweredInterval& interval) {
+  if (interval.rf < 0) {
+    return std::min(interval.wdh_gewicht + interval.rf + interval.zeit_gewicht, 0.0F);
+  }
+  if (interval.rf == 0) return 0;
+  return std::min(interval.wdh_gewicht + interval.rf, FrequencyBox::RF);
+}
+
 }  // namespace
 
 FrequencyBox::FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics,
@@ -54,10 +63,6 @@ void FrequencyBox::restore(const std::vector<BoxRow>& saved) {
 }
 
 void FrequencyBox::begin_task() {
-  rf.fill(0);
-  zeit_gewicht.fill(0);
-  wdh_gewicht.fill(0);
-  f_antw_wert = {};
   taken_count_ = 0;
 }
 
@@ -98,31 +103,21 @@ void FrequencyBox::MatboxFuellen(int add_wert) {
   matbox_vorn = to_int16(front);
 }
 
-BoxOutcome FrequencyBox::BoxAuswerten(const TaskRow& row, int anzahl) {
-  for (auto i = static_cast<std::size_t>(settings_.ton_st_wahl);
-       i < static_cast<std::size_t>(anzahl); ++i) {
-    settle_result(i);
-    if (rf[i] != 0 && training()) add_weight(row.iv[i], rf[i]);
-    if (rf[i] < 0) rf[i] *= 2;
-    StatEintrag(row_of(row.iv[i]), i);
-    if (rf[i] > 0) count_confusions(i);
+BoxOutcome FrequencyBox::BoxAuswerten(std::span<const AnsweredInterval> answered) {
+  for (const AnsweredInterval& interval : answered) {
+    float rf = settled(interval);
+    if (rf != 0 && training()) add_weight(interval.interval, rf);
+    if (rf < 0) rf *= 2;
+    StatEintrag(row_of(interval.interval), rf);
+    if (rf > 0) count_confusions(interval);
   }
   if (!training()) return {1, 0};
   MatboxRechnen();
   return standing();
 }
 
-// A right first answer is a reward that repeats and lateness use up, but never turn into a fine.
-void FrequencyBox::settle_result(std::size_t i) {
-  if (rf[i] < 0) {
-    rf[i] = std::min(wdh_gewicht[i] + rf[i] + zeit_gewicht[i], 0.0F);
-  } else if (rf[i] > 0) {
-    rf[i] = std::min(wdh_gewicht[i] + rf[i], static_cast<float>(RF));
-  }
-}
-
-void FrequencyBox::StatEintrag(StatisticRow row, std::size_t i) {
-  const float value = rf[i] - 8.0F;
+void FrequencyBox::StatEintrag(StatisticRow row, float rf) {
+  const float value = rf - RF;
   if (training()) {
     statistics_.Increment(row, 0);
     statistics_.Add(row, value);
@@ -132,9 +127,9 @@ void FrequencyBox::StatEintrag(StatisticRow row, std::size_t i) {
 }
 
 // What was taken for the interval asked was confused with it, so it is asked more often too.
-void FrequencyBox::count_confusions(std::size_t i) {
-  for (int k = 1; k <= kWrongAnswers && f_antw_wert[i][static_cast<std::size_t>(k)] != 0; ++k) {
-    const std::int16_t value = f_antw_wert[i][static_cast<std::size_t>(k)];
+void FrequencyBox::count_confusions(const AnsweredInterval& interval) {
+  for (const std::int16_t value : std::span(interval.f_antw_wert).subspan(1)) {
+    if (value == 0) return;
     statistics_.Increment(row_of(value), 2);
     if (training()) add_weight(value, 1);
   }

@@ -14,6 +14,15 @@
 
 namespace tonarix {
 
+/// What the box is told of one interval that was asked.
+struct AnsweredInterval {
+  std::int16_t interval = 0;                  ///< signed interval value
+  float rf = 0;                               ///< error score; below 0 when right at once
+  float zeit_gewicht = 0;                     ///< what lateness takes from the reward
+  std::int16_t wdh_gewicht = 0;               ///< listening repeats
+  std::array<std::int16_t, 5> f_antw_wert{};  ///< slots 1 to 4: wrong answers; 0 ends them
+};
+
 /// Where the training stands after a task.
 struct BoxOutcome {
   std::int16_t zustand;       ///< 1 the exercise goes on, 4 the training is finished
@@ -32,24 +41,21 @@ struct TestTiming {
 /// everything has become too hard. In a test (above) it is a fixed list of intervals to be used up.
 /// At level 0 it is empty.
 ///
-/// An exercise window owns one. It writes the answers (`rf`, `zeit_gewicht`, `wdh_gewicht`,
-/// `f_antw_wert`) and counts `aufg_rest` and `aufg_dauer` down.
+/// An exercise window owns one and counts `aufg_rest` and `aufg_dauer` down.
 class FrequencyBox {
  public:
-  static constexpr std::int16_t RF = 8;  ///< ceiling of `rf`: four wrong tries
+  static constexpr float RF = 8;  ///< ceiling of an error score
   static constexpr int kMaxRows = kStatisticRows - 1;
-  static constexpr int kWrongAnswers = 4;
 
   FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance);
 
   /// Builds the box or the test list for the level; the scale must be built. `timing` is read in a
   /// test only.
   void BoxAufbau(const TestTiming& timing = {});
-  /// Clears the answers of the last task and forgets what it took from the list.
+  /// Forgets what the last task took from the list.
   void begin_task();
-  /// Applies the results of the first `anzahl` intervals of `row` after a finished task. A first
-  /// interval that was given is left out.
-  BoxOutcome BoxAuswerten(const TaskRow& row, int anzahl);
+  /// Applies the results of a finished task.
+  BoxOutcome BoxAuswerten(std::span<const AnsweredInterval> answered);
 
   /// Sorts the rows by weight, highest first, and rebuilds `matbox` while the training goes on.
   void MatboxRechnen();
@@ -85,11 +91,6 @@ class FrequencyBox {
   std::int16_t matbox_vorn = 0;  ///< leading entries that come from rows of positive weight
   std::int16_t matbox_pos = 0;   ///< the index last drawn
 
-  std::array<float, 6> rf{};            ///< 0 untouched, 2 per wrong try, -4 when right at once
-  std::array<float, 6> zeit_gewicht{};  ///< what lateness takes from the reward
-  std::array<std::int16_t, 6> wdh_gewicht{};                                 ///< listening repeats
-  std::array<std::array<std::int16_t, kWrongAnswers + 1>, 6> f_antw_wert{};  ///< slots 1 to 4
-
   std::int16_t aufg_gesamt = 0;                             ///< tasks of a test
   std::int16_t aufg_rest = 0;                               ///< of these left
   std::int16_t aufg_dauer = 0;                              ///< length of a test in seconds
@@ -110,9 +111,8 @@ class FrequencyBox {
   void build_training();
   void build_test(const TestTiming& timing);
   void add_weight(std::int16_t value, float amount);
-  void settle_result(std::size_t i);
-  void count_confusions(std::size_t i);
-  void StatEintrag(StatisticRow row, std::size_t i);
+  void count_confusions(const AnsweredInterval& interval);
+  void StatEintrag(StatisticRow row, float rf);
   BoxOutcome standing();
   std::int16_t draw_offered();
   void draw_training_place();

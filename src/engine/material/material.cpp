@@ -7,7 +7,6 @@
 #include "base/runtime_error.h"
 #include "music/interval.h"
 #include "music/tones.h"
-#include "sound/tuning.h"
 
 namespace tonarix {
 
@@ -65,7 +64,6 @@ bool Material::mat_wahl() {
   draw_acceptable_row();
   if (settings_.tongeschl == 2) find_thirds();
   for (int i = 0; i < 3; ++i) letzte_reihe_[static_cast<std::size_t>(i)] = tone(i).chr;
-  tune();
   erster_lauf = false;
   return new_key;
 }
@@ -215,15 +213,6 @@ void Material::find_thirds() {
     if (tone(i).qz == skala(3).qz) terz_typ |= 1;
     if (tone(i).qz == skala(4).qz) terz_typ |= 2;
   }
-}
-
-void Material::tune() {
-  ton_abw.fill(0);
-  for (int i = 0; i <= settings_.invzahl + 1; ++i) {
-    ton_abw[static_cast<std::size_t>(i)] =
-        tuning_deviation(tone(i), settings_.stimm_g, key_.qz_transpos);
-  }
-  freq_abw = draw_freq_abw(settings_.frequenz, chance_);
 }
 
 }  // namespace tonarix

@@ -34,8 +34,6 @@ class Material {
   bool erster_lauf = true;  ///< no task has been drawn yet: the key is due
   /// Thirds over the keynote in a Dur-moll row: 0 none, 1 minor, 2 major, 3 both.
   std::int16_t terz_typ = 0;
-  std::array<std::int16_t, 6> ton_abw{};  ///< deviation of each tone in bend steps, by temperament
-  std::int16_t freq_abw = 0;              ///< common detuning of the task, -16 to 16 bend steps
 
   /// Rows drawn again so far, by reason.
   const std::array<std::int64_t, kRefusals>& refused() const { return refused_; }
@@ -64,7 +62,6 @@ class Material {
   void draw_okt_zusatz();
   bool repeats_last_task() const;
   void find_thirds();
-  void tune();
 
   // range_repair.cpp
   bool TonraumTest(int i);

@@ -20,8 +20,8 @@ bool pressable(const Button* button) {
 
 }  // namespace
 
-ExerciseView::ExerciseView(ExerciseWindow& window, const Texts& texts, Sound sound)
-    : WindowView(window, texts), window_(window), sound_(sound) {
+ExerciseView::ExerciseView(ExerciseWindow& window, const Texts& texts, SoundingWindow* sounding)
+    : WindowView(window, texts), window_(window), sounding_(sounding) {
   // The focus begins at the window itself, so that Return never leaves by accident.
   setFocusPolicy(Qt::ClickFocus);
   halves_ = new QBoxLayout(QBoxLayout::LeftToRight, &content());
@@ -48,7 +48,7 @@ void ExerciseView::build_head(const Control& explanation) {
   middle_->addLayout(head_);
 }
 
-void ExerciseView::build_row(const Control& title, const Control* lead) {
+Card* ExerciseView::build_messages(const Control& title) {
   Card* row_card = card(nullptr, nullptr);
   row_card->head().addWidget(label(title, TextRole::title));
   messages_ = new Place(row_card);
@@ -59,24 +59,30 @@ void ExerciseView::build_row(const Control& title, const Control* lead) {
     messages_->add(*shown);
   }
   row_card->head().addWidget(messages_, 1);
+  middle_->addWidget(row_card);
+  return row_card;
+}
 
-  row_ = new AnswerRow(sound_ == Sound::heard, row_card);
+void ExerciseView::build_row(const Control& title, const Control* lead,
+                             const PlaceControls& places) {
+  Card* row_card = build_messages(title);
+  places_ = &places;
+  row_ = new AnswerRow(sounding_ != nullptr, row_card);
   if (lead) row_->set_lead(*label(*lead, TextRole::note));
   for (int i = 0; i < AnswerRow::kFields; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    const Control& number = window_.nriv[i];
+    const Control& number = places.nriv[i];
     bindings().bind(*row_->marks[at], number,
                     [this, i, &number] { row_->set_number(i, to_qstring(number.text)); });
-    bindings().bind(*row_->fields[at], window_.ergebnis[i], {.signs = true});
+    bindings().bind(*row_->fields[at], places.ergebnis[i], {.signs = true});
   }
-  for (int i = 0; sound_ == Sound::heard && i <= AnswerRow::kFields; ++i) {
+  for (int i = 0; sounding_ && i <= AnswerRow::kFields; ++i) {
     SoundingMark* mark = row_->sounding[static_cast<std::size_t>(i)];
-    bindings().bind(*mark, window_.sounding[i], [this, mark, i] {
+    bindings().bind(*mark, sounding_->sounding[i], [this, mark, i] {
       mark->setAccessibleName(word(1127_text) + QLatin1Char(' ') + QString::number(i + 1));
     });
   }
   row_card->body().addWidget(row_);
-  middle_->addWidget(row_card);
 }
 
 void ExerciseView::build_standing() {
@@ -100,7 +106,7 @@ void ExerciseView::build_training(Card& card) {
   auto* place = new Place(&card);
   place->add(*label(window_.ergebnis_anz[0], TextRole::title));
   for (const int end : {1, 2}) {
-    auto* verdict = new Verdict(end == 1 ? Label::Sign::right : Label::Sign::wrong, &card);
+    auto* verdict = new EndPanel(end == 1 ? Label::Sign::right : Label::Sign::wrong, &card);
     bindings().bind(*verdict, window_.ergebnis_anz[end]);
     place->add(*verdict);
   }
@@ -133,20 +139,19 @@ void ExerciseView::build_counters(Card& card) {
   struct Line {
     const Control& number;
     const Control& name;
-    bool shown;
   };
-  const bool heard = sound_ == Sound::heard;
-  const Line lines[] = {{window_.zaehler[0], window_.true_false[0], true},
-                        {window_.zaehler[1], window_.true_false[1], true},
-                        {window_.whlgzaehler, window_.repeat_label, heard},
-                        {window_.GrdtonWhlg, window_.keynote_label, heard}};
+  std::vector<Line> lines{{window_.zaehler[0], window_.true_false[0]},
+                          {window_.zaehler[1], window_.true_false[1]}};
+  if (sounding_) {
+    lines.push_back({sounding_->whlgzaehler, sounding_->repeat_label});
+    lines.push_back({sounding_->GrdtonWhlg, sounding_->keynote_label});
+  }
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(theme::inside);
   grid->setVerticalSpacing(2);
   grid->setColumnStretch(1, 1);
   int row = 0;
   for (const Line& line : lines) {
-    if (!line.shown) continue;
     Label* number = label(line.number, TextRole::number);
     number->setMinimumWidth(44);
     grid->addWidget(number, row, 0);
@@ -161,11 +166,11 @@ void ExerciseView::build_counters(Card& card) {
 void ExerciseView::build_actions(const Control* frame) {
   auto* line = action_line_ = new ActionLine(this);
   if (frame) bindings().bind(*line, *frame, {});
-  if (sound_ == Sound::heard) {
-    line->add_left(*action(window_.grundton, [this] { window_.grundton_click(); }));
+  if (sounding_) {
+    line->add_left(*action(sounding_->grundton, [this] { sounding_->grundton_click(); }));
     auto* repeats = new Place(line);
-    repeats->add(*action(window_.wieder, [this] { window_.wieder_click(); }));
-    repeats->add(*action(window_.wieder2, [this] { window_.wieder2_click(); }));
+    repeats->add(*action(sounding_->wieder, [this] { sounding_->wieder_click(); }));
+    repeats->add(*action(sounding_->wieder2, [this] { sounding_->wieder2_click(); }));
     line->add_left(*repeats);
   }
   auto* next = new Place(line);
@@ -198,9 +203,9 @@ Button* ExerciseView::button_of(const Control* control) const {
 
 void ExerciseView::applied() {
   // Before the captions are there nothing would be seen but empty frames.
-  const bool prepared = !window_.zurueck.text.empty();
+  const bool prepared = window_.phase() != Phase::starting;
   content().setVisible(prepared);
-  action_line_->setVisible(prepared);
+  if (action_line_) action_line_->setVisible(prepared);
 
   const Button* way_on = button_of(window_.default_button());
   for (const ActionButton& action : action_buttons_) {
@@ -211,18 +216,19 @@ void ExerciseView::applied() {
     }
   }
 
-  int fields = 0;
-  int current = -1;
-  for (int i = 0; i < AnswerRow::kFields; ++i) {
-    if (window_.ergebnis[i].visible) fields = i + 1;
-    if (window_.nriv[i].visible) current = i;
+  if (row_) {
+    int fields = 0;
+    int current = -1;
+    for (int i = 0; i < AnswerRow::kFields; ++i) {
+      if (places_->ergebnis[i].visible) fields = i + 1;
+      if (places_->nriv[i].visible) current = i;
+    }
+    row_->show_state(fields, current);
   }
-  row_->show_state(fields, current);
-
-  const bool training = window_.matboxanz[window_.matboxanz.last].visible;
-  const bool test = window_.cmd_test_ein.visible || window_.cmd_test_aus.visible;
-  training_card_->setVisible(training);
-  test_card_->setVisible(test);
+  if (column_) {
+    training_card_->setVisible(is_training(window_.level()));
+    test_card_->setVisible(is_test(window_.level()));
+  }
   for (AnswerGrid* grid : grids_) {
     int place = 0;
     for (AnswerButton* answer : grid->shown()) {

@@ -4,6 +4,7 @@
 
 #include "base/windows/window_view.h"
 #include "engine/exercise_window.h"
+#include "engine/sounding_window.h"
 #include "engine/windows/answer_grid.h"
 #include "engine/windows/answer_row.h"
 #include "engine/windows/places.h"
@@ -16,24 +17,27 @@ namespace tonarix {
 
 /// What all exercise windows look like: the question on top, the tone row, below it the answers of
 /// the exercise itself, beside them a narrow column with standing, counters and further cards, and
-/// one line of actions. A subclass calls the build functions in this order, which is the reading
-/// and the tab order, and puts its answers into `middle()` and its own cards into `column()`.
+/// one line of actions. A subclass calls the build functions that it needs in this order, which is
+/// the reading and the tab order, and puts its answers into `middle()` and its own cards into
+/// `column()`.
 ///
 /// Keys beside those of every window: Return presses the default button of the logic, Escape asks
 /// it, 1 to 9 and 0 press the shown answers in reading order, and the letters that are marked for
 /// Alt press the actions without Alt too, as nothing here takes typed text.
 class ExerciseView : public WindowView {
  public:
-  enum class Sound { heard, silent };
-
-  ExerciseView(ExerciseWindow& window, const Texts& texts, Sound sound = Sound::heard);
+  /// `sounding` is the same window where its rows are heard, else null.
+  ExerciseView(ExerciseWindow& window, const Texts& texts, SoundingWindow* sounding = nullptr);
   QSize sizeHint() const override;
 
  protected:
   /// The question, and on the right what explains it.
   void build_head(const Control& explanation);
-  /// Card with the tone row; `lead` is a short heading above the place of the first tone, or null.
-  void build_row(const Control& title, const Control* lead);
+  /// Card with the message line.
+  Card* build_messages(const Control& title);
+  /// The same with the tone row; `lead` is a short heading above the place of the first tone, or
+  /// null.
+  void build_row(const Control& title, const Control* lead, const PlaceControls& places);
   /// Standing and counters.
   void build_standing();
   /// The line of actions, in the frame of the logic where it has one.
@@ -76,13 +80,14 @@ class ExerciseView : public WindowView {
   void build_counters(Card& card);
 
   ExerciseWindow& window_;
-  Sound sound_;
+  SoundingWindow* sounding_;
   QBoxLayout* halves_ = nullptr;
   QBoxLayout* head_ = nullptr;
   QVBoxLayout* middle_ = nullptr;
   QVBoxLayout* column_ = nullptr;
   QWidget* column_box_ = nullptr;
   AnswerRow* row_ = nullptr;
+  const PlaceControls* places_ = nullptr;
   ActionLine* action_line_ = nullptr;
   Label* explained_ = nullptr;
   Place* messages_ = nullptr;

@@ -78,13 +78,13 @@ void PercentBar::paintEvent(QPaintEvent*) {
   painter.drawPolygon(QPolygonF({{x - 5, y - tip}, {x + 5, y - tip}, {x, y + tip}}));
 }
 
-Verdict::Verdict(Sign sign, QWidget* parent) : Label(TextRole::title, parent) {
+EndPanel::EndPanel(Sign sign, QWidget* parent) : Label(TextRole::title, parent) {
   setAlignment(Qt::AlignCenter);
   setMinimumHeight(28);
   set_sign(sign);
 }
 
-void Verdict::paintEvent(QPaintEvent* event) {
+void EndPanel::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

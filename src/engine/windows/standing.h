@@ -35,9 +35,9 @@ class PercentBar final : public QWidget {
 };
 
 /// The end of a training on a surface of its colour, with its sign.
-class Verdict final : public Label {
+class EndPanel final : public Label {
  public:
-  Verdict(Sign sign, QWidget* parent);
+  EndPanel(Sign sign, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

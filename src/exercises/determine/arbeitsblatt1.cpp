@@ -1,7 +1,6 @@
 #include "exercises/determine/arbeitsblatt1.h"
 
 #include "base/arithmetic.h"
-#include "music/degrees.h"
 
 namespace tonarix {
 
@@ -17,85 +16,73 @@ std::string setting(const std::vector<std::string>& pairs, std::string_view labe
 
 }  // namespace
 
-Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& context)
-    : ExerciseWindow("arbeitsblatt1", context) {}
+Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& given)
+    : SoundingWindow("arbeitsblatt1", given),
+      NamingAnswers(static_cast<Window&>(*this), context(), answers()) {}
 
 void Arbeitsblatt1::prepare() {
+  SoundingWindow::prepare();
+  prepare_names();
   Label1.text = Wort(1150_text);
   Label4.text = Wort(1151_text);
+  Label1.visible = by_degree();
+  Label4.visible = !by_degree();
   int_lb.text = Wort(1155_text);
   row_title.text = Wort(1156_text);
   situation.text = Wort(556_text) + Wort(700_text) + Wort(297_text);
-  static constexpr std::array<TextKey, 3> kScales{1152_text, 1153_text, 1154_text};
-  static constexpr std::array<int, 3> kPictureOf{1, 0, 2};  // by tongeschl
-  const int picture = kPictureOf.at(static_cast<std::size_t>(settings().tongeschl));
-  for (int i = scala.first; i <= scala.last; ++i) {
-    Label2[i].text = Label3[i].text = Wort(kScales.at(static_cast<std::size_t>(i)));
-    scala[i].visible = Label2[i].visible = by_degree() && i == picture;
-    scalab[i].visible = Label3[i].visible = !by_degree() && i == picture;
-  }
-  Label1.visible = by_degree();
-  Label4.visible = !by_degree();
-
-  for (int i = st_int.first; i <= st_int.last; ++i) {
-    st_int[i].visible = by_degree() && i <= key().anz_stufen;
-    if (i <= key().anz_stufen) {
-      st_int[i].text =
-          degree_caption(settings().tongeschl, i - 1, context().interval_names, context().texts);
-    }
-  }
-  for (int i = intervall.first; i <= intervall.last; ++i) {
-    intervall[i].text = context().interval_names.long_name(i);
-    intervall[i].visible = false;
-  }
-  if (!by_degree()) IvKnoepfe();
-
+  show_scale();
   std::string line = situation.text;
   for (const char* label : {"Tongeschlecht", "Stimmung", "Tempo"}) {
-    const std::string value = setting(settings().EinstDatSave, label);
+    const std::string value = setting(context().settings.EinstDatSave, label);
     if (!value.empty()) line += " · " + value;
   }
   settings_line.text = line;
 }
 
-void Arbeitsblatt1::IvKnoepfe() {
-  const auto offered = offered_codes(settings(), key());
-  for (Control& button : intervall) {
-    button.visible = offered.test(static_cast<std::size_t>(*button.index()));
+void Arbeitsblatt1::show_scale() {
+  static constexpr std::array<TextKey, 3> kScales{1152_text, 1153_text, 1154_text};
+  static constexpr std::array<int, 3> kPictureOf{1, 0, 2};  // by tongeschl
+  const int picture = kPictureOf.at(static_cast<std::size_t>(context().settings.tongeschl));
+  for (int i = scala.first; i <= scala.last; ++i) {
+    Label2[i].text = Label3[i].text = Wort(kScales.at(static_cast<std::size_t>(i)));
+    scala[i].visible = Label2[i].visible = by_degree() && i == picture;
+    scalab[i].visible = Label3[i].visible = !by_degree() && i == picture;
   }
 }
 
-void Arbeitsblatt1::set_answers_enabled(bool open) {
-  const auto set = [&](Control& button) {
-    button.enabled = open && !locked(to_int16(*button.index()));
-  };
-  for (Control& button : st_int) set(button);
-  for (Control& button : intervall) set(button);
+void Arbeitsblatt1::show_actions(const Actions& actions) {
+  SoundingWindow::show_actions(actions);
+  mark_asked(actions);
+  if (Schalter && actions.answers) run("AutoAntwort.", AutoAntwort());
 }
 
-std::string Arbeitsblatt1::VorzeichenText() const {
-  return Sgn(iv()) == 1 ? "+" : "-";
+std::string Arbeitsblatt1::question_text() const {
+  return Wort(1111_text);
 }
 
-std::string Arbeitsblatt1::answer_text(std::int16_t code) const {
-  if (by_degree()) return st_int[code].text;
-  return VorzeichenText() + " " + context().interval_names.long_name(code);
+void Arbeitsblatt1::st_int_click(int index) {
+  press(st_int[index], "intervall_antw.", [&] { answer(to_int16(index)); });
 }
 
-void Arbeitsblatt1::press_answer(std::int16_t code) {
+void Arbeitsblatt1::intervall_click(int index) {
+  press(intervall[index], "intervall_antw.", [&] { answer(to_int16(index)); });
+}
+
+void Arbeitsblatt1::answer(std::int16_t code) {
+  intervall_antw(code);
+  go_on_after_answer();
+}
+
+Sequence Arbeitsblatt1::AutoAntwort() {
+  co_await Delay(draw(context().chance, 10) * 400 + 300);
+  co_await Delay(50);
+  if (waits().closed()) co_return;
+  const std::int16_t code = try_code();
   if (by_degree()) {
     st_int_click(code);
   } else {
     intervall_click(code);
   }
-}
-
-void Arbeitsblatt1::st_int_click(int index) {
-  press(st_int[index], "intervall_antw.", [&] { intervall_antw(to_int16(index)); });
-}
-
-void Arbeitsblatt1::intervall_click(int index) {
-  press(intervall[index], "intervall_antw.", [&] { intervall_antw(to_int16(index)); });
 }
 
 }  // namespace tonarix

@@ -1,30 +1,20 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <string>
 
-#include "engine/exercise_window.h"
+#include "engine/sounding_window.h"
+#include "exercises/determine/naming_answers.h"
 
 namespace tonarix {
 
-/// Codes of the direct answer buttons by rising size of the interval, prime first.
-inline constexpr std::array<std::int16_t, 21> kAnswerOrder{1,  14, 11, 4, 21, 18, 7,  8, 17, 3, 12,
-                                                           13, 2,  16, 9, 6,  19, 20, 5, 10, 15};
-
-/// Naming the intervals of a row by ear: the row sounds, and each interval in turn is named with
-/// one button. Two panels of buttons, degrees over the keynote or intervals from tone to tone; one
-/// of them shows.
-class Arbeitsblatt1 final : public ExerciseWindow {
+/// Naming the intervals of a row by ear.
+class Arbeitsblatt1 final : public SoundingWindow, public NamingAnswers {
  public:
   explicit Arbeitsblatt1(const ExerciseContext& context);
 
   void st_int_click(int index);
   void intervall_click(int index);
 
-  Control inv_box{*this, "inv_box"};
-  ControlArray<Control, 1, 11> st_int{*this, "st_int"};        ///< degree number: row + 1
-  ControlArray<Control, 1, 21> intervall{*this, "intervall"};  ///< |code|
   ControlArray<Control, 0, 2> scala{*this, "scala"};    ///< scale pictures: moll, Dur, Dur-moll
   ControlArray<Control, 0, 2> scalab{*this, "scalab"};  ///< the same beside the direct buttons
   ControlArray<Control, 0, 2> Label2{*this, "Label2"};  ///< captions of `scala`
@@ -37,16 +27,21 @@ class Arbeitsblatt1 final : public ExerciseWindow {
   Control row_title{*this, "row_title"};
   Control settings_line{*this, "settings_line"};  ///< key, tuning and tempo in force
 
+  /// Lets the program answer by itself, to try a window out. Nothing in the program sets it.
+  bool Schalter = false;
+
  protected:
   void prepare() override;
-  void set_answers_enabled(bool open) override;
-  std::string answer_text(std::int16_t code) const override;
-  void press_answer(std::int16_t code) override;
+  void show_task() override { clear_names(); }
+  void open_answers(bool open) override { open_names(open); }
+  void show_actions(const Actions& actions) override;
+  std::string question_text() const override;
 
  private:
-  void IvKnoepfe();
-  std::string VorzeichenText() const;
-  bool by_degree() const { return settings().abfr_iv == Naming::from_keynote; }
+  void show_scale();
+  void answer(std::int16_t code);
+  Sequence AutoAntwort();
+  std::string Wort(TextKey nr) const { return context().texts.Wort(nr); }
 };
 
 }  // namespace tonarix

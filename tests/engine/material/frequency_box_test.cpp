@@ -100,18 +100,19 @@ TEST(FrequencyBox, MovesAsWorkedOutByHand) {
     if (next() == 0) bed.emplace(material_of(1, mode, abfr_iv), 1);
     FrequencyBox& box = bed->box;
     box.begin_task();
-    bed->row.iv[0] = to_int16(next());
+    AnsweredInterval interval;
+    interval.interval = to_int16(next());
     int wrong = 0;
     for (int i = 0; i < 4; ++i) {
       const std::int16_t value = to_int16(next());
-      if (value != 0) box.f_antw_wert[0][static_cast<std::size_t>(++wrong)] = value;
+      if (value != 0) interval.f_antw_wert[static_cast<std::size_t>(++wrong)] = value;
     }
-    box.rf[0] = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
-    box.wdh_gewicht[0] = to_int16(next());
-    box.zeit_gewicht[0] = static_cast<float>(next());
-    const StatisticRow row = statistic_row(bed->row.iv[0], bed->settings.abfr_iv);
+    interval.rf = wrong == 0 ? -4.0F : 2.0F * static_cast<float>(wrong);
+    interval.wdh_gewicht = to_int16(next());
+    interval.zeit_gewicht = static_cast<float>(next());
+    const StatisticRow row = statistic_row(interval.interval, bed->settings.abfr_iv);
     const float before = statistic(*bed, row, 1);
-    const BoxOutcome outcome = box.BoxAuswerten(bed->row, 1);
+    const BoxOutcome outcome = box.BoxAuswerten({&interval, 1});
 
     EXPECT_NEAR(statistic(*bed, row, 1) - before, next(), 1e-4);
     EXPECT_EQ(box.box_summe, next());
@@ -130,15 +131,13 @@ TEST(FrequencyBox, MovesAsWorkedOutByHand) {
   }
 }
 
-TEST(FrequencyBox, LeavesOutAGivenFirstInterval) {
+TEST(FrequencyBox, AnEmptySlotEndsTheWrongAnswers) {
   Settings settings = material_of(1, 0, 1);
   settings.ton_st_wahl = 1;
   settings.stufe_wahl = 4;
   MaterialBed bed(settings, 1);
-  bed.row.iv = {2, 4};
-  bed.box.rf = {-4, 8};
-  bed.box.f_antw_wert[1] = {0, 2, -3, 0, 6};  // an empty slot ends the wrong answers
-  bed.box.BoxAuswerten(bed.row, 2);
+  const AnsweredInterval wrong{4, 8, 0, 0, {0, 2, -3, 0, 6}};
+  bed.box.BoxAuswerten({&wrong, 1});
   const auto weight = [&](int value) {
     return std::ranges::find(bed.box.mathaeufgk_box, value, &BoxRow::value)->weight;
   };

@@ -6,7 +6,6 @@
 
 #include "base/runtime_error.h"
 #include "engine/material/worked_examples.h"
-#include "sound/tuning.h"
 #include "support/material_bed.h"
 #include "support/material_settings.h"
 
@@ -15,9 +14,7 @@ namespace {
 
 TEST(Material, EveryRowInEverySettingKeepsTheLaws) {
   std::uint64_t seed = 100;
-  for (Settings settings : material_settings()) {
-    settings.stimm_g = static_cast<std::int16_t>(seed % 3);
-    settings.frequenz = static_cast<std::int16_t>(seed % 2);
+  for (const Settings& settings : material_settings()) {
     MaterialBed bed(settings, seed++);
     std::array<Tone, 6> last{};
     for (int n = 0; n < 8; ++n) {
@@ -25,11 +22,6 @@ TEST(Material, EveryRowInEverySettingKeepsTheLaws) {
       ASSERT_EQ(broken_law(bed), "") << describe(settings);
       ASSERT_TRUE(settings.invzahl > 1 || bed.row.inv_ton != last) << describe(settings);
       last = bed.row.inv_ton;
-      for (std::size_t i = 0; i <= static_cast<std::size_t>(settings.invzahl) + 1; ++i) {
-        ASSERT_EQ(bed.material.ton_abw[i],
-                  tuning_deviation(bed.row.inv_ton[i], settings.stimm_g, bed.key.qz_transpos));
-      }
-      ASSERT_LE(std::abs(bed.material.freq_abw), settings.frequenz * 16);
       if (!bed.answer(0.4)) bed.begin();
     }
   }

@@ -25,7 +25,7 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
     MaterialBed left(training(abfr_iv, 2), 21);
     for (int task = 0; task < 15; ++task) {
       left.material.mat_wahl();
-      left.box.zeit_gewicht[1] = 1.3F;
+      left.lateness = 1.3F;
       ASSERT_TRUE(left.answer(0.5));
     }
     const std::vector<std::string> record = record_of(left);

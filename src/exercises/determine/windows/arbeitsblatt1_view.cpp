@@ -15,9 +15,9 @@ constexpr std::int16_t kTongeschlOfPicture[] = {1, 0, 2};  // moll, Dur, Dur-mol
 }  // namespace
 
 Arbeitsblatt1View::Arbeitsblatt1View(Arbeitsblatt1& window, const Texts& texts)
-    : ExerciseView(window, texts), sheet_(window) {
+    : ExerciseView(window, texts, &window), sheet_(window) {
   build_head(window.settings_line);
-  build_row(window.row_title, &window.int_lb);
+  build_row(window.row_title, &window.int_lb, window);
   build_answers();
   build_standing();
   build_scale();

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "base/chance.h"
+#include "base/dialogs.h"
+#include "base/texts.h"
+#include "base/wall_clock.h"
+#include "base/window.h"
+#include "host/error_report.h"
+#include "host/server.h"
+#include "music/interval.h"
+#include "music/key.h"
+#include "music/tones.h"
+#include "protocol/protokoll.h"
+#include "settings/saved_training.h"
+#include "settings/settings.h"
+#include "sound/midi.h"
+#include "statistics/records.h"
+
+namespace tonarix {
+
+/// What an exercise tells the window that opened it.
+struct ExerciseCaller {
+  std::function<void()> training_saved;     ///< the training can be gone on with
+  std::function<void()> training_finished;  ///< the saved training is used up
+  std::function<void()> show_again;         ///< the exercise has closed
+};
+
+/// Whom and what an exercise window works with; all of it outlives the window.
+struct ExerciseContext {
+  Scheduler& scheduler;
+  WindowList& windows;
+  const Texts& texts;
+  Server& server;
+  ErrorReport& errors;
+  Dialogs& dialogs;
+  const WallClock& clock;
+  Chance& chance;
+  Midi& midi;
+  MidiEvent& midi_event;
+  Settings& settings;
+  std::optional<SavedTraining>& saved_training;  ///< what level 2 goes on with
+  Key& key;
+  TaskRow& row;
+  Auswertung& statistics;
+  Ergebnis& best;
+  Protokoll& protocol;
+  const ToneNames& tone_names;
+  const IntervalNames& interval_names;
+  ExerciseCaller caller;
+  /// Opens the result sheet; `closed` runs when the student has left it.
+  std::function<void(std::function<void()> closed)> open_result;
+};
+
+}  // namespace tonarix

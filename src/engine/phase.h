@@ -1,0 +1,112 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "base/text_key.h"
+
+namespace tonarix {
+
+/// Where an exercise stands. One value at any moment.
+enum class Phase : std::uint8_t {
+  starting,           ///< no task has been drawn yet
+  sounding,           ///< the task, a repeat or its keynote sounds
+  answering,          ///< the answers are open
+  row_done,           ///< all is answered; how it goes on is still to be chosen
+  control_sounding,   ///< the row or its keynote sounds once more
+  next_offered,       ///< it has sounded, the next task waits
+  training_finished,  ///< solved, or too hard
+  finished_sounding,  ///< the last row of a finished training sounds once more
+  test_finished,      ///< all tasks of a test are done
+  test_sounding,      ///< the keynote of a test's last row sounds
+  time_up,            ///< the time of a test is used up
+  leaving,            ///< on the way out
+};
+inline constexpr int kPhases = 12;
+
+/// How an action shows.
+enum class Shown : std::uint8_t {
+  hidden,
+  closed,
+  open,
+  shut,  ///< closed, and shown or hidden as before
+};
+
+/// The action that Return presses.
+enum class Way : std::uint8_t { none, wieder2, next_task, zurueck };
+
+/// Which actions are open in a phase, and the two lines that go with it.
+struct Actions {
+  Phase phase;
+  bool answers;
+  Shown wieder;
+  Shown wieder2;
+  bool grundton;
+  bool next_task;
+  Way way_on;
+  bool asks;     ///< the question of the task stands above the row
+  TextKey hint;  ///< what comes, 0 for nothing
+};
+
+// clang-format off
+inline constexpr std::array<Actions, kPhases> kActions{{
+    // phase                   answers wieder         wieder2        grundton next  way on          asks   hint
+    {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}},
+    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  1110_text},
+    {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}},
+    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, 1109_text},
+    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, 1110_text},
+    {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, {}},
+    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, 1114_text},
+    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, 1110_text},
+    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, 1117_text},
+    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, 1110_text},
+    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, 1117_text},
+    {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
+}};
+// clang-format on
+constexpr const Actions& actions_in(Phase phase) {
+  return kActions[static_cast<std::size_t>(phase)];
+}
+static_assert([] {
+  for (const Actions& row : kActions) {
+    if (&row != &actions_in(row.phase)) return false;
+  }
+  return true;
+}());
+
+/// The exercise has come to its end.
+constexpr bool is_over(Phase phase) {
+  return actions_in(phase).way_on == Way::zurueck;
+}
+/// The row of the task is still being asked.
+constexpr bool row_is_asked(Phase phase) {
+  return phase == Phase::sounding || phase == Phase::answering;
+}
+/// The phase while a row that was asked to the end sounds once more, and the phase after it.
+constexpr Phase sounding_again(Phase phase) {
+  switch (phase) {
+    case Phase::training_finished:
+      return Phase::finished_sounding;
+    case Phase::test_finished:
+      return Phase::test_sounding;
+    default:
+      return Phase::control_sounding;
+  }
+}
+constexpr Phase after_sounding(Phase phase) {
+  switch (phase) {
+    case Phase::sounding:
+      return Phase::answering;
+    case Phase::control_sounding:
+      return Phase::next_offered;
+    case Phase::finished_sounding:
+      return Phase::training_finished;
+    case Phase::test_sounding:
+      return Phase::test_finished;
+    default:
+      return phase;
+  }
+}
+
+}  // namespace tonarix

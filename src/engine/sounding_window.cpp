@@ -1,0 +1,130 @@
+#include "engine/sounding_window.h"
+
+#include <algorithm>
+
+#include "base/arithmetic.h"
+#include "sound/tuning.h"
+
+namespace tonarix {
+
+namespace {
+
+constexpr double kResetPause = 50;  // ms for a device to fall silent
+
+void show_action(Control& control, Shown shown) {
+  if (shown != Shown::shut) control.visible = shown != Shown::hidden;
+  control.enabled = shown == Shown::open;
+}
+
+}  // namespace
+
+SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given,
+                               std::unique_ptr<RowPlayer> player)
+    : ExerciseWindow(std::move(name), given),
+      SoundControls(static_cast<Window&>(*this)),
+      player_(std::move(player)) {
+  if (!player_) {
+    player_ = std::make_unique<SoundingPlayer>(given.scheduler, waits(), given.midi, given.settings,
+                                               given.key, given.row, given.chance);
+  }
+  player_->sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
+  player_->shows = [this](int place) { show_sounding(place); };
+  context().midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+}
+
+SoundingWindow::~SoundingWindow() {
+  context().midi_event.QueueEmpty = nullptr;
+}
+
+void SoundingWindow::prepare() {
+  const Texts& texts = context().texts;
+  wieder.text = texts.Wort(629_text);
+  wieder2.text = texts.Wort(632_text);
+  grundton.text = texts.Wort(300_text);
+  repeat_label.text = texts.Wort(1115_text);
+  keynote_label.text = texts.Wort(1116_text);
+  show_sounding(-1);
+}
+
+TaskTuning SoundingWindow::tune() {
+  tuning_ = tune_row(context().settings, context().key, context().row, context().chance);
+  return tuning_;
+}
+
+LessonFacts SoundingWindow::lesson_facts() const {
+  LessonFacts facts = ExerciseWindow::lesson_facts();
+  if (!tones_are_bent(context().settings.stimm_g, context().settings.frequenz)) return facts;
+  for (std::size_t i = 0; i < facts.qz_tones.size(); ++i) {
+    facts.pb_abweichung.push_back(to_int16(tuning_.ton_abw[i] + tuning_.freq_abw));
+  }
+  return facts;
+}
+
+void SoundingWindow::show_actions(const Actions& actions) {
+  show_action(wieder, actions.wieder);
+  show_action(wieder2, actions.wieder2);
+  grundton.enabled = actions.grundton;
+}
+
+void SoundingWindow::show_counts(const TaskAnswers::Counts& counts) {
+  whlgzaehler.text = std::to_string(counts.repeats);
+  GrdtonWhlg.text = std::to_string(counts.keynotes);
+}
+
+const Control* SoundingWindow::default_button() const {
+  const Control* button = ExerciseWindow::default_button();
+  return button == nullptr && wieder2.open() ? &wieder2 : button;
+}
+
+void SoundingWindow::wieder_click() {
+  press(wieder, "wieder_click.", [this] { return repeat(SpielArt::wieder); });
+}
+
+void SoundingWindow::wieder2_click() {
+  press(wieder2, "wieder2_click.", [this] { return play_again(SpielArt::wieder2); });
+}
+
+void SoundingWindow::grundton_click() {
+  press(grundton, "grundton_click.", [this] {
+    return row_is_asked(phase()) ? repeat(SpielArt::grundton) : play_again(SpielArt::grundton);
+  });
+}
+
+// During a task hearing costs, and the answer clock stands meanwhile.
+Sequence SoundingWindow::repeat(SpielArt what) {
+  enter(Phase::sounding);
+  if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
+  answers().pause();
+  player_->silence();
+  co_await Delay(kResetPause);
+  if (waits().closed()) co_return;
+  if (what == SpielArt::grundton) {
+    answers().count_keynote();
+  } else {
+    answers().count_repeat();
+  }
+  update_counts();
+  const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
+  co_await player_->play(what, context().row.inv_ton.at(place));
+}
+
+Sequence SoundingWindow::play_again(SpielArt what) {
+  enter(sounding_again(phase()));
+  if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
+  player_->silence();
+  co_await Delay(kResetPause);
+  if (waits().closed()) co_return;
+  const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
+  co_await player_->play(what, context().row.inv_ton.at(place));
+}
+
+void SoundingWindow::show_sounding(int place) {
+  for (Control& mark : sounding) mark.visible = mark.index() == place;
+  changed();
+}
+
+void SoundingWindow::MIDI_QueueEmpty() {
+  handle("MIDI_QueueEmpty.", [this] { player_->queue_ran_out(); });
+}
+
+}  // namespace tonarix

@@ -1,0 +1,76 @@
+#include "engine/way_out.h"
+
+#include "base/completion.h"
+#include "settings/exercises.h"
+
+namespace tonarix {
+
+namespace {
+
+constexpr double kResultPause = 300;  // ms for the result sheet to stand before the exercise goes
+
+}  // namespace
+
+Sequence WayOut::leave(std::function<bool()> keep) {
+  if (keep) co_await ask_to_save(std::move(keep));
+  controls_.zurueck.text = Wort(640_text);
+  controls_.zurueck.back.reset();
+  controls_.zurueck.fore = signal::leaving;
+  window_.enabled = false;
+  Completion sheet(waits_);
+  context_.open_result(sheet.signal());
+  co_await waits_.FullDelay(kResultPause);
+  co_await sheet;
+  co_await write_protocol();
+}
+
+Sequence WayOut::ask_to_save(std::function<bool()> keep) {
+  const Message question{Wort(8_text), Wort(495_text), MessageStyle::yes_no, Wort(1104_text),
+                         Wort(1105_text)};
+  Reply reply = co_await ask(waits_, context_.dialogs, question);
+  const Message again{Wort(8_text), Wort(1106_text), MessageStyle::yes_no, Wort(1107_text),
+                      Wort(1108_text)};
+  while (reply == Reply::yes && !keep()) {
+    reply = co_await ask(waits_, context_.dialogs, again);
+  }
+  if (reply == Reply::yes) context_.caller.training_saved();
+}
+
+Sequence WayOut::write_protocol() {
+  window_.busy = true;
+  controls_.WaitMeldung.visible = true;
+  co_await waits_.FullDelay(0);
+  FinishResult result =
+      context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
+                                         window_.caption, context_.settings.EinstDatSave);
+  while (result.failed) {
+    const Message told{"Tonarix 2000",
+                       Wort(1113_text) + "\n" + result.wanted.string() + ": " + result.reason,
+                       MessageStyle::yes_no, Wort(1107_text), Wort(1126_text)};
+    const Reply reply = co_await ask(waits_, context_.dialogs, told);
+    if (reply != Reply::yes) break;
+    result = context_.protocol.finish_again();
+  }
+  if (result.fell_back) {
+    const Message told{"Tonarix 2000",
+                       Wort(1112_text) + " " + result.wanted.string() + ": " + result.reason +
+                           "\n" + Wort(1135_text) + "\n" + result.path.string(),
+                       MessageStyle::warning, "", ""};
+    co_await ask(waits_, context_.dialogs, told);
+  }
+  go_back();
+}
+
+void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
+  context_.errors.report(tag, error);
+  go_back();
+}
+
+void WayOut::go_back() {
+  window_.busy = false;
+  controls_.WaitMeldung.visible = false;
+  context_.caller.show_again();
+  context_.windows.unload(window_);
+}
+
+}  // namespace tonarix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "engine/exercise_context.h"
+#include "engine/exercise_controls.h"
+
+namespace tonarix {
+
+/// The last steps of an exercise: keeping the training, the result sheet, the protocol, and back to
+/// the settings.
+class WayOut {
+ public:
+  WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits)
+      : context_(context), window_(window), controls_(controls), waits_(waits) {}
+
+  /// Walks to the end. `keep` stores the training and says whether it could; empty where there is
+  /// nothing to keep, and then nothing is asked.
+  Sequence leave(std::function<bool()> keep);
+  /// What can still be done is done: the student is told and is back at the settings.
+  void give_up(std::string_view tag, std::exception_ptr error);
+
+ private:
+  Sequence ask_to_save(std::function<bool()> keep);
+  Sequence write_protocol();
+  void go_back();
+  std::string Wort(TextKey nr) const { return context_.texts.Wort(nr); }
+
+  const ExerciseContext& context_;
+  Window& window_;
+  ExerciseControls& controls_;
+  Waits& waits_;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,144 @@
+#include "exercises/determine/naming_answers.h"
+
+#include <cstdlib>
+
+#include "base/arithmetic.h"
+#include "engine/answer_rules.h"
+#include "music/degrees.h"
+#include "settings/offered_intervals.h"
+
+namespace tonarix {
+
+NamingAnswers::NamingAnswers(Window& window, const ExerciseContext& context, TaskAnswers& answers)
+    : PlaceControls(window),
+      inv_box(window, "inv_box"),
+      st_int(window, "st_int"),
+      intervall(window, "intervall"),
+      context_(context),
+      answers_(answers) {}
+
+void NamingAnswers::prepare_names() {
+  const Settings& settings = context_.settings;
+  for (int i = nriv.first; i <= nriv.last; ++i) {
+    nriv[i].text = Wort(1103_text) + " " + std::to_string(i + 1);
+    nriv[i].visible = false;
+    ergebnis[i].visible = i <= settings.invzahl;
+  }
+  for (Control& button : st_int) {
+    const int number = *button.index();
+    button.visible = by_degree() && number <= context_.key.anz_stufen;
+    if (number > context_.key.anz_stufen) continue;
+    button.text =
+        degree_caption(settings.tongeschl, number - 1, context_.interval_names, context_.texts);
+  }
+  const auto offered = offered_codes(settings, context_.key);
+  for (Control& button : intervall) {
+    const int code = *button.index();
+    button.text = context_.interval_names.long_name(code);
+    button.visible = !by_degree() && offered.test(static_cast<std::size_t>(code));
+  }
+}
+
+void NamingAnswers::clear_names() {
+  gesperrt_.fill(false);
+  for (int i = ergebnis.first; i <= ergebnis.last; ++i) {
+    ergebnis[i].text.clear();
+    ergebnis[i].accessible_name = nriv[i].text;
+    ergebnis[i].back = ergebnis[i].fore = std::nullopt;
+  }
+  if (answers_.asked() == 0) return;
+  const std::int16_t code = by_degree() ? to_int16(context_.settings.stufe_wahl + 1)
+                                        : to_int16(std::abs(context_.row.iv[0]));
+  ergebnis[0].text = answer_text(code, context_.row.iv[0]);
+  ergebnis[0].accessible_name = nriv[0].text + ": " + ergebnis[0].text;
+  ergebnis[0].back = signal::right;
+  ergebnis[0].fore = signal::black;
+}
+
+void NamingAnswers::open_names(bool open) {
+  const auto set = [&](Control& button) {
+    button.enabled = open && !gesperrt_.at(static_cast<std::size_t>(*button.index()));
+  };
+  for (Control& button : st_int) set(button);
+  for (Control& button : intervall) set(button);
+}
+
+void NamingAnswers::mark_asked(const Actions& actions) {
+  if (actions.phase == Phase::leaving) return;
+  for (Control& mark : nriv) mark.visible = actions.asks && mark.index() == answers_.asked();
+}
+
+void NamingAnswers::intervall_antw(std::int16_t code) {
+  const float tenths = answers_.take();
+  if (code == std::abs(iv())) {
+    right_answer(code, tenths);
+  } else {
+    wrong_answer(code);
+  }
+}
+
+void NamingAnswers::right_answer(std::int16_t code, float tenths) {
+  const int place = answers_.asked();
+  Control& field = ergebnis[place];
+  field.back = signal::right;
+  field.fore = signal::black;
+  field.text = answer_text(code, iv());
+  field.accessible_name = nriv[place].text + ": " + field.text + ", " + Wort(1123_text);
+  answers_.right(place, tenths);
+  next_place();
+}
+
+void NamingAnswers::wrong_answer(std::int16_t code) {
+  const int place = answers_.asked();
+  const Settings& settings = context_.settings;
+  Control& field = ergebnis[place];
+  const bool was_red_on_black = field.fore == signal::wrong;
+  field.fore = was_red_on_black ? signal::black : signal::wrong;
+  field.back = was_red_on_black ? signal::wrong : signal::black;
+  const std::string solution = answer_text(to_int16(std::abs(iv())), iv());
+  const std::int16_t value = signed_wrong_answer(
+      context_.key, settings.abfr_iv, settings.ton_st_wahl, settings.stufe_wahl, code, iv());
+  if (answers_.wrong(place, value) == Verdict::given_up) {
+    field.text = solution;
+    field.accessible_name =
+        nriv[place].text + ": " + Wort(1124_text) + ", " + Wort(1125_text) + " " + solution;
+    next_place();
+    return;
+  }
+  field.text = Wort(232_text);
+  field.accessible_name = nriv[place].text + ": " + Wort(1124_text);
+  gesperrt_.at(static_cast<std::size_t>(code)) = true;
+  open_names(true);
+  answers_.open_next();
+}
+
+void NamingAnswers::next_place() {
+  gesperrt_.fill(false);
+  if (answers_.book().done()) return;
+  for (Control& mark : nriv) mark.visible = mark.index() == answers_.asked();
+  open_names(true);
+  answers_.open_next();
+}
+
+std::int16_t NamingAnswers::try_code() const {
+  const auto right = to_int16(std::abs(iv()));
+  std::int16_t code = right;
+  if (draw(context_.chance, 2) == 1) {
+    do {
+      code = to_int16(draw(context_.chance, context_.key.iv_anzahl) + 1);
+    } while (code == right || gesperrt_.at(static_cast<std::size_t>(code)));
+  }
+  return code;
+}
+
+std::int16_t NamingAnswers::iv() const {
+  return answers_.book().place(answers_.asked()).interval;
+}
+
+std::string NamingAnswers::answer_text(std::int16_t code, std::int16_t asked) const {
+  if (by_degree()) return st_int[code].text;
+  const std::string VorzeichenText = Sgn(asked) == 1 ? "+" : "-";
+  return VorzeichenText + " " + context_.interval_names.long_name(code);
+}
+
+}  // namespace tonarix
