@@ -31,7 +31,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       start_(context.scheduler, [this] { start_timer(); }),
       Uhrzeit_(context.scheduler, [this] { Uhrzeit_timer(); }),
       testtimer_(context.scheduler, [this] { zurueck_click(); }) {
-  caption = Wort(exercise_row(context.settings).title);
+  caption = context_.texts.Wort(exercise_row(context.settings).title);
   context_.statistics.init_arr(3, kStatisticRows - 1);
   context_.statistics.Clear();
   context_.best.init_arr(kStatisticRows - 1);
@@ -43,10 +43,11 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
 
 void ExerciseWindow::start_timer() {
   handle("start_timer.", [this] {
-    zurueck.text = Wort(640_text);
-    true_false[0].text = Wort(468_text);
-    true_false[1].text = Wort(232_text);
-    WaitMeldung.text = Wort(1120_text);
+    player().sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
+    zurueck.text = context_.texts.Wort(640_text);
+    true_false[0].text = context_.texts.Wort(468_text);
+    true_false[1].text = context_.texts.Wort(232_text);
+    WaitMeldung.text = context_.texts.Wort(1120_text);
     Uhr.text = time_of_day(context_.clock.now());
     next_task_.name(context_.texts, 0);
     Uhrzeit_.enable();
@@ -112,12 +113,12 @@ void ExerciseWindow::enter(Phase phase) {
   next_task_.withdraw();
   if (actions.next_task) next_task_.offer(automatic);
   if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
-  hint.text = actions.hint == TextKey{} ? "" : Wort(actions.hint);
-  if (actions.next_task && automatic) hint.text = Wort(1121_text);
+  hint.text = actions.hint == TextKey{} ? "" : context_.texts.Wort(actions.hint);
+  if (actions.next_task && automatic) hint.text = context_.texts.Wort(1121_text);
   if (is_over(phase)) {
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
-    zurueck.text = Wort(625_text);
+    zurueck.text = context_.texts.Wort(625_text);
   }
   zurueck.enabled = phase != Phase::leaving;
   open_answers(actions.answers);
@@ -144,14 +145,14 @@ void ExerciseWindow::update_counts() {
 }
 
 void ExerciseWindow::finish_row() {
-  ++tasks_done_;
+  Phase next = player().audible() ? Phase::row_done : Phase::next_offered;
   BoxOutcome outcome{1, 0};
   if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book().answered());
   if (is_training(level())) {
     standing_.show_training();
-    if (outcome.zustand == 4) return finish_training(outcome.ergebnis_anz);
+    standing_.show_panel(outcome.ergebnis_anz);
+    if (outcome.zustand == 4) next = Phase::training_finished;
   }
-  Phase next = Phase::row_done;
   if (is_test(level())) {
     if (--box_.aufg_rest == 0) {
       Uhrzeit_.disable();
@@ -162,12 +163,8 @@ void ExerciseWindow::finish_row() {
     standing_.show_test();
   }
   enter(next);
-}
-
-void ExerciseWindow::finish_training(int panel) {
-  standing_.show_panel(panel);
-  enter(Phase::training_finished);
-  if (!training_.drop()) tell(Wort(1129_text));
+  if (next != Phase::training_finished) return;
+  if (!training_.drop()) tell(context_.texts.Wort(1129_text));
   context_.caller.training_finished();
 }
 
@@ -215,7 +212,9 @@ void ExerciseWindow::zurueck_click() {
 }
 
 std::function<bool()> ExerciseWindow::way_to_keep() {
-  if (is_over(phase_) || broken_ || !is_training(level()) || tasks_done_ == 0) return {};
+  const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
+  const bool ended = is_over(phase_) || phase_ == Phase::broken;
+  if (ended || !is_training(level()) || tasks_done == 0) return {};
   return [this] {
     return training_.keep(training_state(box_, context_.settings, context_.statistics,
                                          answers_.counts.wrong, answers_.counts.repeats));
@@ -234,12 +233,10 @@ void ExerciseWindow::stop_all() {
 
 void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
   if (phase_ == Phase::leaving && tag == kLeavingTag) return way_out_.give_up(tag, error);
-  if (broken_ || phase_ == Phase::leaving) return context_.errors.log(tag, error);
+  if (phase_ == Phase::broken || phase_ == Phase::leaving) return context_.errors.log(tag, error);
   if (is_device_failure(error)) return device_failed(tag, error);
-  broken_ = true;
   stop_all();
-  open_answers(false);
-  next_task_.withdraw();
+  enter(Phase::broken);
   context_.errors.report_exercise(name(), tag, error, [this, alive = std::weak_ptr<bool>(alive_)] {
     if (alive.expired()) return;
     testtimer_.set_interval(0);
@@ -254,7 +251,7 @@ void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr erro
   player().forget();
   after_playing();
   // The time that goes into reading the message is not the student's.
-  tell(Wort(1128_text), [this] { answers_.open(); });
+  tell(context_.texts.Wort(1128_text), [this] { answers_.open(); });
 }
 
 void ExerciseWindow::tell(const std::string& text, std::function<void()> then) {

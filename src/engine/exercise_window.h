@@ -44,22 +44,19 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void enter(Phase phase);
   /// After a verdict: counts, and ends the row once all of it is answered.
   void go_on_after_answer();
-  void update_counts();
-  /// What plays has run its time: the next phase begins.
-  void after_playing();
 
  private:
+  void after_playing();
   void start_timer();
   void prepare_level();
   Sequence mat_wahl();
+  void update_counts();
   void finish_row();
-  void finish_training(int panel);
   void Uhrzeit_timer();
   void stop_all();
   std::function<bool()> way_to_keep();
   void device_failed(std::string_view tag, std::exception_ptr error);
   void tell(const std::string& text, std::function<void()> then = {});
-  std::string Wort(TextKey nr) const { return context_.texts.Wort(nr); }
 
   ExerciseContext context_;
   FrequencyBox box_;
@@ -73,9 +70,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Timer Uhrzeit_;
   Timer testtimer_;
   Phase phase_ = Phase::starting;
-  bool broken_ = false;  ///< an error is closing the window
   int lesson_nr_ = 0;
-  int tasks_done_ = 0;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 

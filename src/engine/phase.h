@@ -20,9 +20,10 @@ enum class Phase : std::uint8_t {
   test_finished,      ///< all tasks of a test are done
   test_sounding,      ///< the keynote of a test's last row sounds
   time_up,            ///< the time of a test is used up
+  broken,             ///< an error is closing the window
   leaving,            ///< on the way out
 };
-inline constexpr int kPhases = 12;
+inline constexpr int kPhases = 13;
 
 /// How an action shows.
 enum class Shown : std::uint8_t {
@@ -62,6 +63,7 @@ inline constexpr std::array<Actions, kPhases> kActions{{
     {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, 1117_text},
     {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, 1110_text},
     {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, 1117_text},
+    {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
     {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
 }};
 // clang-format on

@@ -26,11 +26,6 @@ std::int16_t SoundingPlayer::row_ms() const {
   return to_int16(static_cast<std::int64_t>(playback_.beat()) * playback_.tones());
 }
 
-void SoundingPlayer::begin_task(const TaskTuning& tuning, std::int16_t terz_typ) {
-  tuning_ = tuning;
-  terz_typ_ = terz_typ;
-}
-
 Sequence SoundingPlayer::play(SpielArt what, Tone just_answered) {
   if (what == SpielArt::grundton) {
     const KeynoteChord chord = keynote_chord(settings_, key_, just_answered, terz_typ_, chance_);

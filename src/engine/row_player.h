@@ -27,8 +27,13 @@ class RowPlayer {
   /// Length of a sounding row, milliseconds; 0 where nothing sounds. A test's length is estimated
   /// from it.
   virtual std::int16_t row_ms() const = 0;
+  bool audible() const { return row_ms() > 0; }
   /// A new task: its tuning, and which thirds over the keynote its row holds (`Third`).
-  virtual void begin_task(const TaskTuning& tuning, std::int16_t terz_typ) = 0;
+  void begin_task(const TaskTuning& tuning, std::int16_t terz_typ) {
+    tuning_ = tuning;
+    terz_typ_ = terz_typ;
+  }
+  const TaskTuning& tuning() const { return tuning_; }
   /// Begins to play; `sounded` follows once it has sounded for its computed time.
   /// `just_answered` is the tone that the keynote chord may not contradict.
   virtual Sequence play(SpielArt what, Tone just_answered) = 0;
@@ -41,6 +46,10 @@ class RowPlayer {
 
   std::function<void()> sounded;
   std::function<void(int place)> shows;  ///< the tone that sounds now, -1 for none
+
+ protected:
+  TaskTuning tuning_;
+  std::int16_t terz_typ_ = 0;
 };
 
 /// Plays the row tone by tone over the current MIDI output, and the keynote chord.
@@ -50,7 +59,6 @@ class SoundingPlayer final : public RowPlayer {
                  const Key& key, const TaskRow& row, Chance& chance);
 
   std::int16_t row_ms() const override;
-  void begin_task(const TaskTuning& tuning, std::int16_t terz_typ) override;
   Sequence play(SpielArt what, Tone just_answered) override;
   void silence() override;
   void forget() override;
@@ -65,8 +73,6 @@ class SoundingPlayer final : public RowPlayer {
   const Key& key_;
   Chance& chance_;
   Playback playback_;
-  TaskTuning tuning_;
-  std::int16_t terz_typ_ = 0;
   Timer spieltimer_;
   Timer grdton_Timer_;
   Timer place_timer_;
@@ -77,7 +83,6 @@ class SoundingPlayer final : public RowPlayer {
 class SilentPlayer final : public RowPlayer {
  public:
   std::int16_t row_ms() const override { return 0; }
-  void begin_task(const TaskTuning&, std::int16_t) override {}
   Sequence play(SpielArt, Tone) override;
   void silence() override {}
   void forget() override {}

@@ -27,7 +27,6 @@ SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given,
     player_ = std::make_unique<SoundingPlayer>(given.scheduler, waits(), given.midi, given.settings,
                                                given.key, given.row, given.chance);
   }
-  player_->sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
   player_->shows = [this](int place) { show_sounding(place); };
   context().midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
 }
@@ -47,15 +46,15 @@ void SoundingWindow::prepare() {
 }
 
 TaskTuning SoundingWindow::tune() {
-  tuning_ = tune_row(context().settings, context().key, context().row, context().chance);
-  return tuning_;
+  return tune_row(context().settings, context().key, context().row, context().chance);
 }
 
 LessonFacts SoundingWindow::lesson_facts() const {
   LessonFacts facts = ExerciseWindow::lesson_facts();
   if (!tones_are_bent(context().settings.stimm_g, context().settings.frequenz)) return facts;
+  const TaskTuning& tuning = player_->tuning();
   for (std::size_t i = 0; i < facts.qz_tones.size(); ++i) {
-    facts.pb_abweichung.push_back(to_int16(tuning_.ton_abw[i] + tuning_.freq_abw));
+    facts.pb_abweichung.push_back(to_int16(tuning.ton_abw[i] + tuning.freq_abw));
   }
   return facts;
 }
@@ -103,7 +102,7 @@ Sequence SoundingWindow::repeat(SpielArt what) {
   } else {
     answers().count_repeat();
   }
-  update_counts();
+  show_counts(answers().counts);
   const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
   co_await player_->play(what, context().row.inv_ton.at(place));
 }

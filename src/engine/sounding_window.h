@@ -36,7 +36,6 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   void show_sounding(int place);
 
   std::unique_ptr<RowPlayer> player_;
-  TaskTuning tuning_;
 };
 
 }  // namespace tonarix

@@ -17,6 +17,7 @@
 #include "support/fake_host.h"
 #include "support/recording_midi.h"
 #include "support/recording_printer.h"
+#include "support/standing_clock.h"
 #include "support/virtual_scheduler.h"
 
 namespace tonarix {
@@ -29,11 +30,6 @@ struct TwoLanguages final : LanguageList {
   std::vector<LanguageRow> languages() override {
     return {{"English", "english"}, {"Deutsch", "deutsch"}};
   }
-};
-
-/// A calendar that stands still at 21 November 2026, 09:05:32.
-struct StandingClock final : WallClock {
-  CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
 };
 
 /// The whole module between fakes, in virtual time. Several processes can follow each other on one

@@ -251,8 +251,8 @@ TEST_F(LevelFlowTest, EveryExamHasItsSettingsAndEndsByTasksAndByTime) {
     Arbeitsblatt1& window = bed.open_exercise();
     bed.hear_row();
     const Settings& now = bed.module.settings();
-    EXPECT_EQ((std::array<int, 6>{now.tempo, now.invzahl, now.tongeschl, static_cast<int>(now.abfr_iv), now.abfrage,
-                                  now.ton_st_wahl}),
+    EXPECT_EQ((std::array<int, 6>{now.tempo, now.invzahl, now.tongeschl,
+                                  static_cast<int>(now.abfr_iv), now.abfrage, now.ton_st_wahl}),
               (std::array{exam.tempo, exam.invzahl, exam.tongeschl, exam.abfr_iv, 1, 0}));
     EXPECT_EQ(window.lab_aufgaben.text, "[462s] " + std::to_string(exam.tasks));
     EXPECT_EQ(window.stop_uhr.text, exam.time);
