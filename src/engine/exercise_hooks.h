@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "engine/phase.h"
@@ -17,7 +18,8 @@ class ExerciseHooks {
   virtual ~ExerciseHooks() = default;
 
  protected:
-  virtual RowPlayer& player() = 0;
+  /// What lets the rows be heard, asked for once.
+  virtual std::unique_ptr<RowPlayer> make_player() = 0;
   /// Captions and answers, before the first task.
   virtual void prepare() = 0;
   /// How the row that was drawn is tuned.
@@ -27,7 +29,7 @@ class ExerciseHooks {
   /// Shows the task that was drawn, nothing answered yet.
   virtual void show_task() = 0;
   /// What the protocol tells of the task when it begins.
-  virtual LessonFacts lesson_facts() const = 0;
+  virtual LessonFacts lesson_facts() = 0;
   /// The task has sounded, for the first time or again; the answers open behind this.
   virtual void row_sounded() {}
   /// Opens what the student answers with, or closes it.

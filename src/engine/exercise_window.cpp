@@ -43,7 +43,6 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
 
 void ExerciseWindow::start_timer() {
   handle("start_timer.", [this] {
-    player().sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
     zurueck.text = context_.texts.Wort(640_text);
     true_false[0].text = context_.texts.Wort(468_text);
     true_false[1].text = context_.texts.Wort(232_text);
@@ -56,6 +55,14 @@ void ExerciseWindow::start_timer() {
     update_counts();
     run("mat_wahl.", mat_wahl());
   });
+}
+
+RowPlayer& ExerciseWindow::player() {
+  if (!player_) {
+    player_ = make_player();
+    player_->sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
+  }
+  return *player_;
 }
 
 void ExerciseWindow::prepare_level() {
@@ -92,7 +99,7 @@ Sequence ExerciseWindow::mat_wahl() {
   co_await player().play(SpielArt::task, {});
 }
 
-LessonFacts ExerciseWindow::lesson_facts() const {
+LessonFacts ExerciseWindow::lesson_facts() {
   const auto tones = static_cast<std::size_t>(context_.settings.invzahl) + 2;
   const RowAnalysis analysis =
       analyse_row(std::span(context_.row.inv_ton).first(tones), context_.key, context_.tone_names,

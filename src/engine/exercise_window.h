@@ -36,11 +36,12 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
 
  protected:
   int first_asked() const override { return context_.settings.ton_st_wahl; }
-  LessonFacts lesson_facts() const override;
+  LessonFacts lesson_facts() override;
   void failed(std::string_view tag, std::exception_ptr error) override;
 
   const ExerciseContext& context() const { return context_; }
   TaskAnswers& answers() { return answers_; }
+  RowPlayer& player();
   void enter(Phase phase);
   /// After a verdict: counts, and ends the row once all of it is answered.
   void go_on_after_answer();
@@ -66,6 +67,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Standing standing_;
   NextTask next_task_;
   WayOut way_out_;
+  std::unique_ptr<RowPlayer> player_;
   Timer start_;
   Timer Uhrzeit_;
   Timer testtimer_;

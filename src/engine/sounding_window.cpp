@@ -18,17 +18,17 @@ void show_action(Control& control, Shown shown) {
 
 }  // namespace
 
-SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given,
-                               std::unique_ptr<RowPlayer> player)
-    : ExerciseWindow(std::move(name), given),
-      SoundControls(static_cast<Window&>(*this)),
-      player_(std::move(player)) {
-  if (!player_) {
-    player_ = std::make_unique<SoundingPlayer>(given.scheduler, waits(), given.midi, given.settings,
-                                               given.key, given.row, given.chance);
-  }
-  player_->shows = [this](int place) { show_sounding(place); };
-  context().midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given)
+    : ExerciseWindow(std::move(name), given), SoundControls(static_cast<Window&>(*this)) {
+  given.midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
+}
+
+std::unique_ptr<RowPlayer> SoundingWindow::make_player() {
+  const ExerciseContext& given = context();
+  auto player = std::make_unique<SoundingPlayer>(
+      given.scheduler, waits(), given.midi, given.settings, given.key, given.row, given.chance);
+  player->shows = [this](int place) { show_sounding(place); };
+  return player;
 }
 
 SoundingWindow::~SoundingWindow() {
@@ -49,10 +49,10 @@ TaskTuning SoundingWindow::tune() {
   return tune_row(context().settings, context().key, context().row, context().chance);
 }
 
-LessonFacts SoundingWindow::lesson_facts() const {
+LessonFacts SoundingWindow::lesson_facts() {
   LessonFacts facts = ExerciseWindow::lesson_facts();
   if (!tones_are_bent(context().settings.stimm_g, context().settings.frequenz)) return facts;
-  const TaskTuning& tuning = player_->tuning();
+  const TaskTuning& tuning = player().tuning();
   for (std::size_t i = 0; i < facts.qz_tones.size(); ++i) {
     facts.pb_abweichung.push_back(to_int16(tuning.ton_abw[i] + tuning.freq_abw));
   }
@@ -94,7 +94,7 @@ Sequence SoundingWindow::repeat(SpielArt what) {
   enter(Phase::sounding);
   if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
   answers().pause();
-  player_->silence();
+  player().silence();
   co_await Delay(kResetPause);
   if (waits().closed()) co_return;
   if (what == SpielArt::grundton) {
@@ -104,17 +104,17 @@ Sequence SoundingWindow::repeat(SpielArt what) {
   }
   show_counts(answers().counts);
   const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
-  co_await player_->play(what, context().row.inv_ton.at(place));
+  co_await player().play(what, context().row.inv_ton.at(place));
 }
 
 Sequence SoundingWindow::play_again(SpielArt what) {
   enter(sounding_again(phase()));
   if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
-  player_->silence();
+  player().silence();
   co_await Delay(kResetPause);
   if (waits().closed()) co_return;
   const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
-  co_await player_->play(what, context().row.inv_ton.at(place));
+  co_await player().play(what, context().row.inv_ton.at(place));
 }
 
 void SoundingWindow::show_sounding(int place) {
@@ -123,7 +123,7 @@ void SoundingWindow::show_sounding(int place) {
 }
 
 void SoundingWindow::MIDI_QueueEmpty() {
-  handle("MIDI_QueueEmpty.", [this] { player_->queue_ran_out(); });
+  handle("MIDI_QueueEmpty.", [this] { player().queue_ran_out(); });
 }
 
 }  // namespace tonarix

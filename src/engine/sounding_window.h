@@ -19,14 +19,13 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   const Control* default_button() const override;
 
  protected:
-  /// With a player of the window's own, or the one that plays rows.
-  SoundingWindow(std::string name, const ExerciseContext& context,
-                 std::unique_ptr<RowPlayer> player = nullptr);
+  SoundingWindow(std::string name, const ExerciseContext& context);
 
-  RowPlayer& player() override { return *player_; }
+  /// The player of rows; a window that sounds otherwise brings its own.
+  std::unique_ptr<RowPlayer> make_player() override;
   void prepare() override;
   TaskTuning tune() override;
-  LessonFacts lesson_facts() const override;
+  LessonFacts lesson_facts() override;
   void show_actions(const Actions& actions) override;
   void show_counts(const TaskAnswers::Counts& counts) override;
 
@@ -34,8 +33,6 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   Sequence repeat(SpielArt what);
   Sequence play_again(SpielArt what);
   void show_sounding(int place);
-
-  std::unique_ptr<RowPlayer> player_;
 };
 
 }  // namespace tonarix

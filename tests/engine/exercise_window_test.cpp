@@ -29,7 +29,7 @@ class SilentWindow final : public ExerciseWindow {
   bool fails = false;
 
  private:
-  RowPlayer& player() override { return player_; }
+  std::unique_ptr<RowPlayer> make_player() override { return std::make_unique<SilentPlayer>(); }
   void prepare() override {}
   TaskTuning tune() override { return {}; }
   int first_asked() const override { return context().settings.invzahl; }
@@ -39,7 +39,6 @@ class SilentWindow final : public ExerciseWindow {
   }
   void open_answers(bool open) override { answers_open.enabled = open; }
   std::string question_text() const override { return "?"; }
-  SilentPlayer player_;
 };
 
 TEST(ExerciseWindow, InSilenceATaskIsAskedAtOnceAndTheNextOneOfferedWhenItIsDone) {
