@@ -60,20 +60,18 @@ class Bed {
   }
 
   double sheet_ms() {
-    ResultWindow& window = windows_.open(std::make_unique<ResultWindow>(ResultContext{scheduler_,
-                                                                                      windows_,
-                                                                                      language_,
-                                                                                      server_,
-                                                                                      errors_,
-                                                                                      dialogs_,
-                                                                                      clock_,
-                                                                                      settings_,
-                                                                                      statistics_,
-                                                                                      *names_,
-                                                                                      printer_,
-                                                                                      "praxis-3",
-                                                                                      {}},
-                                                                        [] {}));
+    ResultWindow& window = windows_.open(std::make_unique<ResultWindow>(
+        ResultContext{.common = {scheduler_, windows_, language_, dialogs_},
+                      .server = server_,
+                      .errors = errors_,
+                      .clock = clock_,
+                      .settings = settings_,
+                      .statistics = statistics_,
+                      .interval_names = *names_,
+                      .printer = printer_,
+                      .computer_user = "praxis-3",
+                      .show_help = {}},
+        [] {}));
     QApplication::processEvents();  // the window stands, still empty
     WindowView& view = *presenter_.view_of(window);
     PaintWatch watch;

@@ -32,21 +32,26 @@ Module::~Module() {
 }
 
 void Module::open() {
-  SelectionContext context{outside_.scheduler,
-                           outside_.windows,
-                           server_,
-                           outside_.language,
-                           tables_,
-                           errors_,
-                           outside_.dialogs,
-                           settings_,
-                           outside_.screen_width,
-                           [this](SettingsKind kind) { open_settings(kind); },
-                           [this] { show_help(); },
-                           outside_.quit,
-                           can_be_practised,
-                           {}};
+  SelectionContext context{.common = window_context(),
+                           .server = server_,
+                           .language = outside_.language,
+                           .tables = tables_,
+                           .errors = errors_,
+                           .settings = settings_,
+                           .screen_width = outside_.screen_width,
+                           .open_settings = [this](SettingsKind kind) { open_settings(kind); },
+                           .show_help = [this] { show_help(); },
+                           .quit = outside_.quit,
+                           .available = can_be_practised,
+                           .join_companion = {}};
   outside_.windows.open(std::make_unique<SelectionWindow>(std::move(context))).load();
+}
+
+WindowContext Module::window_context() const {
+  return {.scheduler = outside_.scheduler,
+          .windows = outside_.windows,
+          .texts = outside_.language,
+          .dialogs = outside_.dialogs};
 }
 
 void Module::load_names() {
@@ -61,26 +66,24 @@ void Module::open_settings(SettingsKind kind) {
                        "open_settings");
   }
   load_names();
-  const SettingsContext context{outside_.scheduler,
-                                outside_.windows,
-                                outside_.language,
-                                server_,
-                                errors_,
-                                outside_.dialogs,
-                                midi_,
-                                outside_.devices,
-                                midi_event_,
-                                settings_,
-                                saved_training_,
-                                statistics_,
-                                best_,
-                                tables_,
-                                *interval_names_,
-                                [this] { protocol_.ProtokollNeu(); },
-                                [this](SettingsWindow& caller) { open_exercise(caller); },
-                                [this] { outside_.windows.at(0)->show(); },
-                                [this](const std::string&) { show_help(); },
-                                outside_.put_listing};
+  const SettingsContext context{
+      .common = window_context(),
+      .server = server_,
+      .errors = errors_,
+      .midi = midi_,
+      .devices = outside_.devices,
+      .midi_event = midi_event_,
+      .settings = settings_,
+      .saved_training = saved_training_,
+      .statistics = statistics_,
+      .best = best_,
+      .tables = tables_,
+      .interval_names = *interval_names_,
+      .ProtokollNeu = [this] { protocol_.ProtokollNeu(); },
+      .open_exercise = [this](SettingsWindow& caller) { open_exercise(caller); },
+      .show_selection = [this] { outside_.windows.at(0)->show(); },
+      .send_keys = [this](const std::string&) { show_help(); },
+      .put_listing = outside_.put_listing};
   outside_.windows.open(std::make_unique<Einstellung1>(context));
   outside_.scheduler.post([this] { tell_sound_problem(); });
 }
@@ -114,19 +117,16 @@ void Module::open_exercise(SettingsWindow& caller) {
 }
 
 void Module::open_result(std::function<void()> closed) {
-  const ResultContext context{outside_.scheduler,
-                              outside_.windows,
-                              outside_.language,
-                              server_,
-                              errors_,
-                              outside_.dialogs,
-                              outside_.clock,
-                              settings_,
-                              statistics_,
-                              *interval_names_,
-                              outside_.printer,
-                              outside_.computer_user,
-                              [this] { show_help(); }};
+  const ResultContext context{.common = window_context(),
+                              .server = server_,
+                              .errors = errors_,
+                              .clock = outside_.clock,
+                              .settings = settings_,
+                              .statistics = statistics_,
+                              .interval_names = *interval_names_,
+                              .printer = outside_.printer,
+                              .computer_user = outside_.computer_user,
+                              .show_help = [this] { show_help(); }};
   outside_.windows.open(std::make_unique<ResultWindow>(context, std::move(closed)));
 }
 
@@ -135,9 +135,7 @@ void Module::tell_sound_problem() {
   const auto problem = outside_.sound_problem();
   if (!problem) return;
   sound_problem_told_ = true;
-  outside_.dialogs.show(
-      {"Tonarix 2000", outside_.language.Wort(*problem), MessageStyle::warning, "", ""},
-      [](Reply) {});
+  outside_.dialogs.show(warning(outside_.language.Wort(*problem)), [](Reply) {});
 }
 
 void Module::show_help() {

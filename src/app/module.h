@@ -68,6 +68,7 @@ class Module {
   void open_settings(SettingsKind kind);
   void open_exercise(SettingsWindow& caller);
   void open_result(std::function<void()> closed);
+  WindowContext window_context() const;
   void load_names();
   void tell_sound_problem();
   void show_help();

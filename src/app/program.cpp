@@ -130,9 +130,7 @@ std::optional<TextKey> Program::sound_problem() const {
 
 void Program::tell_problems() {
   for (const Problem& problem : host_.problems()) {
-    dialogs_.show({"Tonarix 2000", language_.Wort(problem.text) + "\n" + problem.detail,
-                   MessageStyle::warning, "", ""},
-                  [](Reply) {});
+    dialogs_.show(warning(language_.Wort(problem.text) + "\n" + problem.detail), [](Reply) {});
   }
 }
 

@@ -21,6 +21,11 @@ struct Message {
   std::string no_caption;
 };
 
+/// A warning under the program's name.
+inline Message warning(std::string text) {
+  return {"Tonarix 2000", std::move(text), MessageStyle::warning, {}, {}};
+}
+
 /// Message boxes. They never block: the answer comes to `done` once the user has given it.
 class Dialogs {
  public:

@@ -18,8 +18,8 @@ std::string ListControl::selected_text() const {
   return items[static_cast<std::size_t>(selected)].text;
 }
 
-Window::Window(Scheduler& scheduler, std::string name)
-    : scheduler_(scheduler), name_(std::move(name)), waits_(scheduler, [this] { reap(); }) {}
+Window::Window(const WindowContext& common, std::string name)
+    : common_(common), name_(std::move(name)), waits_(common.scheduler, [this] { reap(); }) {}
 
 Window::~Window() = default;
 
@@ -65,6 +65,12 @@ void Window::reap() {
     if (routine.sequence.error()) failed(routine.tag, routine.sequence.error());
   }
   changed();
+}
+
+void Window::tell(std::string text, std::function<void()> then) {
+  common_.dialogs.show(warning(std::move(text)), [then = std::move(then), here = alive()](Reply) {
+    if (then && !here.expired()) then();
+  });
 }
 
 void Window::changed() {

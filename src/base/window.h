@@ -11,16 +11,28 @@
 
 #include "base/controls.h"
 #include "base/delay.h"
+#include "base/dialogs.h"
 #include "base/scheduler.h"
 #include "base/sequence.h"
+#include "base/texts.h"
 
 namespace tonarix {
+
+class WindowList;
+
+/// What every window works with; all of it outlives the window.
+struct WindowContext {
+  Scheduler& scheduler;
+  WindowList& windows;
+  const Texts& texts;
+  Dialogs& dialogs;
+};
 
 /// The logic half of a window: the state of its controls and a handler for each event, without a
 /// toolkit. Whoever shows it listens to `on_changed` and reads the state again.
 class Window {
  public:
-  Window(Scheduler& scheduler, std::string name);
+  Window(const WindowContext& common, std::string name);
   virtual ~Window();
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
@@ -64,10 +76,19 @@ class Window {
   /// A failure of an event with the tag ("cmdOK_click."): log it, tell the user, close or go on.
   virtual void failed(std::string_view tag, std::exception_ptr error) = 0;
 
+  /// A warning under the program's name. `then` runs once it has been read, unless the window has
+  /// gone meanwhile.
+  void tell(std::string text, std::function<void()> then = {});
+  /// Expires with the window, for answers that may come too late.
+  std::weak_ptr<bool> alive() const { return alive_; }
+  /// A text in the language in force.
+  std::string word(TextKey key) const { return common_.texts.Wort(key); }
+  const WindowContext& common() const { return common_; }
+
   void changed();
   Waits::Awaitable Delay(double ms) { return waits_.Delay(ms); }
   Waits& waits() { return waits_; }
-  Scheduler& scheduler() { return scheduler_; }
+  Scheduler& scheduler() { return common_.scheduler; }
 
  private:
   friend class Control;
@@ -77,11 +98,12 @@ class Window {
   };
   void reap();
 
-  Scheduler& scheduler_;
+  WindowContext common_;
   std::string name_;
   std::vector<Control*> controls_;
   Waits waits_;
   std::list<Running> running_;
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 /// The open windows in the order of their opening. It owns them; a closed one is released by a

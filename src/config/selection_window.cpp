@@ -13,7 +13,7 @@ constexpr int kWideScreen = 1000;  // pixels
 }  // namespace
 
 SelectionWindow::SelectionWindow(SelectionContext context)
-    : Window(context.scheduler, "grd_einst"),
+    : Window(context.common, "grd_einst"),
       context_(std::move(context)),
       start_(scheduler(), [this] { run("start_timer.", start_up()); }) {
   for (Control* button : {&cmdHilfe, &cmdEnde, &cmdOk}) button->container = &PicAktion;
@@ -36,7 +36,7 @@ void SelectionWindow::load() {
 Sequence SelectionWindow::refuse(int status) {
   const Message box{context_.server.application().title, "Status " + std::to_string(status),
                     MessageStyle::plain, "", ""};
-  co_await ask(waits(), context_.dialogs, box);
+  co_await ask(waits(), common().dialogs, box);
   context_.quit();
 }
 
@@ -60,9 +60,8 @@ Sequence SelectionWindow::start_up() {
   step([&] {
     if (context_.join_companion) context_.join_companion(context_.server.ServerObject());
   });
-  caption = context_.tables.theory_kinds[0] + context_.language.Wort(700_text) +
-            context_.language.Wort(1003_text);
-  version.text = context_.language.Wort(699_text) + " " + context_.server.application().version();
+  caption = context_.tables.theory_kinds[0] + word(700_text) + word(1003_text);
+  version.text = word(699_text) + " " + context_.server.application().version();
   choose_exercise(1);
   settings().tempo_ms = tempo_beats();
   settings().klein_bildschirm = context_.screen_width >= kWideScreen;
@@ -70,22 +69,21 @@ Sequence SelectionWindow::start_up() {
   if (all_well) co_return;
   // Only now is there a language to say it in.
   const Message box = context_.errors.message();
-  co_await ask(waits(), context_.dialogs, box);
+  co_await ask(waits(), common().dialogs, box);
 }
 
 void SelectionWindow::set_captions() {
-  const Texts& texts = context_.language;
-  grdeinst_lb.text = texts.Wort(586_text);
+  grdeinst_lb.text = word(586_text);
   for (const ExerciseRow& row : kExercises) {
     OptionControl& option = ueb_typ[static_cast<int>(row.kind)];
-    option.text = texts.Wort(row.caption);
+    option.text = word(row.caption);
     option.tag = grdeinst_lb.text;
   }
-  cmdOk.text = texts.Wort(432_text);
-  cmdEnde.text = texts.Wort(223_text);
-  cmdHilfe.text = texts.Wort(1001_text);
-  Theoriewahl[0].text = texts.Wort(724_text);
-  Theoriewahl[1].text = texts.Wort(725_text);
+  cmdOk.text = word(432_text);
+  cmdEnde.text = word(223_text);
+  cmdHilfe.text = word(1001_text);
+  Theoriewahl[0].text = word(724_text);
+  Theoriewahl[1].text = word(725_text);
 }
 
 void SelectionWindow::Theoriewahl_click(int index) {
@@ -119,7 +117,7 @@ void SelectionWindow::offer_exercises() {
   };
   const auto offer = [this](OptionControl& option, bool offered) {
     option.enabled = offered;
-    option.accessible_name = offered ? "" : option.text + ", " + context_.language.Wort(1002_text);
+    option.accessible_name = offered ? "" : option.text + ", " + word(1002_text);
   };
   for (OptionControl& option : ueb_typ) {
     offer(option, available(settings().Theoriewahl, *option.index()));
@@ -160,7 +158,7 @@ Sequence SelectionWindow::begin() {
   const Message box = context_.errors.message();
   if (error) {
     context_.errors.log("cmdOK_click.", error);
-    co_await ask(waits(), context_.dialogs, box);
+    co_await ask(waits(), common().dialogs, box);
   }
   hide();
   offer_exercises();
@@ -172,7 +170,7 @@ Sequence SelectionWindow::begin() {
   }
   if (!error) co_return;
   context_.errors.log("cmdOK_click.", error);
-  co_await ask(waits(), context_.dialogs, box);
+  co_await ask(waits(), common().dialogs, box);
   co_await leave();
 }
 
@@ -190,17 +188,17 @@ Sequence SelectionWindow::leave() {
   start_.disable();
   std::exception_ptr error;
   try {
-    context_.server.ServerMenue(context_.windows);
+    context_.server.ServerMenue(common().windows);
   } catch (...) {
     error = std::current_exception();
   }
   if (error) {
     context_.errors.log("cmdEnde_click.", error);
     const Message box = context_.errors.message();
-    co_await ask(waits(), context_.dialogs, box);
+    co_await ask(waits(), common().dialogs, box);
   }
   const std::function<void()> quit = context_.quit;
-  context_.windows.unload(*this);
+  common().windows.unload(*this);
   quit();
 }
 

@@ -3,7 +3,6 @@
 #include <functional>
 #include <string>
 
-#include "base/dialogs.h"
 #include "base/window.h"
 #include "host/error_report.h"
 #include "host/language.h"
@@ -16,13 +15,11 @@ namespace tonarix {
 
 /// What the first window works with. All of it outlives the window.
 struct SelectionContext {
-  Scheduler& scheduler;
-  WindowList& windows;
+  WindowContext common;
   Server& server;
   Language& language;
   TextTables& tables;
   ErrorReport& errors;
-  Dialogs& dialogs;
   Settings& settings;
   int screen_width = 1024;  ///< pixels
 

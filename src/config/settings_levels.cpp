@@ -4,12 +4,6 @@
 
 namespace tonarix {
 
-namespace {
-
-constexpr char kMessageTitle[] = "Tonarix 2000";
-
-}  // namespace
-
 void SettingsWindow::fill_levels(bool saved) {
   training_Combo.clear();
   for (const std::string& name : level_names(context_.tables, saved)) training_Combo.add(name);
@@ -67,12 +61,7 @@ void SettingsWindow::restore() {
 
 void SettingsWindow::restore_failed(std::exception_ptr error) {
   context_.errors.log("training_Combo_click.", error);
-  Message message;
-  message.title = kMessageTitle;
-  message.text =
-      word(196_text) + " " + context_.tables.levels[static_cast<std::size_t>(Level::continued)];
-  message.style = MessageStyle::warning;
-  context_.dialogs.show(message, [](Reply) {});
+  tell(word(196_text) + " " + context_.tables.levels[static_cast<std::size_t>(Level::continued)]);
   training_Combo.selected = static_cast<int>(Level::training);
   training_Combo_change();
 }

@@ -37,17 +37,14 @@ void SettingsWindow::with_sound(const std::function<void()>& work) {
 void SettingsWindow::tell_device_failure(std::string_view tag, std::exception_ptr error,
                                          std::optional<TextKey> how_it_goes_on) {
   context_.errors.log(tag, error);
-  Message message;
-  message.title = "Tonarix 2000";
-  message.text = word(1085_text);
+  std::string text = word(1085_text);
   try {
     std::rethrow_exception(error);
   } catch (const std::exception& failure) {
-    message.text += std::string("\n") + failure.what();
+    text += std::string("\n") + failure.what();
   }
-  if (how_it_goes_on) message.text += "\n" + word(*how_it_goes_on);
-  message.style = MessageStyle::warning;
-  context_.dialogs.show(message, [](Reply) {});
+  if (how_it_goes_on) text += "\n" + word(*how_it_goes_on);
+  tell(std::move(text));
 }
 
 }  // namespace tonarix

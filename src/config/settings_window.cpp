@@ -15,7 +15,7 @@ constexpr TextKey kHighestTones[] = {694_text, 695_text, 696_text, 697_text};
 }  // namespace
 
 SettingsWindow::SettingsWindow(const SettingsContext& context, std::string name, SettingsKind kind)
-    : Window(context.scheduler, std::move(name)),
+    : Window(context.common, std::move(name)),
       grdeinst(*this, "grdeinst"),
       geinst_lb(*this, "geinst_lb"),
       aktionsbox(*this, "aktionsbox"),
@@ -34,21 +34,21 @@ SettingsWindow::SettingsWindow(const SettingsContext& context, std::string name,
       popPruefung(*this, "popPruefung"),
       popExamToggle(*this, "popExamToggle"),
       MIDI(context.devices),
-      testtimer(context.scheduler,
+      testtimer(scheduler(),
                 [this] {
                   testtimer.disable();
                   click(cmdOk);
                 }),
       context_(context),
       kind_(kind),
-      start_(context.scheduler, [this] { handle("start_timer.", [this] { start_up(); }); }) {
+      start_(scheduler(), [this] { handle("start_timer.", [this] { start_up(); }); }) {
   cmdOptionRead.visible = cmdOptionSave.visible = false;
   prfnr_Comb.visible = popPruefung.visible = false;
   for (Control* button : {&cmdHilfe, &cmdOptionRead, &cmdOptionSave, &cmdZurueck, &cmdOk}) {
     button->container = &aktionsbox;
   }
   MIDI.on_queue_empty = [this] {
-    if (context_.windows.newest() == this) {
+    if (common().windows.newest() == this) {
       run("MIDI_QueueEmpty.", queue_ended());
     } else {
       context_.midi_event.SendQueueEmpty();
@@ -236,7 +236,7 @@ void SettingsWindow::go_back() {
   }
   waits().close();
   context_.show_selection();
-  context_.windows.unload(*this);
+  common().windows.unload(*this);
 }
 
 void SettingsWindow::show_again() {
@@ -253,8 +253,8 @@ void SettingsWindow::failed(std::string_view tag, std::exception_ptr error) {
     tell_device_failure(tag, error);
     return;
   }
-  const auto done = [this, start, opening, alive = std::weak_ptr<bool>(alive_)] {
-    if (!alive.expired() && (opening || (start && !started_))) go_back();
+  const auto done = [this, start, opening, here = alive()] {
+    if (!here.expired() && (opening || (start && !started_))) go_back();
   };
   context_.errors.report(tag, error, done);
 }

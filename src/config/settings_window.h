@@ -2,14 +2,11 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
-#include "base/dialogs.h"
-#include "base/texts.h"
 #include "base/window.h"
 #include "config/levels.h"
 #include "host/error_report.h"
@@ -29,12 +26,9 @@ class SettingsWindow;
 
 /// Whom and what a settings window works with; all of it outlives the window.
 struct SettingsContext {
-  Scheduler& scheduler;
-  WindowList& windows;
-  const Texts& texts;
+  WindowContext common;
   Server& server;
   ErrorReport& errors;
-  Dialogs& dialogs;
   Midi& midi;
   MidiDevices& devices;
   MidiEvent& midi_event;
@@ -125,7 +119,6 @@ class SettingsWindow : public Window {
     for (OptionControl& option : options) option.text = word(*key++);
   }
   void title(int frame, const std::string& text) { geinst_lb[frame].text = text; }
-  std::string word(TextKey key) const { return context_.texts.Wort(key); }
 
   // The parts of the start that differ by window, in their order.
   virtual void set_captions();
@@ -195,7 +188,6 @@ class SettingsWindow : public Window {
   bool started_ = false;
   bool schliessen_ = false;
   int marked_frame_ = 0;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace tonarix

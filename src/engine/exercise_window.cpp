@@ -18,7 +18,7 @@ constexpr const char* kLeavingTag = "zurueck_click.";
 }  // namespace
 
 ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
-    : Window(context.scheduler, std::move(name)),
+    : Window({context.scheduler, context.windows, context.texts, context.dialogs}, std::move(name)),
       ExerciseControls(static_cast<Window&>(*this)),
       context_(context),
       box_(context.settings, context.key, context.statistics, context.chance),

@@ -4,8 +4,6 @@ namespace tonarix {
 
 namespace {
 
-constexpr const char* kTitle = "Tonarix 2000";
-
 RuntimeError facts(std::exception_ptr error) {
   try {
     std::rethrow_exception(error);
@@ -25,12 +23,8 @@ std::function<void(Reply)> afterwards(std::function<void()> done) {
 }  // namespace
 
 Message ErrorReport::message() const {
-  return {kTitle,
-          texts_.Wort(720_text) + "\n" + texts_.Wort(721_text) + "\n" + texts_.Wort(722_text) +
-              "\n" + texts_.Wort(723_text),
-          MessageStyle::warning,
-          {},
-          {}};
+  return warning(texts_.Wort(720_text) + "\n" + texts_.Wort(721_text) + "\n" +
+                 texts_.Wort(722_text) + "\n" + texts_.Wort(723_text));
 }
 
 void ErrorReport::log(std::string_view tag, std::exception_ptr error, bool show) {

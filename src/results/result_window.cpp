@@ -22,25 +22,24 @@ void show_line(Labels& labels, Values& values, int index, const SheetLine& line)
 }  // namespace
 
 ResultWindow::ResultWindow(const ResultContext& context, std::function<void()> closed)
-    : Window(context.scheduler, "testergebnis"),
+    : Window(context.common, "testergebnis"),
       context_(context),
       closed_(std::move(closed)),
-      start_(context.scheduler, [this] { start_timer(); }),
-      testtimer_(context.scheduler, [this] { leave(); }) {
+      start_(scheduler(), [this] { start_timer(); }),
+      testtimer_(scheduler(), [this] { leave(); }) {
   for (Control* control : controls()) {
     if (control->index() && *control->index() > 0) control->visible = false;
   }
   for (Control* button : {&cmdHilfe, &cmdPrint, &cmdOk}) button->container = &PicSchalt;
-  cmdOk.text = context_.texts.Wort(625_text);
-  cmdPrint.text = context_.texts.Wort(1_text);
-  cmdHilfe.text = context_.texts.Wort(1203_text);
+  cmdOk.text = word(625_text);
+  cmdPrint.text = word(1_text);
+  cmdHilfe.text = word(1203_text);
   cmdPrint.enabled = false;
   start_.enable();
 }
 
 void ResultWindow::start_timer() {
-  content_.caption = context_.texts.Wort(1200_text) + context_.texts.Wort(700_text) +
-                     level_text(context_.settings.EinstDatSave);
+  content_.caption = word(1200_text) + word(700_text) + level_text(context_.settings.EinstDatSave);
   caption = content_.caption;
   handle(kHeadTag, [this] { LbGrdEinst(); });
   if (cmdOk.tag.empty()) handle(kTableTag, [this] { LbEinst(); });
@@ -52,8 +51,8 @@ void ResultWindow::LbGrdEinst() {
   facts.computer_user = context_.computer_user;
   facts.user = context_.server.ServerLogin();
   facts.user_known = context_.server.user_known();
-  content_.head_title = head_title(context_.settings, context_.texts);
-  content_.head = head_lines(facts, context_.settings, context_.texts);
+  content_.head_title = head_title(context_.settings, common().texts);
+  content_.head = head_lines(facts, context_.settings, common().texts);
   grd_einst_head.text = content_.head_title;
   for (int i = 0; i <= 5; ++i) {
     show_line(g_einst_lab, g_einst_inh, i, content_.head[static_cast<std::size_t>(i)]);
@@ -61,26 +60,25 @@ void ResultWindow::LbGrdEinst() {
 }
 
 void ResultWindow::LbEinst() {
-  const Texts& texts = context_.texts;
-  content_.settings_title = einst_head.text = texts.Wort(1201_text);
-  content_.settings = setting_lines(context_.settings.EinstDatSave, context_.texts);
+  content_.settings_title = einst_head.text = word(1201_text);
+  content_.settings = setting_lines(context_.settings.EinstDatSave, common().texts);
   if (content_.settings.size() > kSettingRows) content_.settings.resize(kSettingRows);
   for (std::size_t i = 0; i < content_.settings.size(); ++i) {
     show_line(einst_lab, einst_Inh, static_cast<int>(i) + 1, content_.settings[i]);
   }
 
-  content_.results_title = erg_head.text = texts.Wort(1202_text);
-  content_.directions = {texts.Wort(132_text), texts.Wort(83_text)};
-  content_.total_label = Lab_ergeb[0].text = texts.Wort(275_text);
+  content_.results_title = erg_head.text = word(1202_text);
+  content_.directions = {word(132_text), word(83_text)};
+  content_.total_label = Lab_ergeb[0].text = word(275_text);
   content_.table =
-      result_table(context_.settings, context_.statistics, context_.interval_names, texts);
+      result_table(context_.settings, context_.statistics, context_.interval_names, common().texts);
   for (int column = 0; column <= 1; ++column) {
     Lab_richtung[column].text = content_.directions[static_cast<std::size_t>(column)];
     Lab_richtung[column].visible = content_.table.by_interval;
   }
   for (const ResultRow& row : content_.table.rows) show_row(row);
   show_field(ergebnis[0], content_.table.total);
-  chart_ = result_chart(content_.table, content_.directions, texts);
+  chart_ = result_chart(content_.table, content_.directions, common().texts);
   cmdPrint.enabled = true;
   filled_ = true;
 }
@@ -98,9 +96,8 @@ void ResultWindow::cmdPrint_click() {
   press(cmdPrint, "cmdPrint_click.", [this] {
     PicSchalt.enabled = cmdPrint.enabled = false;
     const SheetPicture page = sheet_picture(content_, SheetGround::paper);
-    const std::weak_ptr<bool> alive = alive_;
-    context_.printer.print(page, [this, alive](const PrintResult& result) {
-      if (!alive.expired()) printed(result);
+    context_.printer.print(page, [this, here = alive()](const PrintResult& result) {
+      if (!here.expired()) printed(result);
     });
   });
 }
@@ -108,9 +105,9 @@ void ResultWindow::cmdPrint_click() {
 void ResultWindow::printed(const PrintResult& result) {
   PicSchalt.enabled = cmdPrint.enabled = true;
   if (result.end == PrintResult::End::failed) {
-    const Message told{caption, context_.texts.Wort(1204_text) + "\n" + result.reason,
-                       MessageStyle::warning, "", ""};
-    context_.dialogs.show(told, [](Reply) {});
+    const Message told{caption, word(1204_text) + "\n" + result.reason, MessageStyle::warning, "",
+                       ""};
+    common().dialogs.show(told, [](Reply) {});
   }
   changed();
 }
@@ -132,9 +129,8 @@ void ResultWindow::failed(std::string_view tag, std::exception_ptr error) {
   } else {
     PicSchalt.enabled = cmdPrint.enabled = true;
   }
-  const std::weak_ptr<bool> alive = alive_;
-  context_.errors.report(tag, error, [this, alive, while_filling] {
-    if (!alive.expired() && while_filling) testtimer_.enable();
+  context_.errors.report(tag, error, [this, while_filling, here = alive()] {
+    if (while_filling && !here.expired()) testtimer_.enable();
   });
 }
 
@@ -144,7 +140,7 @@ void ResultWindow::leave() {
   start_.disable();
   testtimer_.disable();
   const std::function<void()> closed = closed_;
-  context_.windows.unload(*this);
+  common().windows.unload(*this);
   if (closed) closed();
 }
 

@@ -1,12 +1,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
-#include "base/dialogs.h"
-#include "base/scheduler.h"
-#include "base/texts.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "host/error_report.h"
@@ -22,12 +18,9 @@ namespace tonarix {
 
 /// Whom and what the result sheet works with; all of it outlives the window.
 struct ResultContext {
-  Scheduler& scheduler;
-  WindowList& windows;
-  const Texts& texts;
+  WindowContext common;
   Server& server;
   ErrorReport& errors;
-  Dialogs& dialogs;
   const WallClock& clock;
   const Settings& settings;
   const Auswertung& statistics;
@@ -54,7 +47,7 @@ class ResultWindow final : public Window {
   bool filled() const { return filled_; }
   const SheetContent& content() const { return content_; }
   const Chart& chart() const { return chart_; }
-  std::string chart_title() const { return context_.texts.Wort(1208_text); }
+  std::string chart_title() const { return word(1208_text); }
 
   Control gr_einst{*this, "gr_einst"};
   Control grd_einst_head{*this, "grd_einst_head"};
@@ -91,7 +84,6 @@ class ResultWindow final : public Window {
   Chart chart_;
   bool filled_ = false;
   bool left_ = false;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace tonarix

@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "base/dialogs.h"
-#include "support/virtual_scheduler.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 namespace {
 
 class StoryWindow final : public Window {
  public:
-  StoryWindow(Scheduler& scheduler, WindowList& list) : Window(scheduler, "story"), list_(list) {}
+  explicit StoryWindow(const WindowContext& common) : Window(common, "story") {}
 
-  void title_bar_close() override { list_.unload(*this); }
+  void title_bar_close() override { common().windows.unload(*this); }
   void failed(std::string_view tag, std::exception_ptr) override { failures += tag; }
 
   void press_go() {
@@ -21,6 +20,7 @@ class StoryWindow final : public Window {
   void press_break() {
     handle("break_click.", [] { throw RuntimeError::overflow("break"); });
   }
+  using Window::tell;
   void stop_waiting() { waits().close(); }
 
   Control go{*this, "go"};
@@ -42,16 +42,12 @@ class StoryWindow final : public Window {
     co_await chapter('b');
     if (break_at_end) throw RuntimeError::overflow("story");
     told += ')';
-    if (leave_at_end) list_.unload(*this);
+    if (leave_at_end) common().windows.unload(*this);
   }
-
-  WindowList& list_;
 };
 
-struct WindowTest : testing::Test {
-  VirtualScheduler scheduler;
-  WindowList list{scheduler};
-  StoryWindow& window = list.open(std::make_unique<StoryWindow>(scheduler, list));
+struct WindowTest : testing::Test, WindowBed {
+  StoryWindow& window = windows.open(std::make_unique<StoryWindow>(common));
 };
 
 TEST_F(WindowTest, ARoutineWaitsInVirtualTimeAndAnnouncesEachStep) {
@@ -75,7 +71,7 @@ TEST_F(WindowTest, ClosingTheWaitsEndsThemAtOnceAndDestroyingTheOwnerForgetsThem
   EXPECT_EQ(window.told, "(a");
   EXPECT_TRUE(scheduler.idle());
 
-  auto& other = list.open(std::make_unique<StoryWindow>(scheduler, list));
+  auto& other = windows.open(std::make_unique<StoryWindow>(common));
   other.press_go();
   other.title_bar_close();
   scheduler.settle();
@@ -86,7 +82,7 @@ TEST_F(WindowTest, ARoutineMayCloseItsOwnWindow) {
   window.leave_at_end = true;
   window.press_go();
   scheduler.advance_ms(100);
-  EXPECT_EQ(list.count(), 0);
+  EXPECT_EQ(windows.count(), 0);
 }
 
 TEST_F(WindowTest, FailuresReachTheOneErrorPathWithTheirTag) {
@@ -109,13 +105,8 @@ TEST_F(WindowTest, ControlsAreFoundByNameAndClosedOnesTakeNoLateClicks) {
   EXPECT_EQ(window.told, "");
 }
 
-struct PatientDialogs final : Dialogs {
-  void show(const Message&, std::function<void(Reply)> done) override { answer = std::move(done); }
-  std::function<void(Reply)> answer;
-};
-
-TEST_F(WindowTest, AnAnswerThatComesAfterTheRoutineIsForgotten) {
-  PatientDialogs dialogs;
+TEST_F(WindowTest, AnAnswerThatComesAfterTheRoutineOrTheWindowIsForgotten) {
+  dialogs.hold = true;
   Waits waits(scheduler);
   Reply got = Reply::ok;
   const auto routine = [](Waits& w, Dialogs& d, Reply& reply) -> Sequence {
@@ -132,6 +123,13 @@ TEST_F(WindowTest, AnAnswerThatComesAfterTheRoutineIsForgotten) {
   asking.start();
   dialogs.answer(Reply::no);
   EXPECT_EQ(got, Reply::no);
+
+  window.tell("a warning", [&] { window.told += "read"; });
+  dialogs.answer(Reply::ok);
+  EXPECT_EQ(window.told, "read");
+  window.tell("another", [] { ADD_FAILURE() << "the window has gone"; });
+  windows.clear();
+  dialogs.answer(Reply::ok);
 }
 
 }  // namespace

@@ -22,13 +22,11 @@ struct SelectionWindowTest : testing::Test {
     scheduler.advance_ms(100);
   }
   SelectionContext context() {
-    return {.scheduler = scheduler,
-            .windows = windows,
+    return {.common = {scheduler, windows, language, dialogs},
             .server = server,
             .language = language,
             .tables = tables,
             .errors = errors,
-            .dialogs = dialogs,
             .settings = settings,
             .screen_width = 1000,
             .open_settings =

@@ -6,22 +6,22 @@
 #include <vector>
 
 #include "config/einstellung1.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_host.h"
-#include "support/key_texts.h"
 #include "support/recording_midi.h"
-#include "support/virtual_scheduler.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 
 /// One settings window with all that it needs, on virtual time.
-struct SettingsBed {
+struct SettingsBed : WindowBed {
   explicit SettingsBed(ExerciseKind ueb_typ = ExerciseKind::determine) {
     server.ServerInit("vemo06");
     tables.load(texts);
     settings.ueb_typ = ueb_typ;
     settings.tempo_ms = tempo_beats();
   }
+
+  ~SettingsBed() { windows.clear(); }
 
   /// Opens the window and lets it start.
   Einstellung1& open() {
@@ -35,12 +35,9 @@ struct SettingsBed {
   void choose_level(int which) { window->choose(window->training_Combo, which); }
 
   SettingsContext context() {
-    return {.scheduler = scheduler,
-            .windows = windows,
-            .texts = texts,
+    return {.common = common,
             .server = server,
             .errors = errors,
-            .dialogs = dialogs,
             .midi = midi,
             .devices = devices,
             .midi_event = midi_event,
@@ -61,12 +58,9 @@ struct SettingsBed {
             .put_listing = [this](const std::string& document) { listing = document; }};
   }
 
-  VirtualScheduler scheduler;
   FakeHost host;
   std::map<std::string, Variant>& records = host.records;
   Server server{host.factory(), {"vemo06", "vemo06"}};
-  KeyTexts texts;
-  RecordingDialogs dialogs{scheduler};
   ErrorReport errors{server, texts, dialogs};
   Midi midi;
   RecordingDevices devices{scheduler};
@@ -81,7 +75,6 @@ struct SettingsBed {
   std::string listing;
   bool exercise_fails = false;
   Einstellung1* window = nullptr;
-  WindowList windows{scheduler};
 };
 
 }  // namespace tonarix

@@ -8,7 +8,7 @@
 #include "support/fake_dialogs.h"
 #include "support/fake_host.h"
 #include "support/key_texts.h"
-#include "support/virtual_scheduler.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 namespace {
@@ -101,16 +101,16 @@ TEST_F(ServerTest, RecordsComeBackWholeThroughAHostOfTheirOwnOrNotAtAll) {
 }
 
 struct PlainWindow final : Window {
-  explicit PlainWindow(Scheduler& scheduler) : Window(scheduler, "plain") {}
+  explicit PlainWindow(const WindowContext& common) : Window(common, "plain") {}
   void title_bar_close() override {}
   void failed(std::string_view, std::exception_ptr) override {}
 };
 
 TEST_F(ServerTest, TheEndUnloadsAllWindowsButTheFirstAndLetsTheHostGo) {
-  VirtualScheduler scheduler;
-  WindowList windows(scheduler);
-  Window& first = windows.open(std::make_unique<PlainWindow>(scheduler));
-  for (int i = 0; i < 2; ++i) windows.open(std::make_unique<PlainWindow>(scheduler));
+  WindowBed bed;
+  WindowList& windows = bed.windows;
+  Window& first = windows.open(std::make_unique<PlainWindow>(bed.common));
+  for (int i = 0; i < 2; ++i) windows.open(std::make_unique<PlainWindow>(bed.common));
   start();
   server.ServerMenue(windows);
   EXPECT_EQ(windows.newest(), &first);

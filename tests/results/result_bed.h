@@ -3,17 +3,15 @@
 #include <memory>
 
 #include "results/result_window.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_host.h"
-#include "support/key_texts.h"
 #include "support/recording_printer.h"
-#include "support/virtual_scheduler.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 
 /// A result sheet with all it needs: a known user at level 1, naming from the tone before, a rising
 /// second always right, a falling one always wrong, a further interval without an answer.
-struct ResultBed {
+struct ResultBed : WindowBed {
   struct StandingClock final : WallClock {
     CivilTime now() const override { return {2026, 11, 21, 14, 40, 0}; }
   };
@@ -30,9 +28,10 @@ struct ResultBed {
     statistics.Save(StatisticRow(4), 1, -16);
     statistics.Save(StatisticRow(25), 0, 1);
   }
+  ~ResultBed() { windows.clear(); }
   ResultWindow& open() {
-    const ResultContext context{scheduler, windows,    texts, server,  errors,     dialogs, clock,
-                                settings,  statistics, names, printer, "praxis-3", {}};
+    const ResultContext context{common,     server, errors,  clock,      settings,
+                                statistics, names,  printer, "praxis-3", {}};
     return windows.open(std::make_unique<ResultWindow>(context, [this] {
       ++closed;
       windows_when_closed = windows.count();
@@ -44,12 +43,8 @@ struct ResultBed {
     return window;
   }
 
-  VirtualScheduler scheduler;
-  WindowList windows{scheduler};
-  KeyTexts texts;
   FakeHost host;
   Server server{host.factory(), {"vemo06", "test"}};
-  RecordingDialogs dialogs{scheduler};
   ErrorReport errors{server, texts, dialogs};
   StandingClock clock;
   Settings settings;

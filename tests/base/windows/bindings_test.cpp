@@ -7,15 +7,14 @@
 
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
-#include "support/key_texts.h"
-#include "support/virtual_scheduler.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 namespace {
 
 class KitWindow final : public Window {
  public:
-  KitWindow(Scheduler& scheduler, WindowList& list) : Window(scheduler, "kit"), list_(list) {
+  explicit KitWindow(const WindowContext& context) : Window(context, "kit") {
     caption = "Kit";
     go.text = "Save & go";
     back.text = "go back";
@@ -38,7 +37,7 @@ class KitWindow final : public Window {
     });
   }
   void leave() {
-    handle("leave.", [&] { list_.unload(*this); });
+    handle("leave.", [&] { common().windows.unload(*this); });
   }
   void say_changed() { changed(); }
 
@@ -51,9 +50,6 @@ class KitWindow final : public Window {
   Control go{*this, "go"};
   Control back{*this, "back"};
   std::string told;
-
- private:
-  WindowList& list_;
 };
 
 class KitView final : public WindowView {
@@ -96,16 +92,13 @@ void stroke(QWidget& target, int key, const QString& text = {}) {
   QApplication::sendEvent(&target, &press);
 }
 
-struct BindingsTest : testing::Test {
+struct BindingsTest : testing::Test, WindowBed {
   BindingsTest() {
     presenter.add<KitWindow, KitView>("kit", texts);
-    window = &list.open(std::make_unique<KitWindow>(scheduler, list));
+    window = &windows.open(std::make_unique<KitWindow>(common));
     view = static_cast<KitView*>(presenter.view_of(*window));
   }
-  KeyTexts texts;
-  VirtualScheduler scheduler;
-  WindowList list{scheduler};
-  Presenter presenter{list};
+  Presenter presenter{windows};
   KitWindow* window = nullptr;
   KitView* view = nullptr;
 };
@@ -187,12 +180,12 @@ TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
   window->say_changed();
   EXPECT_EQ(view->focusWidget(), view) << "the focus must not jump to a neighbour";
   stroke(*view, Qt::Key_Escape);
-  EXPECT_EQ(list.count(), 1);
+  EXPECT_EQ(windows.count(), 1);
   window->back.enabled = true;
   window->say_changed();
   EXPECT_EQ(view->focusWidget(), view->back);
   stroke(*view, Qt::Key_Escape);
-  EXPECT_EQ(list.count(), 0);
+  EXPECT_EQ(windows.count(), 0);
 }
 
 TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
@@ -209,22 +202,22 @@ TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
 }
 
 TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
-  QtDialogs dialogs(texts, presenter);
+  QtDialogs boxes(texts, presenter);
   std::string replies;
   const auto note = [&replies](Reply reply) { replies += "oyn"[static_cast<int>(reply)]; };
-  dialogs.show({"Warning", "first\nsecond", MessageStyle::warning, "", ""}, note);
-  dialogs.show({"Question", "really?", MessageStyle::yes_no, "", "Never"}, note);
-  dialogs.show({"Question", "really?", MessageStyle::yes_no, "", ""}, note);
-  EXPECT_EQ(dialogs.current()->windowTitle(), "Warning");
+  boxes.show({"Warning", "first\nsecond", MessageStyle::warning, "", ""}, note);
+  boxes.show({"Question", "really?", MessageStyle::yes_no, "", "Never"}, note);
+  boxes.show({"Question", "really?", MessageStyle::yes_no, "", ""}, note);
+  EXPECT_EQ(boxes.current()->windowTitle(), "Warning");
   window->leave();
-  ASSERT_NE(dialogs.current(), nullptr);
-  dialogs.current()->reject();
-  EXPECT_EQ(dialogs.current()->findChild<QPushButton*>("no")->text(), "Never");
-  dialogs.current()->findChild<QPushButton*>("yes")->click();
-  stroke(*dialogs.current(), Qt::Key_Escape);
-  EXPECT_FALSE(dialogs.current()->close());
-  dialogs.current()->findChild<QPushButton*>("no")->click();
-  EXPECT_EQ(dialogs.current(), nullptr);
+  ASSERT_NE(boxes.current(), nullptr);
+  boxes.current()->reject();
+  EXPECT_EQ(boxes.current()->findChild<QPushButton*>("no")->text(), "Never");
+  boxes.current()->findChild<QPushButton*>("yes")->click();
+  stroke(*boxes.current(), Qt::Key_Escape);
+  EXPECT_FALSE(boxes.current()->close());
+  boxes.current()->findChild<QPushButton*>("no")->click();
+  EXPECT_EQ(boxes.current(), nullptr);
   EXPECT_EQ(replies, "oyn");
 }
 
