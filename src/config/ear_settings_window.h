@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "config/settings_sound.h"
 #include "config/settings_window.h"
 
 namespace tonarix {
@@ -9,12 +10,7 @@ namespace tonarix {
 /// What the two settings windows for the ear share: degrees, key, keynote, pitch, tempo and sound.
 class EarSettingsWindow : public SettingsWindow {
  public:
-  /// Names of the two lists that are called differently, and the programs at start.
-  struct Names {
-    const char* degree_list;
-    const char* patch_list;
-    std::array<std::int16_t, 8> patches;
-  };
+  ~EarSettingsWindow() override;
 
   ControlArray<OptionControl, 0, 1> ton_st_wahl;
   ListControl degree_list;  ///< `StufWahlCmb` or `Stuf_wahl`
@@ -29,30 +25,32 @@ class EarSettingsWindow : public SettingsWindow {
   SliderControl HSliderVolume;
   ControlArray<Control, 0, 1> lb14;  ///< the slider's title and its value
   Control klang_contr;
+  MIDIOutput MIDI;
 
  protected:
-  EarSettingsWindow(const SettingsContext& context, std::string name, SettingsKind kind,
+  /// Names of the two lists that are called differently, and the programs at start.
+  struct Names {
+    const char* degree_list;
+    const char* patch_list;
+    std::array<std::int16_t, 8> patches;
+  };
+  EarSettingsWindow(const SettingsContext& context, const SettingsLayout& layout,
                     const Names& names);
 
   void set_captions() override;
-  void fill_lists() override;
-  void send_sounds() override;
-  void set(Choice choice, std::int16_t value) override;
-  void after_tongeschl() override;
-  void lock_tempo(bool locked) override;
-  void sound_failed() override;
-  Sequence queue_ended() override;
+  void prepare() override;
+  void stop_sound() override;
+  void failed(std::string_view tag, std::exception_ptr error) override;
 
  private:
-  void ton_st_wahl_click(std::int16_t index);
-  void fill_degrees();
-  void invzahl_click(std::int16_t index);
-  void grd_ton_click(std::int16_t index);
-  void Channel_Combo_change();
-  void patch_change();
-  void volume_change();
-  Sequence klang_contr_click();
+  void degrees_chosen();
+  void fill_voices();
+  void patch_chosen();
+  void volume_chosen();
+  void allow_degree();
+  Sequence queue_ended();
 
+  SettingsSound sound_;
   std::array<std::int16_t, 8> patches_;
 };
 

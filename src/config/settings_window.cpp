@@ -4,6 +4,7 @@
 
 #include "config/einst_dat_save.h"
 #include "config/test_listing.h"
+#include "settings/saved_settings.h"
 
 namespace tonarix {
 
@@ -12,73 +13,70 @@ namespace {
 constexpr TextKey kLowestTones[] = {681_text, 682_text, 683_text, 684_text};
 constexpr TextKey kHighestTones[] = {694_text, 695_text, 696_text, 697_text};
 
+bool reachable(const Control& control) {
+  return control.open() && (!control.container || control.container->open());
+}
+
 }  // namespace
 
-SettingsWindow::SettingsWindow(const SettingsContext& context, std::string name, SettingsKind kind)
-    : Window(context.common, std::move(name)),
-      grdeinst(*this, "grdeinst"),
-      geinst_lb(*this, "geinst_lb"),
-      aktionsbox(*this, "aktionsbox"),
-      cmdHilfe(*this, "cmdHilfe"),
-      cmdOptionRead(*this, "cmdOptionRead"),
-      cmdOptionSave(*this, "cmdOptionSave"),
-      cmdZurueck(*this, "cmdZurueck"),
-      cmdOk(*this, "cmdOk"),
-      training_Combo(*this, "training_Combo"),
-      prfnr_Comb(*this, "prfnr_Comb"),
-      abfrage(*this, "abfrage"),
-      tongeschl(*this, "tongeschl"),
-      E_Oktav(*this, "E_Oktav"),
-      Combo_tonraum(*this, "Combo_tonraum"),
-      ivg(*this, "ivg"),
-      popPruefung(*this, "popPruefung"),
-      popExamToggle(*this, "popExamToggle"),
-      MIDI(context.devices),
-      testtimer(scheduler(),
-                [this] {
-                  testtimer.disable();
-                  click(cmdOk);
-                }),
+SettingsWindow::SettingsWindow(const SettingsContext& context, const SettingsLayout& layout)
+    : Window(context.common, layout.name),
+      SettingsControls(static_cast<Window&>(*this)),
       context_(context),
-      kind_(kind),
-      start_(scheduler(), [this] { handle("start_timer.", [this] { start_up(); }); }) {
+      layout_(layout),
+      choices_(context.settings),
+      frames_(*this, layout.frames),
+      levels_(context_, layout.kind, *this, choices_, frames_,
+              [this](const std::string& text) { tell(text); }),
+      marks_(*this, context.settings),
+      start_(scheduler(), [this] { handle("start_timer.", [this] { start_up(); }); }),
+      testtimer_(scheduler(), [this] {
+        testtimer_.disable();
+        click(cmdOk);
+      }) {
   cmdOptionRead.visible = cmdOptionSave.visible = false;
-  prfnr_Comb.visible = popPruefung.visible = false;
   for (Control* button : {&cmdHilfe, &cmdOptionRead, &cmdOptionSave, &cmdZurueck, &cmdOk}) {
     button->container = &aktionsbox;
   }
-  MIDI.on_queue_empty = [this] {
-    if (common().windows.newest() == this) {
-      run("MIDI_QueueEmpty.", queue_ended());
-    } else {
-      context_.midi_event.SendQueueEmpty();
-    }
-  };
   on(cmdHilfe, "cmdHilfe_click.", [this] { context_.send_keys("{F1}"); });
-  on(cmdOptionRead, "cmdOptionRead_click.", [this] { read_test(); });
-  on(cmdOptionSave, "cmdOptionSave_click.", [this] { list_test(); });
+  on(cmdOptionRead, "cmdOptionRead_click.", [this] {
+    TestListing::read(*this, TestListing::fixed_values(),
+                      {[this](OptionControl& option) { click(option); },
+                       [this](ListControl& list, int entry) { choose(list, entry); }});
+  });
+  on(cmdOptionSave, "cmdOptionSave_click.", [this] {
+    context_.put_listing(TestListing::write(
+        *this, {context_.server.application().executable, exercise_caption(), caption}));
+  });
   on(cmdZurueck, "cmdZurueck_click.", [this] { go_back(); });
   on(cmdOk, "cmdOK_click.", [this] { accept(); });
-  on(training_Combo, "training_Combo_click.", [this] { training_Combo_change(); });
-  on(prfnr_Comb, "prfnr_Comb_click.", [this] { prfnr_Comb_change(); });
-  on_each(abfrage, "abfrage_click.", [this](std::int16_t i) { set(Choice::abfrage, i); });
-  on_each(tongeschl, "tongeschl_click.", [this](std::int16_t i) { set(Choice::tongeschl, i); });
-  on_each(E_Oktav, "E_Oktav_click.", [this](std::int16_t i) { set(Choice::E_Oktav, i); });
-  on_each(ivg, "ivg_click.", [this](std::int16_t i) { set(Choice::ivg, i); });
-  on(Combo_tonraum, "Combo_tonraum_click.",
-     [this] { set(Choice::Combo_tonraum, static_cast<std::int16_t>(Combo_tonraum.selected)); });
-  on(popExamToggle, "popExamToggle_click.", [this] { toggle_mark(); });
+  on(popExamToggle, "popExamToggle_click.", [this] { marks_.toggle(); });
+  offer({Choice::Uebungsmodus, training_Combo, [this] { levels_.level_chosen(); }});
+  offer({Choice::prfnr, prfnr_Comb, [this] { levels_.exam_chosen(); }});
+  offer({Choice::abfrage, abfrage});
+  offer({Choice::tongeschl, tongeschl});
+  offer({Choice::E_Oktav, E_Oktav, [this] { fill_ranges(); }});
+  offer({Choice::Combo_tonraum, Combo_tonraum});
+  // Wide intervals need four octaves.
+  offer({Choice::ivg, ivg, [this] {
+           for (const int narrow : {0, 1}) E_Oktav[narrow].enabled = settings().ivg == 0;
+         }});
   start_.enable();
 }
 
-SettingsWindow::~SettingsWindow() {
-  MIDI.on_queue_empty = nullptr;
-  context_.midi.detach(MIDI);
-}
-
-void SettingsWindow::place(Control& control, int frame, std::string_view tag) {
-  control.container = &grdeinst[frame];
-  control.tag = tag;
+void SettingsWindow::offer(Choices::Row row) {
+  const Choices::Row& added = choices_.add(std::move(row));
+  const Choice choice = added.choice;
+  const std::string tag = added.control().name() + "_click.";
+  for (OptionControl& option : added.options) {
+    frames_.place(choice, option);
+    on(option, tag, [this, choice, value = static_cast<std::int16_t>(*option.index())] {
+      choices_.set(choice, value);
+    });
+  }
+  if (!added.list) return;
+  frames_.place(choice, *added.list);
+  on(*added.list, tag, [this, choice] { choices_.take_entry(choice); });
 }
 
 void SettingsWindow::on(Control& control, std::string tag, std::function<void()> handler) {
@@ -90,22 +88,51 @@ void SettingsWindow::title_bar_close() {
 }
 
 void SettingsWindow::click(Control& control) {
-  const bool reachable = control.open() && (!control.container || control.container->open());
   const auto event = events_.find(&control);
-  if (reachable && event != events_.end()) handle(event->second.tag, event->second.handler);
+  if (reachable(control) && event != events_.end()) {
+    handle(event->second.tag, event->second.handler);
+  }
 }
 
 void SettingsWindow::choose(ListControl& list, int entry) {
-  const bool reachable = list.open() && (!list.container || list.container->open());
-  if (!reachable || entry < 0 || entry >= static_cast<int>(list.items.size())) return;
+  if (!reachable(list) || entry < 0 || entry >= static_cast<int>(list.items.size())) return;
   list.selected = entry;
   click(list);
 }
 
 void SettingsWindow::slide(SliderControl& slider, int value) {
-  if (!slider.open() || (slider.container && !slider.container->open())) return;
+  if (!reachable(slider)) return;
   slider.value = std::clamp(value, slider.minimum, slider.maximum);
   click(slider);
+}
+
+void SettingsWindow::frame_menu(int frame) {
+  marks_.open_menu(frame);
+  changed();
+}
+
+void SettingsWindow::close_menu() {
+  marks_.close_menu();
+  changed();
+}
+
+void SettingsWindow::training_finished() {
+  levels_.training_finished();
+  changed();
+}
+
+void SettingsWindow::training_saved() {
+  levels_.training_saved();
+  changed();
+}
+
+void SettingsWindow::show_again() {
+  cmdOk.enabled = true;
+  show();
+}
+
+std::string SettingsWindow::exercise_caption() const {
+  return word(exercise_row(settings()).caption);
 }
 
 void SettingsWindow::start_up() {
@@ -115,24 +142,11 @@ void SettingsWindow::start_up() {
   cmdOptionRead.visible = cmdOptionSave.visible = settings().supervisor;
   context_.statistics.init_arr(3.0F, 42.0F);
   context_.best.init_arr(42);
-  attach_midi();
-  set_defaults(settings(), kind_);
+  prepare();
+  set_defaults(settings(), layout_.kind);
   if (settings().ueb_typ == ExerciseKind::write) E_Oktav[3].visible = false;
-  fill_lists();
-  set(Choice::abfrage, settings().abfrage);
-  set(Choice::tongeschl, settings().tongeschl);
-  set(Choice::E_Oktav, 0);
-  set(Choice::ivg, settings().ivg);
-  fill_levels(saved_training_offered(context_.server, settings()));
-  training_Combo.selected = static_cast<int>(Level::free);
-  training_Combo_change();
-  send_sounds();
-  for (int number = 1; number <= 5; ++number) {
-    prfnr_Comb.add(word(426_text) + " " + std::to_string(number));
-  }
-  prfnr_Comb.selected = 0;
-  prfnr_Comb_change();
-  fill_transposition();
+  choices_.start();
+  levels_.begin();
   started_ = true;
 }
 
@@ -143,81 +157,43 @@ void SettingsWindow::set_captions() {
   cmdZurueck.text = word(640_text);
   cmdOk.text = word(432_text);
   popExamToggle.text = word(438_text);
-  captions(abfrage, {1065_text, 1066_text});
-  captions(tongeschl, {1062_text, 1063_text, 1064_text});
-  for (OptionControl& option : E_Oktav) {
-    option.text = std::to_string(*option.index() + 2) + " " + word(1072_text);
-  }
-  ivg[0].text = word(1071_text);
-  ivg[1].text = "1 - 2 " + word(1072_text);
-  ivg[2].text = word(1073_text);
-  training_Combo.accessible_name = word(1050_text);
-  prfnr_Comb.accessible_name = word(1089_text);
-  Combo_tonraum.accessible_name = word(1086_text);
-}
-
-std::string SettingsWindow::exercise_caption() const {
-  return word(exercise_row(settings()).caption);
-}
-
-void SettingsWindow::set(Choice choice, std::int16_t value) {
-  switch (choice) {
-    case Choice::abfrage:
-      set_choice(settings(), choice, value);
-      select_option(abfrage, value);
-      break;
-    case Choice::tongeschl:
-      set_choice(settings(), choice, value);
-      select_option(tongeschl, value);
-      after_tongeschl();
-      break;
-    case Choice::E_Oktav:
-      E_Oktav_click(value);
-      break;
-    case Choice::ivg:
-      ivg_click(value);
-      break;
-    case Choice::Combo_tonraum:
-      Combo_tonraum.selected = value;
-      set_choice(settings(), choice, value);
-      break;
-    default:
-      set_choice(settings(), choice, value);
+  choices_.set_captions(common().texts);
+  for (const FrameRow& row : frames_.rows()) {
+    if (row.frame != kNoFrame) geinst_lb[row.frame].text = word(row.title);
   }
 }
 
-void SettingsWindow::E_Oktav_click(std::int16_t index) {
-  set_choice(settings(), Choice::E_Oktav, index);
-  select_option(E_Oktav, index);
-  ivg[1].enabled = ivg[2].enabled = index >= 2;
+void SettingsWindow::fill_ranges() {
+  const std::int16_t width = settings().E_Oktav;
+  ivg[1].enabled = ivg[2].enabled = width >= 2;
   Combo_tonraum.clear();
-  const int entries = range_entries(index, settings().ueb_typ);
+  const int entries = range_entries(width, settings().ueb_typ);
   for (int i = 0; i < entries; ++i) {
     const auto low = static_cast<std::size_t>(i);
     Combo_tonraum.add(word(kLowestTones[low]) + " " + word(702_text) + " " +
-                      word(kHighestTones[low + static_cast<std::size_t>(index)]));
+                      word(kHighestTones[low + static_cast<std::size_t>(width)]));
   }
-  set(Choice::Combo_tonraum, entries > 1 ? 1 : 0);
+  choices_.set(Choice::Combo_tonraum, entries > 1 ? 1 : 0);
 }
 
-void SettingsWindow::ivg_click(std::int16_t index) {
-  set_choice(settings(), Choice::ivg, index);
-  select_option(ivg, index);
-  E_Oktav[0].enabled = E_Oktav[1].enabled = index == 0;
-}
-
-void SettingsWindow::add_level_pairs(PairList& pairs) const {
-  pairs.add("Übungsmodus", training_Combo.selected_text());
-  if (settings().Uebungsmodus == Level::exam) pairs.add("Nr.:", prfnr_Comb.selected_text());
+void SettingsWindow::add_pair(PairList& pairs, Choice choice) const {
+  const std::string value = choices_.shown(choice);
+  pairs.add(choice_words(choice).label,
+            choice == Choice::frequenz ? frequency_value(value) : value);
 }
 
 void SettingsWindow::accept() {
   cmdOk.enabled = false;
   context_.ProtokollNeu();
-  if (settings().Uebungsmodus == Level::test) set(Choice::abfrage, 1);
-  settings().EinstDatSave = build_EinstDatSave();
+  if (settings().Uebungsmodus == Level::test) choices_.set(Choice::abfrage, 1);
+  PairList pairs;
+  for (const Choice choice : layout_.pairs) {
+    // A choice without a control of this window is told by its number.
+    if (!choices_.find(choice) || choices_.visible(choice)) add_pair(pairs, choice);
+  }
+  settings().EinstDatSave = pairs.finish();
   if (settings().Uebungsmodus == Level::training) {
-    settings().EinstSicherung = build_EinstSicherung(settings(), kind_);
+    settings().EinstSicherung = build_EinstSicherung(settings(), layout_.kind);
   }
   cmdOk.enabled = true;
   hide();
@@ -225,38 +201,29 @@ void SettingsWindow::accept() {
 }
 
 void SettingsWindow::go_back() {
-  if (schliessen_) return;
+  if (waits().closed()) return;
   start_.disable();
-  testtimer.disable();
-  schliessen_ = true;
+  testtimer_.disable();
   try {
-    context_.midi.MidiReset();
+    stop_sound();
   } catch (...) {
     context_.errors.log("cmdZurueck_click.", std::current_exception());
   }
   waits().close();
+  levels_.leave();
   context_.show_selection();
   common().windows.unload(*this);
 }
 
-void SettingsWindow::show_again() {
-  cmdOk.enabled = true;
-  show();
+bool SettingsWindow::ends_window(std::string_view tag) const {
+  return (tag == "start_timer." && !started_) || (tag == "cmdOK_click." && !visible);
 }
 
 void SettingsWindow::failed(std::string_view tag, std::exception_ptr error) {
   cmdOk.enabled = true;
-  sound_failed();
-  const bool start = tag == "start_timer.";
-  const bool opening = tag == "cmdOK_click." && !visible;
-  if (!start && !opening && is_device_failure(error)) {
-    tell_device_failure(tag, error);
-    return;
-  }
-  const auto done = [this, start, opening, here = alive()] {
-    if (!here.expired() && (opening || (start && !started_))) go_back();
-  };
-  context_.errors.report(tag, error, done);
+  context_.errors.report(tag, error, [this, ends = ends_window(tag), here = alive()] {
+    if (ends && !here.expired()) go_back();
+  });
 }
 
 }  // namespace tonarix

@@ -54,7 +54,9 @@ struct Settings {
   std::int16_t aufg = 0;         ///< build exercise: 0 imitate, 1 form
   std::int16_t genau = 0;        ///< build exercise: accuracy 0 to 4
   std::int16_t kanal = 0;        ///< channel whose instrument is being chosen
-  std::int16_t transpo = 0;      ///< transposition list entry of the write exercise
+  std::int16_t transpo = 0;      ///< entry of `transpo_cmb`
+  std::int16_t trans_dfg = 0;    ///< transposition of the write exercise: 0 none, 1 up, 2 down
+  std::int16_t trans_iv = 0;     ///< by which interval, |code| 0 to 21
 
   std::int16_t tonraum_min = 48;  ///< lowest MIDI note of the range before the key moves it
   std::int16_t tonraum_max = 72;  ///< highest, 24 to 60 above

@@ -35,6 +35,13 @@ void widen_range(Settings& settings, std::int16_t width) {
   settings.E_Oktav = width;
   move_range(settings, range_place(settings));
 }
+// An instrument is chosen for the voice that `kanal` names.
+std::int16_t read_patch(const Settings& settings) {
+  return settings.patch_ar.at(static_cast<std::size_t>(settings.kanal));
+}
+void write_patch(Settings& settings, std::int16_t program) {
+  settings.patch_ar.at(static_cast<std::size_t>(settings.kanal)) = program;
+}
 
 // clang-format off
 constexpr ChoiceRow kChoices[] = {
@@ -58,6 +65,10 @@ constexpr ChoiceRow kChoices[] = {
     choice<&Settings::Uebungsmodus>( Choice::Uebungsmodus, 0, 4),
     choice<&Settings::prfnr>(        Choice::prfnr,        1, 5),
     choice<&Settings::kanal>(        Choice::kanal,        0, 7),
+    {Choice::patch,         read_patch,               write_patch, 0, 127},
+    choice<&Settings::transpo>(      Choice::transpo,      0, 21),
+    choice<&Settings::trans_dfg>(    Choice::trans_dfg,    0, 2),
+    choice<&Settings::trans_iv>(     Choice::trans_iv,     0, 21),
 };
 
 struct ExamRow {
@@ -103,6 +114,8 @@ constexpr DefaultRow kDefaults[] = {
     {Choice::aufg,         {n, 0, n}},
     {Choice::genau,        {n, 0, n}},
     {Choice::kanal,        {0, 0, n}},
+    {Choice::trans_dfg,    {0, 0, 0}},
+    {Choice::trans_iv,     {0, 0, 0}},
 };
 // clang-format on
 

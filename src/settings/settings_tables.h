@@ -32,6 +32,10 @@ enum class Choice : std::uint8_t {
   Uebungsmodus,
   prfnr,
   kanal,
+  patch,
+  transpo,
+  trans_dfg,
+  trans_iv,
 };
 
 /// Where a choice is kept and which indices it knows.
@@ -45,7 +49,8 @@ struct ChoiceRow {
 /// RuntimeError 9 for Choice::none.
 const ChoiceRow& choice_row(Choice choice);
 
-/// The index in force. `Combo_tonraum` counts octaves from MIDI note 36.
+/// The index in force. `Combo_tonraum` counts octaves from MIDI note 36; `patch` is the program of
+/// the channel `kanal`.
 std::int16_t choice_value(const Settings& settings, Choice choice);
 /// Stores an index; `Combo_tonraum` and `E_Oktav` move the bounds of the tone range with them.
 void set_choice(Settings& settings, Choice choice, std::int16_t value);

@@ -17,7 +17,6 @@ TEST(Einstellung1, OpensWithItsDefaultsAndControlsThatShowThem) {
   bed.settings.stimm_g = 2;
   bed.settings.tempo = 9;
   Einstellung1& window = bed.open();
-  EXPECT_TRUE(window.started());
   EXPECT_EQ(window.temp_Combo.selected, 1);
   EXPECT_TRUE(window.frequenz[1].value) << "no default: kept from the window before";
   EXPECT_TRUE(window.stimm_g[0].value);

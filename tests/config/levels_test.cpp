@@ -2,6 +2,7 @@
 
 #include "config/settings_bed.h"
 #include "settings/offered_intervals.h"
+#include "settings/saved_settings.h"
 
 namespace tonarix {
 namespace {

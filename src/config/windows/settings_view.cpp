@@ -19,41 +19,89 @@ SettingsView::SettingsView(SettingsWindow& window, const Texts& texts)
   grid_->setSpacing(kGap);
 }
 
-Card* SettingsView::frame(int index, int row, int column, int columns) {
-  Card* made = card(&settings_window_.grdeinst[index], &settings_window_.geinst_lb[index]);
-  put(made, row, column, columns);
-  made->setContextMenuPolicy(Qt::CustomContextMenu);
-  QObject::connect(made, &QWidget::customContextMenuRequested, this,
-                   [this, made, index](const QPoint& at) {
-                     menu_place_ = made->mapToGlobal(at);
-                     if (bindings().live()) settings_window_.frame_menu(index);
-                   });
-  return made;
-}
-
-Card* SettingsView::group_card(const QString& title, int row, int column, int columns) {
-  Card* made = card(nullptr, nullptr);
-  made->title().setText(title);
-  made->setAccessibleName(title);
-  put(made, row, column, columns);
-  return made;
-}
-
-void SettingsView::put(Card* card, int row, int column, int columns) {
-  places_.push_back({card, row, column, columns});
-  grid_->addWidget(card, row, column, 1, columns);
-  for (int each = column; each < column + columns; ++each) {
+void SettingsView::build_frames() {
+  for (const FrameRow& row : settings_window_.frames().rows()) {
+    Card* made = make_card(row);
+    places_.push_back({made, &row});
+    grid_->addWidget(made, row.row, row.column, 1, row.columns);
+    fill(*made, row);
+  }
+  for (int each = 0; each < 4; ++each) {
     grid_->setColumnStretch(each, 1);
     grid_->setColumnMinimumWidth(each, kFrameWidth);
   }
+}
+
+Card* SettingsView::make_card(const FrameRow& row) {
+  if (row.frame != kNoFrame) {
+    Card* made =
+        card(&settings_window_.grdeinst[row.frame], &settings_window_.geinst_lb[row.frame]);
+    add_menu(*made, row.frame);
+    return made;
+  }
+  Card* made = card(nullptr, nullptr);
+  made->title().setText(word(row.title));
+  made->setAccessibleName(word(row.title));
+  return made;
+}
+
+void SettingsView::add_menu(Card& card, int frame) {
+  card.setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(&card, &QWidget::customContextMenuRequested, this,
+                   [this, &card, frame](const QPoint& at) {
+                     menu_place_ = card.mapToGlobal(at);
+                     if (bindings().live()) settings_window_.frame_menu(frame);
+                   });
+}
+
+void SettingsView::fill(Card& card, const FrameRow& row) {
+  QBoxLayout* lists = &card.body();
+  if (row.columns > 1) {
+    lists = new QHBoxLayout;
+    lists->setSpacing(theme::inside);
+    card.body().addLayout(lists);
+  }
+  for (const Choice choice : row.holds) {
+    const Choices::Row* offered = settings_window_.choices().find(choice);
+    if (!offered) continue;
+    const int columns = choice_words(choice).columns;
+    if (!offered->list) {
+      add_options(card, offered->options, columns);
+      continue;
+    }
+    ListControl& control = *offered->list;
+    ListBox* box =
+        list(control, [this, &control](int entry) { settings_window_.choose(control, entry); },
+             {.keep_place = true});
+    lists->addWidget(box, row.columns > 1 ? columns : 0);
+  }
+}
+
+void SettingsView::add_options(Card& card, std::span<OptionControl> options, int columns) {
+  auto* grid = new QGridLayout;
+  grid->setVerticalSpacing(0);
+  card.body().addLayout(grid);
+  QButtonGroup* together = group();
+  int place = 0;
+  for (OptionControl& control : options) {
+    Option* made = option(control, *together, [this, &control] { settings_window_.click(control); },
+                          {.keep_place = true});
+    grid->addWidget(made, place / columns, place % columns);
+    ++place;
+  }
+}
+
+Card& SettingsView::card_of(Choice choice) {
+  const FrameRow* holding = settings_window_.frames().holding(choice);
+  return *std::ranges::find(places_, holding, &Place::row)->card;
 }
 
 int SettingsView::width_of(int columns) const {
   std::vector<int> widths(static_cast<std::size_t>(columns), columns == 4 ? kFrameWidth : 0);
   for (const Place& place : places_) {
     const int least = place.card->minimumSizeHint().width();
-    const int spanned = std::min(place.columns, columns);
-    int& width = widths[static_cast<std::size_t>(place.column % columns)];
+    const int spanned = std::min(place.row->columns, columns);
+    int& width = widths[static_cast<std::size_t>(place.row->column % columns)];
     width = std::max(width, (least - (spanned - 1) * kGap) / spanned);
   }
   return std::accumulate(widths.begin(), widths.end(), 0) + (columns - 1) * kGap + 2 * theme::edge;
@@ -64,20 +112,20 @@ void SettingsView::arrange(int columns) {
   columns_ = columns;
   int row = 0;
   int column = 0;
-  const Place* before = nullptr;
-  for (const Place& place : places_) {
-    grid_->removeWidget(place.card);
-    const int span = std::min(place.columns, columns);
+  const FrameRow* before = nullptr;
+  for (const auto& [card, place] : places_) {
+    grid_->removeWidget(card);
+    const int span = std::min(place->columns, columns);
     // Two frames that take turns share their place.
-    const bool shared = before && before->row == place.row && before->column == place.column;
+    const bool shared = before && before->row == place->row && before->column == place->column;
     if (shared) column -= span;
     if (column + span > columns) {
       ++row;
       column = 0;
     }
-    grid_->addWidget(place.card, row, column, 1, span);
+    grid_->addWidget(card, row, column, 1, span);
     column += span;
-    before = &place;
+    before = place;
   }
   for (int each = 0; each < 4; ++each) {
     grid_->setColumnStretch(each, each < columns ? 1 : 0);
@@ -90,16 +138,11 @@ void SettingsView::fit() {
   arrange(width() >= width_of(4) ? 4 : width() >= width_of(2) + bar ? 2 : 1);
 }
 
-ListBox* SettingsView::entries(ListControl& control, Binding look) {
-  return list(
-      control, [this, &control](int entry) { settings_window_.choose(control, entry); }, look);
-}
-
 Button* SettingsView::press_button(Control& control) {
   return button(control, [this, &control] { settings_window_.click(control); });
 }
 
-void SettingsView::add_buttons(const Control* notice) {
+void SettingsView::build_buttons(const Control* notice) {
   Button* help_button = press_button(settings_window_.cmdHilfe);
   Button* read = press_button(settings_window_.cmdOptionRead);
   Button* save = press_button(settings_window_.cmdOptionSave);
@@ -121,6 +164,12 @@ void SettingsView::add_buttons(const Control* notice) {
 }
 
 void SettingsView::applied() {
+  for (const auto& [card, row] : places_) {
+    // A group that is no frame shows as long as there is something to choose in it.
+    if (row->frame != kNoFrame) continue;
+    const bool shown = settings_window_.choices().visible(row->holds[0]);
+    if (card->isHidden() == shown) card->setVisible(shown);
+  }
   if (settings_window_.popPruefung.visible && !menu_) open_menu();
 }
 
