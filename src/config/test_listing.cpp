@@ -1,6 +1,8 @@
 #include "config/test_listing.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <pugixml.hpp>
 #include <sstream>
 #include <vector>
 
@@ -12,47 +14,17 @@ namespace {
 
 constexpr Colour kReadLock = RGB(255, 128, 128);
 
-/// Code point at the place, which moves behind it; a broken sequence counts as U+FFFD.
-std::uint32_t next_code_point(const std::string& text, std::size_t& place) {
-  const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
-  const std::uint8_t lead = byte(place++);
-  if (lead < 0x80) return lead;
-  const int more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
-  if (more == 0) return 0xFFFD;
-  std::uint32_t code = lead & (0x3F >> more);
-  for (int i = 0; i < more; ++i) {
-    if (place >= text.size() || (byte(place) & 0xC0) != 0x80) return 0xFFFD;
-    code = (code << 6) | (byte(place++) & 0x3F);
-  }
-  return code;
+/// What XML can't hold becomes a blank.
+std::string printable(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; }, ' ');
+  return text;
 }
 
-std::string escaped(const std::string& text) {
-  std::string xml;
-  for (std::size_t place = 0; place < text.size();) {
-    const std::uint32_t code = next_code_point(text, place);
-    if (code == '&') {
-      xml += "&amp;";
-    } else if (code == '<') {
-      xml += "&lt;";
-    } else if (code == '>') {
-      xml += "&gt;";
-    } else if (code == '"') {
-      xml += "&quot;";
-    } else if (code < 0x20 || code == 0x7F) {
-      xml += code == '\n' || code == '\t' ? "&#" + std::to_string(code) + ";" : " ";
-    } else if (code < 0x7F) {
-      xml += static_cast<char>(code);
-    } else {
-      const bool allowed = (code < 0xD800 || code > 0xDFFF) && code < 0xFFFE;
-      xml += "&#" + std::to_string(allowed || code > 0xFFFF ? code : 0xFFFD) + ";";
-    }
-  }
-  return xml;
-}
-
-void element(std::ostream& out, const char* indent, const char* name, const std::string& text) {
-  out << indent << '<' << name << '>' << escaped(text) << "</" << name << ">\n";
+pugi::xml_node add(pugi::xml_node parent, const char* name, const std::string& text = {}) {
+  pugi::xml_node child = parent.append_child(name);
+  if (!text.empty()) child.text().set(printable(text).c_str());
+  return child;
 }
 
 const ListControl::Item* chosen_entry(const ListControl& list) {
@@ -69,27 +41,46 @@ const OptionControl* chosen_option(const Window& window, const std::string& name
   return nullptr;
 }
 
-void open_control(std::ostream& out, const Control& control, const std::string& text) {
-  out << "    <control title=\"" << escaped(control.tag) << "\" text=\"" << escaped(text)
-      << "\">\n";
-  element(out, "      ", "cname", control.name());
-  if (control.index()) element(out, "      ", "index", std::to_string(*control.index()));
+void add_control(pugi::xml_node setting, const Control& control, const std::string& text,
+                 const char* attribute, const std::string& value, const std::string& number) {
+  pugi::xml_node node = add(setting, "control");
+  node.append_attribute("title") = printable(control.tag).c_str();
+  node.append_attribute("text") = printable(text).c_str();
+  add(node, "cname", control.name());
+  if (control.index()) add(node, "index", std::to_string(*control.index()));
+  add(node, "value", number).append_attribute(attribute) = printable(value).c_str();
 }
 
-void write_option(std::ostream& out, const Window& window, const OptionControl& option) {
-  open_control(out, option, option.text);
+void add_option(pugi::xml_node setting, const Window& window, const OptionControl& option) {
   const OptionControl* chosen = chosen_option(window, option.name());
-  out << "      <value True=\"" << (chosen ? escaped(chosen->text) : "") << "\">"
-      << (chosen && chosen->index() ? std::to_string(*chosen->index()) : "") << "</value>\n"
-      << "    </control>\n";
+  add_control(setting, option, option.text, "True", chosen ? chosen->text : "",
+              chosen && chosen->index() ? std::to_string(*chosen->index()) : "");
 }
 
-void write_list(std::ostream& out, const ListControl& list, const ListControl::Item& entry) {
-  const bool plain = entry.item_data == ListControl::kPlainEntry;
-  open_control(out, list, list.accessible_name);
-  out << "      <value text=\"" << escaped(entry.text) << "\">"
-      << (plain ? list.selected : entry.item_data) << "</value>\n"
-      << "    </control>\n";
+void add_list(pugi::xml_node setting, const ListControl& list) {
+  const ListControl::Item* entry = chosen_entry(list);
+  if (!entry) return;
+  const bool plain = entry->item_data == ListControl::kPlainEntry;
+  add_control(setting, list, list.accessible_name, "text", entry->text,
+              std::to_string(plain ? list.selected : entry->item_data));
+}
+
+/// The document as text, every character beyond ASCII as a reference.
+std::string as_ascii(const pugi::xml_document& document) {
+  std::ostringstream out;
+  document.save(
+      out, "  ",
+      pugi::format_indent | pugi::format_no_declaration | pugi::format_no_empty_element_tags,
+      pugi::encoding_utf8);
+  std::string ascii = "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n";
+  for (const wchar_t character : pugi::as_wide(out.str())) {
+    if (character < 0x7F) {
+      ascii += static_cast<char>(character);
+    } else {
+      ascii += "&#" + std::to_string(static_cast<std::uint32_t>(character)) + ";";
+    }
+  }
+  return ascii;
 }
 
 }  // namespace
@@ -101,25 +92,25 @@ const TestListing::ValueSet& TestListing::fixed_values() {
 }
 
 std::string TestListing::write(const Window& window, const Head& head) {
-  std::ostringstream out;
-  out << "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n<test>\n  <basic>\n";
-  element(out, "    ", "modul", head.modul);
-  element(out, "    ", "type", head.type);
-  element(out, "    ", "description", head.description);
-  out << "  </basic>\n  <setting>\n";
+  pugi::xml_document document;
+  const pugi::xml_node test = add(document, "test");
+  const pugi::xml_node basic = add(test, "basic");
+  add(basic, "modul", head.modul);
+  add(basic, "type", head.type);
+  add(basic, "description", head.description);
+  pugi::xml_node setting = add(test, "setting");
   for (const Control* control : window.controls()) {
     if (control->tag.empty() || !control->container || control->container->tag != kExamMark) {
       continue;
     }
     if (const auto* option = dynamic_cast<const OptionControl*>(control)) {
-      write_option(out, window, *option);
+      add_option(setting, window, *option);
     } else if (const auto* list = dynamic_cast<const ListControl*>(control)) {
-      const ListControl::Item* entry = chosen_entry(*list);
-      if (entry) write_list(out, *list, *entry);
+      add_list(setting, *list);
     }
   }
-  out << "  </setting>\n</test>\n";
-  return out.str();
+  if (!setting.first_child()) setting.text().set("\n  ");
+  return as_ascii(document);
 }
 
 void TestListing::read(const Window& window, const ValueSet& values, const Target& target) {
