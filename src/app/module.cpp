@@ -1,21 +1,11 @@
 #include "app/module.h"
 
-#include <map>
+#include "app/exercise_windows.h"
 
-#include "config/einstellung1.h"
-#include "exercises/determine/arbeitsblatt1.h"
 #include "results/result_window.h"
 #include "settings/settings_tables.h"
 
 namespace tonarix {
-
-namespace {
-
-bool can_be_practised(const ExerciseRow& row) {
-  return row.window == "arbeitsblatt1";
-}
-
-}  // namespace
 
 Module::Module(Outside outside)
     : outside_(std::move(outside)),
@@ -61,7 +51,8 @@ void Module::load_names() {
 }
 
 void Module::open_settings(SettingsKind kind) {
-  if (kind != SettingsKind::einstellung1) {
+  const SettingsFactory* factory = settings_factory(kind);
+  if (factory == nullptr) {
     throw RuntimeError(RuntimeError::kOther, "This exercise has no settings window",
                        "open_settings");
   }
@@ -84,18 +75,19 @@ void Module::open_settings(SettingsKind kind) {
       .show_selection = [this] { outside_.windows.at(0)->show(); },
       .send_keys = [this](const std::string&) { show_help(); },
       .put_listing = outside_.put_listing};
-  outside_.windows.open(std::make_unique<Einstellung1>(context));
-  outside_.scheduler.post([this] { tell_sound_problem(); });
+  outside_.windows.open(factory->make(context));
+  if (exercise_row(settings_).sounds()) outside_.scheduler.post([this] { tell_sound_problem(); });
 }
 
 void Module::open_exercise(SettingsWindow& caller) {
+  const ExerciseFactory* factory = exercise_factory(exercise_row(settings_));
+  if (factory == nullptr) {
+    throw RuntimeError(RuntimeError::kOther, "This exercise has no window", "open_exercise");
+  }
   const ExerciseContext context{
-      .scheduler = outside_.scheduler,
-      .windows = outside_.windows,
-      .texts = outside_.language,
+      .common = window_context(),
       .server = server_,
       .errors = errors_,
-      .dialogs = outside_.dialogs,
       .clock = outside_.clock,
       .chance = outside_.chance,
       .midi = midi_,
@@ -113,7 +105,7 @@ void Module::open_exercise(SettingsWindow& caller) {
                  .training_finished = [&caller] { caller.training_finished(); },
                  .show_again = [&caller] { caller.show_again(); }},
       .open_result = [this](std::function<void()> closed) { open_result(std::move(closed)); }};
-  outside_.windows.open(std::make_unique<Arbeitsblatt1>(context));
+  outside_.windows.open(factory->make(context));
 }
 
 void Module::open_result(std::function<void()> closed) {
@@ -139,14 +131,10 @@ void Module::tell_sound_problem() {
 }
 
 void Module::show_help() {
-  static const std::map<std::string, TextKey> kHelp{{"grd_einst", 1283_text},
-                                                    {"einstellung1", 1284_text},
-                                                    {"arbeitsblatt1", 1285_text},
-                                                    {"testergebnis", 1286_text}};
   const Window* newest = outside_.windows.newest();
-  const auto found = newest != nullptr ? kHelp.find(newest->name()) : kHelp.end();
-  if (found == kHelp.end()) return;
-  outside_.dialogs.show({outside_.language.Wort(1282_text), outside_.language.Wort(found->second),
+  const auto help = newest != nullptr ? help_for(newest->name()) : std::nullopt;
+  if (!help) return;
+  outside_.dialogs.show({outside_.language.Wort(1282_text), outside_.language.Wort(*help),
                          MessageStyle::plain, "", ""},
                         [](Reply) {});
 }

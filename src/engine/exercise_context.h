@@ -4,8 +4,6 @@
 #include <optional>
 
 #include "base/chance.h"
-#include "base/dialogs.h"
-#include "base/texts.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "host/error_report.h"
@@ -30,12 +28,9 @@ struct ExerciseCaller {
 
 /// Whom and what an exercise window works with; all of it outlives the window.
 struct ExerciseContext {
-  Scheduler& scheduler;
-  WindowList& windows;
-  const Texts& texts;
+  WindowContext common;
   Server& server;
   ErrorReport& errors;
-  Dialogs& dialogs;
   const WallClock& clock;
   Chance& chance;
   Midi& midi;

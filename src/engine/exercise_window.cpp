@@ -18,20 +18,20 @@ constexpr const char* kLeavingTag = "zurueck_click.";
 }  // namespace
 
 ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
-    : Window({context.scheduler, context.windows, context.texts, context.dialogs}, std::move(name)),
+    : Window(context.common, std::move(name)),
       ExerciseControls(static_cast<Window&>(*this)),
       context_(context),
       box_(context.settings, context.key, context.statistics, context.chance),
       material_(context.settings, context.key, context.row, box_, context.chance),
-      answers_(context.scheduler, context.protocol),
+      answers_(context.common.scheduler, context.protocol),
       training_(context.server, context.errors, context.settings, context.saved_training),
-      standing_(*this, context.texts, box_),
-      next_task_(context.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
+      standing_(*this, context.common.texts, box_),
+      next_task_(context.common.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
       way_out_(context_, *this, *this, waits()),
-      start_(context.scheduler, [this] { start_timer(); }),
-      Uhrzeit_(context.scheduler, [this] { Uhrzeit_timer(); }),
-      testtimer_(context.scheduler, [this] { zurueck_click(); }) {
-  caption = context_.texts.Wort(exercise_row(context.settings).title);
+      start_(context.common.scheduler, [this] { start_timer(); }),
+      Uhrzeit_(context.common.scheduler, [this] { Uhrzeit_timer(); }),
+      testtimer_(context.common.scheduler, [this] { zurueck_click(); }) {
+  caption = word(exercise_row(context.settings).title);
   context_.statistics.init_arr(3, kStatisticRows - 1);
   context_.statistics.Clear();
   context_.best.init_arr(kStatisticRows - 1);
@@ -43,12 +43,12 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
 
 void ExerciseWindow::start_timer() {
   handle("start_timer.", [this] {
-    zurueck.text = context_.texts.Wort(640_text);
-    true_false[0].text = context_.texts.Wort(468_text);
-    true_false[1].text = context_.texts.Wort(232_text);
-    WaitMeldung.text = context_.texts.Wort(1120_text);
+    zurueck.text = word(640_text);
+    true_false[0].text = word(468_text);
+    true_false[1].text = word(232_text);
+    WaitMeldung.text = word(1120_text);
     Uhr.text = time_of_day(context_.clock.now());
-    next_task_.name(context_.texts, 0);
+    next_task_.name(context_.common.texts, 0);
     Uhrzeit_.enable();
     prepare_level();
     prepare();
@@ -83,7 +83,7 @@ void ExerciseWindow::prepare_level() {
 
 Sequence ExerciseWindow::mat_wahl() {
   material_.mat_wahl();
-  next_task_.name(context_.texts, ++lesson_nr_);
+  next_task_.name(context_.common.texts, ++lesson_nr_);
   player().begin_task(tune(), material_.terz_typ);
   const auto intervals =
       std::span(context_.row.iv).first(static_cast<std::size_t>(context_.settings.invzahl) + 1);
@@ -120,12 +120,12 @@ void ExerciseWindow::enter(Phase phase) {
   next_task_.withdraw();
   if (actions.next_task) next_task_.offer(automatic);
   if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
-  hint.text = actions.hint == TextKey{} ? "" : context_.texts.Wort(actions.hint);
-  if (actions.next_task && automatic) hint.text = context_.texts.Wort(1121_text);
+  hint.text = actions.hint == TextKey{} ? "" : word(actions.hint);
+  if (actions.next_task && automatic) hint.text = word(1121_text);
   if (is_over(phase)) {
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
-    zurueck.text = context_.texts.Wort(625_text);
+    zurueck.text = word(625_text);
   }
   zurueck.enabled = phase != Phase::leaving;
   open_answers(actions.answers);
@@ -171,7 +171,7 @@ void ExerciseWindow::finish_row() {
   }
   enter(next);
   if (next != Phase::training_finished) return;
-  if (!training_.drop()) tell(context_.texts.Wort(1129_text));
+  if (!training_.drop()) tell(word(1129_text));
   context_.caller.training_finished();
 }
 
@@ -244,8 +244,8 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
   if (is_device_failure(error)) return device_failed(tag, error);
   stop_all();
   enter(Phase::broken);
-  context_.errors.report_exercise(name(), tag, error, [this, alive = std::weak_ptr<bool>(alive_)] {
-    if (alive.expired()) return;
+  context_.errors.report_exercise(name(), tag, error, [this, here = alive()] {
+    if (here.expired()) return;
     testtimer_.set_interval(0);
     testtimer_.enable();
   });
@@ -258,14 +258,7 @@ void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr erro
   player().forget();
   after_playing();
   // The time that goes into reading the message is not the student's.
-  tell(context_.texts.Wort(1128_text), [this] { answers_.open(); });
-}
-
-void ExerciseWindow::tell(const std::string& text, std::function<void()> then) {
-  context_.dialogs.show({"Tonarix 2000", text, MessageStyle::warning, "", ""},
-                        [then = std::move(then), alive = std::weak_ptr<bool>(alive_)](Reply) {
-                          if (!alive.expired() && then) then();
-                        });
+  tell(word(1128_text), [this] { answers_.open(); });
 }
 
 }  // namespace tonarix

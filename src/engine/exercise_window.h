@@ -57,7 +57,6 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void stop_all();
   std::function<bool()> way_to_keep();
   void device_failed(std::string_view tag, std::exception_ptr error);
-  void tell(const std::string& text, std::function<void()> then = {});
 
   ExerciseContext context_;
   FrequencyBox box_;
@@ -73,7 +72,6 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Timer testtimer_;
   Phase phase_ = Phase::starting;
   int lesson_nr_ = 0;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace tonarix

@@ -25,8 +25,8 @@ SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given)
 
 std::unique_ptr<RowPlayer> SoundingWindow::make_player() {
   const ExerciseContext& given = context();
-  auto player = std::make_unique<SoundingPlayer>(
-      given.scheduler, waits(), given.midi, given.settings, given.key, given.row, given.chance);
+  auto player = std::make_unique<SoundingPlayer>(scheduler(), waits(), given.midi, given.settings,
+                                                 given.key, given.row, given.chance);
   player->shows = [this](int place) { show_sounding(place); };
   return player;
 }
@@ -36,12 +36,11 @@ SoundingWindow::~SoundingWindow() {
 }
 
 void SoundingWindow::prepare() {
-  const Texts& texts = context().texts;
-  wieder.text = texts.Wort(629_text);
-  wieder2.text = texts.Wort(632_text);
-  grundton.text = texts.Wort(300_text);
-  repeat_label.text = texts.Wort(1115_text);
-  keynote_label.text = texts.Wort(1116_text);
+  wieder.text = word(629_text);
+  wieder2.text = word(632_text);
+  grundton.text = word(300_text);
+  repeat_label.text = word(1115_text);
+  keynote_label.text = word(1116_text);
   show_sounding(-1);
 }
 
@@ -92,7 +91,7 @@ void SoundingWindow::grundton_click() {
 // During a task hearing costs, and the answer clock stands meanwhile.
 Sequence SoundingWindow::repeat(SpielArt what) {
   enter(Phase::sounding);
-  if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
+  if (what == SpielArt::grundton) hint.text = word(1122_text);
   answers().pause();
   player().silence();
   co_await Delay(kResetPause);
@@ -109,7 +108,7 @@ Sequence SoundingWindow::repeat(SpielArt what) {
 
 Sequence SoundingWindow::play_again(SpielArt what) {
   enter(sounding_again(phase()));
-  if (what == SpielArt::grundton) hint.text = context().texts.Wort(1122_text);
+  if (what == SpielArt::grundton) hint.text = word(1122_text);
   player().silence();
   co_await Delay(kResetPause);
   if (waits().closed()) co_return;

@@ -27,11 +27,11 @@ Sequence WayOut::leave(std::function<bool()> keep) {
 Sequence WayOut::ask_to_save(std::function<bool()> keep) {
   const Message question{Wort(8_text), Wort(495_text), MessageStyle::yes_no, Wort(1104_text),
                          Wort(1105_text)};
-  Reply reply = co_await ask(waits_, context_.dialogs, question);
+  Reply reply = co_await ask(waits_, context_.common.dialogs, question);
   const Message again{Wort(8_text), Wort(1106_text), MessageStyle::yes_no, Wort(1107_text),
                       Wort(1108_text)};
   while (reply == Reply::yes && !keep()) {
-    reply = co_await ask(waits_, context_.dialogs, again);
+    reply = co_await ask(waits_, context_.common.dialogs, again);
   }
   if (reply == Reply::yes) context_.caller.training_saved();
 }
@@ -47,7 +47,7 @@ Sequence WayOut::write_protocol() {
     const Message told{"Tonarix 2000",
                        Wort(1113_text) + "\n" + result.wanted.string() + ": " + result.reason,
                        MessageStyle::yes_no, Wort(1107_text), Wort(1126_text)};
-    const Reply reply = co_await ask(waits_, context_.dialogs, told);
+    const Reply reply = co_await ask(waits_, context_.common.dialogs, told);
     if (reply != Reply::yes) break;
     result = context_.protocol.finish_again();
   }
@@ -56,7 +56,7 @@ Sequence WayOut::write_protocol() {
                        Wort(1112_text) + " " + result.wanted.string() + ": " + result.reason +
                            "\n" + Wort(1135_text) + "\n" + result.path.string(),
                        MessageStyle::warning, "", ""};
-    co_await ask(waits_, context_.dialogs, told);
+    co_await ask(waits_, context_.common.dialogs, told);
   }
   go_back();
 }
@@ -70,7 +70,7 @@ void WayOut::go_back() {
   window_.busy = false;
   controls_.WaitMeldung.visible = false;
   context_.caller.show_again();
-  context_.windows.unload(window_);
+  context_.common.windows.unload(window_);
 }
 
 }  // namespace tonarix

@@ -25,7 +25,7 @@ class WayOut {
   Sequence ask_to_save(std::function<bool()> keep);
   Sequence write_protocol();
   void go_back();
-  std::string Wort(TextKey nr) const { return context_.texts.Wort(nr); }
+  std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }
 
   const ExerciseContext& context_;
   Window& window_;

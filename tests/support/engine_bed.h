@@ -32,12 +32,9 @@ struct EngineBed {
     return window;
   }
   ExerciseContext context() {
-    return {.scheduler = scheduler,
-            .windows = windows,
-            .texts = texts,
+    return {.common = {scheduler, windows, texts, dialogs},
             .server = server,
             .errors = errors,
-            .dialogs = dialogs,
             .clock = clock,
             .chance = chance,
             .midi = midi,

@@ -23,13 +23,13 @@ Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& given)
 void Arbeitsblatt1::prepare() {
   SoundingWindow::prepare();
   prepare_names();
-  Label1.text = Wort(1150_text);
-  Label4.text = Wort(1151_text);
+  Label1.text = word(1150_text);
+  Label4.text = word(1151_text);
   Label1.visible = by_degree();
   Label4.visible = !by_degree();
-  int_lb.text = Wort(1155_text);
-  row_title.text = Wort(1156_text);
-  situation.text = Wort(556_text) + Wort(700_text) + Wort(297_text);
+  int_lb.text = word(1155_text);
+  row_title.text = word(1156_text);
+  situation.text = word(556_text) + word(700_text) + word(297_text);
   show_scale();
   std::string line = situation.text;
   for (const char* label : {"Tongeschlecht", "Stimmung", "Tempo"}) {
@@ -44,7 +44,7 @@ void Arbeitsblatt1::show_scale() {
   static constexpr std::array<int, 3> kPictureOf{1, 0, 2};  // by tongeschl
   const int picture = kPictureOf.at(static_cast<std::size_t>(context().settings.tongeschl));
   for (int i = scala.first; i <= scala.last; ++i) {
-    Label2[i].text = Label3[i].text = Wort(kScales.at(static_cast<std::size_t>(i)));
+    Label2[i].text = Label3[i].text = word(kScales.at(static_cast<std::size_t>(i)));
     scala[i].visible = Label2[i].visible = by_degree() && i == picture;
     scalab[i].visible = Label3[i].visible = !by_degree() && i == picture;
   }
@@ -57,7 +57,7 @@ void Arbeitsblatt1::show_actions(const Actions& actions) {
 }
 
 std::string Arbeitsblatt1::question_text() const {
-  return Wort(1111_text);
+  return word(1111_text);
 }
 
 void Arbeitsblatt1::st_int_click(int index) {

@@ -41,7 +41,6 @@ class Arbeitsblatt1 final : public SoundingWindow, public NamingAnswers {
   void show_scale();
   void answer(std::int16_t code);
   Sequence AutoAntwort();
-  std::string Wort(TextKey nr) const { return context().texts.Wort(nr); }
 };
 
 }  // namespace tonarix

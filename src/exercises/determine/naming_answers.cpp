@@ -28,8 +28,8 @@ void NamingAnswers::prepare_names() {
     const int number = *button.index();
     button.visible = by_degree() && number <= context_.key.anz_stufen;
     if (number > context_.key.anz_stufen) continue;
-    button.text =
-        degree_caption(settings.tongeschl, number - 1, context_.interval_names, context_.texts);
+    button.text = degree_caption(settings.tongeschl, number - 1, context_.interval_names,
+                                 context_.common.texts);
   }
   const auto offered = offered_codes(settings, context_.key);
   for (Control& button : intervall) {

@@ -49,7 +49,7 @@ class NamingAnswers : public PlaceControls {
   void right_answer(std::int16_t code, float tenths);
   void wrong_answer(std::int16_t code);
   void next_place();
-  std::string Wort(TextKey nr) const { return context_.texts.Wort(nr); }
+  std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }
 
   const ExerciseContext& context_;
   TaskAnswers& answers_;

@@ -1,0 +1,62 @@
+#include "app/exercise_windows.h"
+
+#include <algorithm>
+#include <array>
+
+#include "config/einstellung1.h"
+#include "exercises/determine/arbeitsblatt1.h"
+
+namespace tonarix {
+
+namespace {
+
+template <typename Kind, typename Context>
+std::unique_ptr<Window> make(const Context& context) {
+  return std::make_unique<Kind>(context);
+}
+
+// clang-format off
+constexpr std::array kExerciseWindows{
+    // window          help       made by
+    ExerciseFactory{"arbeitsblatt1", 1285_text, make<Arbeitsblatt1>},
+};
+constexpr std::array kSettingsWindows{
+    // kind                                      window          help       made by
+    SettingsFactory{SettingsKind::einstellung1, "einstellung1", 1284_text, make<Einstellung1>},
+};
+// clang-format on
+
+struct Help {
+  std::string_view window;
+  TextKey text;
+};
+constexpr std::array kOtherHelp{Help{"grd_einst", 1283_text}, Help{"testergebnis", 1286_text}};
+
+template <typename Table, typename Value, typename Member>
+auto* find(const Table& table, const Value& value, Member member) {
+  const auto found = std::ranges::find(table, value, member);
+  return found == table.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+const ExerciseFactory* exercise_factory(const ExerciseRow& row) {
+  return find(kExerciseWindows, row.window, &ExerciseFactory::window);
+}
+
+const SettingsFactory* settings_factory(SettingsKind kind) {
+  return find(kSettingsWindows, kind, &SettingsFactory::kind);
+}
+
+bool can_be_practised(const ExerciseRow& row) {
+  return exercise_factory(row) != nullptr && settings_factory(row.settings) != nullptr;
+}
+
+std::optional<TextKey> help_for(std::string_view window) {
+  if (const auto* row = find(kExerciseWindows, window, &ExerciseFactory::window)) return row->help;
+  if (const auto* row = find(kSettingsWindows, window, &SettingsFactory::window)) return row->help;
+  if (const auto* row = find(kOtherHelp, window, &Help::window)) return row->text;
+  return std::nullopt;
+}
+
+}  // namespace tonarix
