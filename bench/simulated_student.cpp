@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "settings/offered_intervals.h"
 #include "support/material_bed.h"
 
 // A student with a fixed chance of being right per interval works through trainings at level 1 to

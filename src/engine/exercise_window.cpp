@@ -161,11 +161,11 @@ void ExerciseWindow::finish_row() {
     if (outcome.zustand == 4) next = Phase::training_finished;
   }
   if (is_test(level())) {
-    if (--box_.aufg_rest == 0) {
+    if (--box_.test.aufg_rest == 0) {
       Uhrzeit_.disable();
       next = Phase::test_finished;
-    } else if (box_.aufg_rest * 2 == box_.aufg_gesamt) {
-      box_.TestListeFuellen();
+    } else if (box_.test.aufg_rest * 2 == box_.test.aufg_gesamt) {
+      box_.test.TestListeFuellen();
     }
     standing_.show_test();
   }
@@ -192,9 +192,9 @@ void ExerciseWindow::Uhrzeit_timer() {
     Uhr.text = time_of_day(context_.clock.now());
     Uhrzeit_.enable();
     if (!is_test(level())) return;
-    box_.aufg_dauer = to_int16(box_.aufg_dauer - kClockSeconds);
+    box_.test.aufg_dauer = to_int16(box_.test.aufg_dauer - kClockSeconds);
     standing_.show_test();
-    if (box_.aufg_dauer > 0) return;
+    if (box_.test.aufg_dauer > 0) return;
     stop_all();
     enter(Phase::time_up);
   });

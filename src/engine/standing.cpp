@@ -38,11 +38,11 @@ void Standing::show_training() {
 }
 
 void Standing::show_test() {
-  const int left = std::max<int>(box_.aufg_dauer, 0);
+  const int left = std::max<int>(box_.test.aufg_dauer, 0);
   controls_.stop_uhr.text = texts_.Wort(461_text) + " " + std::to_string(left / 60) + " " +
                             texts_.Wort(394_text) + " " + std::to_string(left % 60) + " " +
                             texts_.Wort(480_text);
-  controls_.lab_aufgaben.text = texts_.Wort(462_text) + " " + std::to_string(box_.aufg_rest);
+  controls_.lab_aufgaben.text = texts_.Wort(462_text) + " " + std::to_string(box_.test.aufg_rest);
 }
 
 void Standing::show_test_lines(bool shown) {

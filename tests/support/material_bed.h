@@ -51,8 +51,8 @@ class MaterialBed {
     }
     const BoxOutcome outcome = box.BoxAuswerten(answered);
     if (!is_test(settings.Uebungsmodus)) return outcome.zustand == 1;
-    if (--box.aufg_rest == 0) return false;
-    if (box.aufg_rest == box.aufg_gesamt / 2) box.TestListeFuellen();
+    if (--box.test.aufg_rest == 0) return false;
+    if (box.test.aufg_rest == box.test.aufg_gesamt / 2) box.test.TestListeFuellen();
     return true;
   }
 

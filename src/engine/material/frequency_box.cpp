@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/arithmetic.h"
+#include "settings/offered_intervals.h"
 
 namespace tonarix {
 namespace {
@@ -26,21 +27,28 @@ float settled(const AnsweredInterval& interval) {
 
 FrequencyBox::FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics,
                            Chance& chance)
-    : settings_(settings), key_(key), statistics_(statistics), chance_(chance) {
+    : test(settings, key, statistics, chance),
+      settings_(settings),
+      key_(key),
+      statistics_(statistics),
+      chance_(chance) {
   matbox.reserve(kUsualListLength);
 }
 
 void FrequencyBox::BoxAufbau(const TestTiming& timing) {
   begin_task();
   matbox.assign(1, 0);
-  matboxmax = matbox_vorn = matbox_pos = 0;
+  matboxmax = matbox_vorn = 0;
   box_zeilen = 0;
   if (settings_.Uebungsmodus == Level::free) return;
   const IntervalList offered = offered_intervals(settings_, key_);
   for (const std::int16_t value : offered) mathaeufgk_box[++box_zeilen].value = value;
   start_gewicht = start_gewicht_of(box_zeilen);
-  if (training()) build_training();
-  if (test()) build_test(timing);
+  if (training()) {
+    build_training();
+  } else {
+    test.build(timing);
+  }
 }
 
 void FrequencyBox::build_training() {
@@ -63,7 +71,7 @@ void FrequencyBox::restore(const std::vector<BoxRow>& saved) {
 }
 
 void FrequencyBox::begin_task() {
-  taken_count_ = 0;
+  test.keep_taken();
 }
 
 void FrequencyBox::MatboxRechnen() {
@@ -160,22 +168,19 @@ double FrequencyBox::percentage() const {
   return ceiling() == 0 ? 0 : 100.0 * box_summe / ceiling();
 }
 
-void FrequencyBox::draw_interval() {
-  if (test()) {
-    draw_test_place();
-  } else {
-    draw_training_place();
-  }
+int FrequencyBox::entries() const {
+  return is_test(settings_.Uebungsmodus) ? test.matboxmax : matboxmax;
 }
 
 // The nearer the training comes to its end, the more of the draws go to what is still unsolved.
-void FrequencyBox::draw_training_place() {
+std::int16_t FrequencyBox::draw_interval() {
+  if (is_test(settings_.Uebungsmodus)) return test.draw_interval();
   constexpr int kStartPercentage = 50;
   constexpr int kNearTheEnd = 30;
   const int p = kStartPercentage - shown_percentage_;
   int last = matboxmax;
   if (p > kNearTheEnd && draw(chance_, 100) <= 2 * p - 20) last = matbox_vorn;
-  matbox_pos = to_int16(draw(chance_, last) + 1);
+  return matbox[static_cast<std::size_t>(draw(chance_, last)) + 1];
 }
 
 }  // namespace tonarix

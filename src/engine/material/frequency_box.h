@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "base/chance.h"
+#include "engine/material/test_list.h"
 #include "music/key.h"
-#include "settings/offered_intervals.h"
 #include "settings/saved_training.h"
 #include "settings/settings.h"
 #include "statistics/records.h"
@@ -29,19 +29,11 @@ struct BoxOutcome {
   std::int16_t ergebnis_anz;  ///< panel that shows: 0 status, 1 solved, 2 too hard
 };
 
-/// What a test's length is estimated from.
-struct TestTiming {
-  std::int16_t spieltimer = 0;   ///< length of a sounding row, milliseconds; 0 where nothing sounds
-  std::int16_t WahlAutomat = 0;  ///< pause before the next task, milliseconds
-  std::int16_t zeit_grenze = 0;  ///< free time of an answer, tenths of a second
-};
-
 /// Decides how often each interval is asked. In a training (levels 1 and 2) it is a set of weights
 /// that grow with errors and shrink with quick right answers, until nothing is left to ask or
-/// everything has become too hard. In a test (above) it is a fixed list of intervals to be used up.
-/// At level 0 it is empty.
+/// everything has become too hard. In a test (above) `test` decides. At level 0 it is empty.
 ///
-/// An exercise window owns one and counts `aufg_rest` and `aufg_dauer` down.
+/// An exercise window owns one.
 class FrequencyBox {
  public:
   static constexpr float RF = 8;  ///< ceiling of an error score
@@ -61,19 +53,10 @@ class FrequencyBox {
   void MatboxRechnen();
   /// Refills `matbox`: each value as many times as its weight plus `add_wert`, if that is above 0.
   void MatboxFuellen(int add_wert);
-  /// Fills `matbox` for a test: each interval once, so that all occur, then by chance to the end.
-  void TestListeFuellen();
-  /// Length of a test of `aufg_gesamt` tasks in seconds, rounded up to whole tens.
-  std::int16_t estimate(const TestTiming& timing) const;
-
-  /// Draws an entry of `matbox` by the rule of the level, into `matbox_pos`.
-  void draw_interval();
-  /// The interval last drawn.
-  std::int16_t drawn() const { return matbox[static_cast<std::size_t>(matbox_pos)]; }
-  /// Takes the first entry with this value from a test's list; false when there is none.
-  bool take_from_list(std::int16_t value);
-  /// Puts back what the running task has taken, since its row was refused.
-  void give_back();
+  /// An interval drawn by the rule of the level, from the test's list or from `matbox`.
+  std::int16_t draw_interval();
+  /// Entries of the list that the level draws from.
+  int entries() const;
 
   /// Takes over the rows of a saved training, at level 2 after `BoxAufbau`.
   void restore(const std::vector<BoxRow>& rows);
@@ -86,37 +69,24 @@ class FrequencyBox {
   std::array<BoxRow, kMaxRows + 1> mathaeufgk_box{};  ///< rows 1 to `box_zeilen`
   std::int16_t box_summe = 0;                         ///< sum of the positive weights
 
-  std::vector<std::int16_t> matbox;  ///< 1 to `matboxmax`; a used entry of a test is 0
+  std::vector<std::int16_t> matbox;  ///< 1 to `matboxmax`: the values repeated by weight
   std::int16_t matboxmax = 0;
   std::int16_t matbox_vorn = 0;  ///< leading entries that come from rows of positive weight
-  std::int16_t matbox_pos = 0;   ///< the index last drawn
 
-  std::int16_t aufg_gesamt = 0;                             ///< tasks of a test
-  std::int16_t aufg_rest = 0;                               ///< of these left
-  std::int16_t aufg_dauer = 0;                              ///< length of a test in seconds
-  std::array<std::int16_t, kStatisticRows> test_haeufgk{};  ///< uses of each statistic row
+  TestList test;  ///< what a test has left, empty below
+
 
  private:
-  struct Taken {
-    std::int16_t place;
-    std::int16_t value;
-  };
-
   bool training() const { return is_training(settings_.Uebungsmodus); }
-  bool test() const { return is_test(settings_.Uebungsmodus); }
   StatisticRow row_of(std::int16_t value) const { return statistic_row(value, settings_.abfr_iv); }
   int ceiling() const { return box_zeilen == 0 ? 0 : weight_ceiling(box_zeilen); }
   std::span<BoxRow> rows() { return {mathaeufgk_box.data() + 1, std::size_t(box_zeilen)}; }
 
   void build_training();
-  void build_test(const TestTiming& timing);
   void add_weight(std::int16_t value, float amount);
   void count_confusions(const AnsweredInterval& interval);
   void StatEintrag(StatisticRow row, float rf);
   BoxOutcome standing();
-  std::int16_t draw_offered();
-  void draw_training_place();
-  void draw_test_place();
 
   const Settings& settings_;
   const Key& key_;
@@ -124,11 +94,6 @@ class FrequencyBox {
   Chance& chance_;
 
   int shown_percentage_ = 0;  // as read back from the display: truncated
-
-  std::array<Taken, 8> taken_{};
-  std::size_t taken_count_ = 0;
-
-  std::vector<std::int16_t> open_places_;  // of a test's list: where an entry is not yet used
 };
 
 }  // namespace tonarix

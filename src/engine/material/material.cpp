@@ -7,6 +7,7 @@
 #include "base/runtime_error.h"
 #include "music/interval.h"
 #include "music/tones.h"
+#include "settings/offered_intervals.h"
 
 namespace tonarix {
 
@@ -43,12 +44,12 @@ std::vector<std::int16_t> StufenGewichte(const Key& key) {
 
 Material::Material(const Settings& settings, Key& key, TaskRow& row, FrequencyBox& box,
                    Chance& chance)
-    : settings_(settings), key_(key), row_(row), box_(box), chance_(chance) {}
+    : settings_(settings), key_(key), built_{row}, box_(box), chance_(chance) {}
 
 void Material::begin() {
   erster_lauf = true;
   letzte_reihe_.fill(0);
-  pruef_frei_ = false;
+  built_.pruef_frei = false;
   terz_typ = 0;
   const int octaves = settings_.E_Oktav + 2;
   anz_okt_lage_ = to_int16(octaves - (settings_.ivg == 0 ? 1 : 2));
@@ -71,14 +72,14 @@ bool Material::mat_wahl() {
 // A refused row leaves no trace: what it took goes back, and the next one starts from the same
 // place.
 void Material::draw_acceptable_row() {
-  const bool pruef_frei = pruef_frei_;
+  const bool pruef_frei = built_.pruef_frei;
   for (int attempt = 1; attempt <= kLastAttempt; ++attempt) {
     draw_row();
-    const auto refusal = refusal_of(settings_, key_, row_, codes_, attempt > kStrictAttempts);
+    const auto refusal = refusal_of(settings_, key_, built_.row, codes_, attempt > kStrictAttempts);
     if (!refusal) return;
     ++refused_[static_cast<std::size_t>(*refusal)];
-    box_.give_back();
-    pruef_frei_ = pruef_frei;
+    box_.test.give_back();
+    built_.pruef_frei = pruef_frei;
   }
   throw RuntimeError(RuntimeError::kOther, "These settings allow no row of tones", "mat_wahl");
 }
@@ -87,7 +88,7 @@ void Material::draw_row() {
   for (int i = 1; i <= settings_.invzahl + 1; ++i) {
     draw_tone(i);
     if (is_test(settings_.Uebungsmodus) && (settings_.ton_st_wahl == 0 || i == 2)) {
-      pruef_frei_ = !box_.take_from_list(iv(i - 1));
+      built_.pruef_frei = !box_.test.take(iv(i - 1));
     }
   }
 }
@@ -98,7 +99,7 @@ void Material::draw_tone(int i) {
   const bool box = i != 1 && settings_.Uebungsmodus != Level::free;
   bool ok = false;
   for (int versuch = 1; !ok; ++versuch) {
-    if (box && versuch < box_.matboxmax) {
+    if (box && versuch < box_.entries()) {
       if (!draw_from_box(i)) continue;
     } else {
       draw_freely(i);
@@ -107,31 +108,30 @@ void Material::draw_tone(int i) {
       OktavLage(i);
     } else {
       tone(i).chr = static_cast<std::int16_t>(tone(i - 1).chr + DirektSchritt(i));
-      iv(i - 1) = direct_code(richtung_, tone(i).qz, tone(i - 1).qz);
+      iv(i - 1) = direct_code(built_.richtung, tone(i).qz, tone(i - 1).qz);
     }
-    ok = i == 1 || (TonraumTest(i) && !repeats_last_task());
+    ok = i == 1 || (TonraumTest(built_, i, settings_, key_) && !repeats_last_task());
   }
 }
 
 // False when the interval leads to no tone of the scale.
 bool Material::draw_from_box(int i) {
-  box_.draw_interval();
-  iv(i - 1) = box_.drawn();
-  richtung_ = Sgn(iv(i - 1));
+  iv(i - 1) = box_.draw_interval();
+  built_.richtung = Sgn(iv(i - 1));
   if (settings_.abfr_iv == Naming::from_tone_before) return NaechsterTon(i);
-  tone(i) = skala(std::abs(iv(i - 1) - richtung_));
+  tone(i) = skala(std::abs(iv(i - 1) - built_.richtung));
   return true;
 }
 
 void Material::draw_freely(int i) {
-  richtung_ = static_cast<std::int16_t>(draw_sign(chance_));
+  built_.richtung = static_cast<std::int16_t>(draw_sign(chance_));
   if (i == 1) {
     tone(0) = skala(0);
     ErsterTon(i);
   } else if (settings_.abfr_iv == Naming::from_keynote) {
     const int r = draw(chance_, key_.anz_stufen);
     tone(i) = skala(r);
-    iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
+    iv(i - 1) = static_cast<std::int16_t>((r + 1) * built_.richtung);
   } else {
     // Seven fifths would be an augmented prime or a diminished octave.
     do {
@@ -153,11 +153,11 @@ void Material::ErsterTon(int i) {
   }
   tone(i) = skala(r);
   if (settings_.abfr_iv == Naming::from_keynote)
-    iv(i - 1) = static_cast<std::int16_t>((r + 1) * richtung_);
+    iv(i - 1) = static_cast<std::int16_t>((r + 1) * built_.richtung);
 
   const int o = draw(chance_, anz_okt_lage_ + 1);
   int t = tone(i - 1).chr;
-  if (richtung_ == 1) {
+  if (built_.richtung == 1) {
     do {
       t += 12;
     } while (t < key_.tonart_offset + settings_.tonraum_min);
@@ -165,33 +165,33 @@ void Material::ErsterTon(int i) {
     t += 84;
     while (t > key_.tonart_offset + settings_.tonraum_max) t -= 12;
   }
-  tone(i - 1).chr = to_int16(t + richtung_ * o * 12);
+  tone(i - 1).chr = to_int16(t + built_.richtung * o * 12);
 }
 
 void Material::draw_okt_zusatz() {
-  okt_zusatz_ =
+  built_.okt_zusatz =
       static_cast<std::int16_t>((settings_.ivg == 2 ? draw(chance_, 2) : settings_.ivg) * 12);
 }
 
 void Material::OktavLage(int i) {
   draw_okt_zusatz();
-  if (richtung_ == 1) {
+  if (built_.richtung == 1) {
     do {
-      move(i, 12);
-    } while (tone(i).chr <= tone(i - 1).chr + okt_zusatz_);
+      built_.move(i, 12);
+    } while (tone(i).chr <= tone(i - 1).chr + built_.okt_zusatz);
   } else {
-    move(i, 84);
+    built_.move(i, 84);
     do {
-      move(i, -12);
-    } while (tone(i).chr >= tone(i - 1).chr - okt_zusatz_);
+      built_.move(i, -12);
+    } while (tone(i).chr >= tone(i - 1).chr - built_.okt_zusatz);
   }
 }
 
 int Material::DirektSchritt(int i) {
   int x = tone(i).chr % 12 - tone(i - 1).chr % 12;
-  if (Sgn(x) != richtung_) x += richtung_ * 12;
+  if (Sgn(x) != built_.richtung) x += built_.richtung * 12;
   draw_okt_zusatz();
-  return okt_zusatz_ * richtung_ + x;
+  return built_.okt_zusatz * built_.richtung + x;
 }
 
 bool Material::NaechsterTon(int i) {
@@ -203,8 +203,9 @@ bool Material::NaechsterTon(int i) {
 // Only with one interval to name would a row that begins like the last one give it away.
 bool Material::repeats_last_task() const {
   if (settings_.ton_st_wahl != 1 && settings_.invzahl != 1) return false;
-  return row_.inv_ton[0].chr == letzte_reihe_[0] && row_.inv_ton[1].chr == letzte_reihe_[1] &&
-         row_.inv_ton[2].chr == letzte_reihe_[2];
+  return built_.row.inv_ton[0].chr == letzte_reihe_[0] &&
+         built_.row.inv_ton[1].chr == letzte_reihe_[1] &&
+         built_.row.inv_ton[2].chr == letzte_reihe_[2];
 }
 
 void Material::find_thirds() {

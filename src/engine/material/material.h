@@ -8,6 +8,7 @@
 #include "base/chance.h"
 #include "engine/material/acceptance.h"
 #include "engine/material/frequency_box.h"
+#include "engine/material/range_repair.h"
 #include "music/key.h"
 #include "music/tones.h"
 #include "settings/settings.h"
@@ -42,13 +43,9 @@ class Material {
   static constexpr int kStrictAttempts = 200;
   static constexpr int kLastAttempt = 10000;
 
-  // Tone and interval row by place, as the rules count them: iv_(i - 1) leads to tone i.
-  Tone& tone(int i) { return row_.inv_ton[static_cast<std::size_t>(i)]; }
-  std::int16_t& iv(int i) { return row_.iv[static_cast<std::size_t>(i)]; }
+  Tone& tone(int i) { return built_.tone(i); }
+  std::int16_t& iv(int i) { return built_.iv(i); }
   Tone& skala(int r) { return key_.skala[static_cast<std::size_t>(r)]; }
-  void move(int i, int semitones) {
-    tone(i).chr = static_cast<std::int16_t>(tone(i).chr + semitones);
-  }
 
   void draw_acceptable_row();
   void draw_row();
@@ -63,25 +60,15 @@ class Material {
   bool repeats_last_task() const;
   void find_thirds();
 
-  // range_repair.cpp
-  bool TonraumTest(int i);
-  void shift_row_back();
-  bool go_on_in_direction(int i);
-  void turn_round(int i);
-  void turn_degree(int i);
-
   const Settings& settings_;
   Key& key_;
-  TaskRow& row_;
+  RowUnderWay built_;
   FrequencyBox& box_;
   Chance& chance_;
 
   std::vector<std::int16_t> stufen_liste_;
   std::bitset<22> codes_;
   std::int16_t anz_okt_lage_ = 0;
-  std::int16_t richtung_ = 1;
-  std::int16_t okt_zusatz_ = 0;
-  bool pruef_frei_ = false;
   std::array<std::int16_t, 3> letzte_reihe_{};
   std::array<std::int64_t, kRefusals> refused_{};
 };

@@ -1,68 +1,67 @@
+#include "engine/material/range_repair.h"
+
 #include <cstdlib>
 
 #include "base/arithmetic.h"
-#include "engine/material/material.h"
 #include "music/interval.h"
 
 namespace tonarix {
+namespace {
 
-// A tone beyond the range is brought back by changing the melody as little as its interval allows.
-// False when the tone must be drawn again.
-bool Material::TonraumTest(int i) {
-  const int lowest = key_.tonart_offset + settings_.tonraum_min;
-  const int highest = key_.tonart_offset + settings_.tonraum_max;
-  bool ok = true;
-  if (tone(i).chr < lowest || tone(i).chr > highest) {
-    const bool wende = i != 2 && Sgn(iv(i - 1)) != Sgn(iv(i - 2));
-    if (wende || !is_test(settings_.Uebungsmodus) || !pruef_frei_) {
-      turn_round(i);
-    } else if (i == 2) {
-      shift_row_back();
-    } else {
-      ok = go_on_in_direction(i);
-    }
-  }
-  // Neither a tone repeated around another nor the octave that would only seem to be one.
-  return ok && tone(i).chr != tone(i - 2).chr;
+// The degree stays, its tone moves to the other side of the one before.
+void turn_degree(RowUnderWay& built, int i) {
+  built.richtung = static_cast<std::int16_t>(-built.richtung);
+  built.iv(i - 1) = static_cast<std::int16_t>(-built.iv(i - 1));
+  const int octave = std::abs(built.iv(i - 1)) == std::abs(built.iv(i - 2)) ? 24 : 12;
+  built.move(i, (2 * built.okt_zusatz + octave) * built.richtung);
 }
 
-void Material::shift_row_back() {
-  for (int i = 0; i <= 2; ++i) move(i, -richtung_ * 12);
+void turn_interval(RowUnderWay& built, int i) {
+  built.richtung = static_cast<std::int16_t>(-built.richtung);
+  const int octave = std::abs(built.iv(i - 1)) == 1 ? 24 : 12;
+  built.iv(i - 1) = KomplementaerIv(built.iv(i - 1));
+  built.move(i, (2 * built.okt_zusatz + octave) * built.richtung);
 }
 
-// In a test whose list has lost the interval before, that one may turn instead, so that the drawn
-// interval, which the list still needs, stays.
-bool Material::go_on_in_direction(int i) {
-  if (settings_.abfr_iv == Naming::from_keynote) {
-    turn_degree(i);
-    return true;
-  }
-  const bool prime_before = std::abs(iv(i - 2)) == 1;
-  if (std::abs(iv(i - 1)) == 1 && prime_before && tone(i - 1).qz != skala(0).qz) return false;
-  const int back = -richtung_ * (prime_before ? 24 : 12);
-  move(i - 1, back);
-  move(i, back);
-  iv(i - 2) = static_cast<std::int16_t>(-iv(i - 2));
+void shift_row_back(RowUnderWay& built) {
+  for (int i = 0; i <= 2; ++i) built.move(i, -built.richtung * 12);
+}
+
+// The interval before turns, so that the drawn one, which the list still needs, stays.
+bool turn_interval_before(RowUnderWay& built, int i, const Key& key) {
+  const bool prime_before = std::abs(built.iv(i - 2)) == 1;
+  const bool prime = std::abs(built.iv(i - 1)) == 1;
+  if (prime && prime_before && built.tone(i - 1).qz != key.skala[0].qz) return false;
+  const int back = -built.richtung * (prime_before ? 24 : 12);
+  built.move(i - 1, back);
+  built.move(i, back);
+  built.iv(i - 2) = static_cast<std::int16_t>(-built.iv(i - 2));
   return true;
 }
 
-void Material::turn_round(int i) {
-  if (settings_.abfr_iv == Naming::from_keynote) {
-    turn_degree(i);
-    return;
+bool bring_back(RowUnderWay& built, int i, const Settings& settings, const Key& key) {
+  const bool wende = i != 2 && Sgn(built.iv(i - 1)) != Sgn(built.iv(i - 2));
+  const bool may_turn_before = !wende && is_test(settings.Uebungsmodus) && built.pruef_frei;
+  if (may_turn_before && i == 2) {
+    shift_row_back(built);
+  } else if (settings.abfr_iv == Naming::from_keynote) {
+    turn_degree(built, i);
+  } else if (may_turn_before) {
+    return turn_interval_before(built, i, key);
+  } else {
+    turn_interval(built, i);
   }
-  richtung_ = static_cast<std::int16_t>(-richtung_);
-  const int octave = std::abs(iv(i - 1)) == 1 ? 24 : 12;
-  iv(i - 1) = KomplementaerIv(iv(i - 1));
-  move(i, (2 * okt_zusatz_ + octave) * richtung_);
+  return true;
 }
 
-// The degree stays, its tone moves to the other side of the one before.
-void Material::turn_degree(int i) {
-  richtung_ = static_cast<std::int16_t>(-richtung_);
-  iv(i - 1) = static_cast<std::int16_t>(-iv(i - 1));
-  const int octave = std::abs(iv(i - 1)) == std::abs(iv(i - 2)) ? 24 : 12;
-  move(i, (2 * okt_zusatz_ + octave) * richtung_);
+}  // namespace
+
+bool TonraumTest(RowUnderWay& built, int i, const Settings& settings, const Key& key) {
+  const int above_offset = built.tone(i).chr - key.tonart_offset;
+  const bool inside = above_offset >= settings.tonraum_min && above_offset <= settings.tonraum_max;
+  if (!inside && !bring_back(built, i, settings, key)) return false;
+  // Neither a tone repeated around another nor the octave that would only seem to be one.
+  return built.tone(i).chr != built.tone(i - 2).chr;
 }
 
 }  // namespace tonarix

@@ -1,9 +1,10 @@
+#include "engine/material/test_list.h"
+
 #include <algorithm>
-#include <numeric>
 
 #include "base/arithmetic.h"
-#include "engine/material/frequency_box.h"
 #include "music/interval.h"
+#include "settings/offered_intervals.h"
 
 namespace tonarix {
 namespace {
@@ -14,12 +15,17 @@ constexpr std::int16_t to_even(std::int16_t number) {
 
 }  // namespace
 
+TestList::TestList(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance)
+    : settings_(settings), key_(key), statistics_(statistics), chance_(chance) {}
+
 // So many tasks that each interval comes up about four times, kept between three and ten minutes
 // where a longer or shorter test allows it. Both halves of a test have the same number of tasks.
-void FrequencyBox::build_test(const TestTiming& timing) {
+void TestList::build(const TestTiming& timing) {
   constexpr int kLongTest = 600;
   constexpr int kShortTest = 180;
-  const int wished = box_zeilen * 4;
+  const IntervalList offered = offered_intervals(settings_, key_);
+  box_zeilen_ = static_cast<int>(offered.values().size());
+  const int wished = box_zeilen_ * 4;
   const bool one_degree = settings_.ton_st_wahl == 1;
   aufg_gesamt = to_int16(
       one_degree ? wished : wished * 10 / static_cast<int>(Round((settings_.invzahl + 0.5) * 10)));
@@ -32,40 +38,35 @@ void FrequencyBox::build_test(const TestTiming& timing) {
     aufg_gesamt = to_even(round_to_int16(aufg_gesamt / 4.0 * 6));
     aufg_dauer = estimate(timing);
   }
-  const int asked = one_degree ? settings_.invzahl : settings_.invzahl + 1;
-  matboxmax = round_to_int16(aufg_gesamt * asked / 2.0);
+  matboxmax = round_to_int16(aufg_gesamt * asked_per_task() / 2.0);
   test_haeufgk.fill(0);
   aufg_rest = aufg_gesamt;
   TestListeFuellen();
 }
 
-std::int16_t FrequencyBox::estimate(const TestTiming& timing) const {
-  const int asked = settings_.ton_st_wahl == 1 ? settings_.invzahl : settings_.invzahl + 1;
+std::int16_t TestList::estimate(const TestTiming& timing) const {
   double x = Int(timing.spieltimer / 1000.0 * aufg_gesamt);
   x = Round(Int(timing.WahlAutomat / 1000.0 * aufg_gesamt) + x);
-  x += aufg_gesamt * asked * timing.zeit_grenze / 10.0;
+  x += aufg_gesamt * asked_per_task() * timing.zeit_grenze / 10.0;
   return round_to_int16((Int((x - 1) / 10) + 1) * 10);
 }
 
-void FrequencyBox::TestListeFuellen() {
-  matbox.assign(1, 0);
+void TestList::TestListeFuellen() {
+  matbox.clear();
   const IntervalList offered = offered_intervals(settings_, key_);
   for (const std::int16_t value : offered) {
     matbox.push_back(value);
     statistics_.Increment(row_of(value), 3);
   }
-  while (matbox.size() <= static_cast<std::size_t>(matboxmax)) {
+  while (matbox.size() < static_cast<std::size_t>(matboxmax)) {
     const std::int16_t value = draw_offered();
     if (value != 0) matbox.push_back(value);
   }
-  open_places_.resize(matbox.size() - 1);
-  std::iota(open_places_.begin(), open_places_.end(), std::int16_t{1});
-  // A refilled list has no places left to give back to.
-  for (std::size_t i = 0; i < taken_count_; ++i) taken_[i].place = 0;
+  for (std::size_t i = 0; i < taken_count_; ++i) taken_[i].place = kFilledAgain;
 }
 
 // 0 when the draw fell on a row that is not asked beside the chosen degree.
-std::int16_t FrequencyBox::draw_offered() {
+std::int16_t TestList::draw_offered() {
   const int sign = draw_sign(chance_);
   if (settings_.ton_st_wahl == 1 && settings_.abfr_iv == Naming::from_tone_before) {
     const auto pair = degree_pair(key_, settings_.stufe_wahl, draw(chance_, key_.anz_stufen));
@@ -75,37 +76,34 @@ std::int16_t FrequencyBox::draw_offered() {
   return to_int16(asked_code(draw(chance_, key_.iv_anzahl) + 1) * sign);
 }
 
-bool FrequencyBox::take_from_list(std::int16_t value) {
+// In the first half of a test an interval not used yet is preferred, in the second half one used at
+// most once.
+std::int16_t TestList::draw_interval() {
+  if (matbox.empty()) TestListeFuellen();
+  const int half = static_cast<int>(Round(aufg_gesamt / 2.0));
+  const int enough = (aufg_gesamt - aufg_rest) / half + 1;
+  std::int16_t value = 0;
+  for (int n = 0; n < box_zeilen_; ++n) {
+    value = matbox[static_cast<std::size_t>(draw(chance_, static_cast<int>(matbox.size())))];
+    if (uses(value) < enough) break;
+  }
+  return value;
+}
+
+bool TestList::take(std::int16_t value) {
   const auto entry = std::ranges::find(matbox, value);
   if (entry == matbox.end()) return false;
-  const auto place = to_int16(entry - matbox.begin());
-  *entry = 0;
-  std::erase(open_places_, place);
-  ++test_haeufgk[place_of(row_of(value))];
-  taken_.at(taken_count_++) = {place, value};
+  taken_.at(taken_count_++) = {to_int16(entry - matbox.begin()), value};
+  matbox.erase(entry);
+  ++uses(value);
   return true;
 }
 
-void FrequencyBox::give_back() {
+void TestList::give_back() {
   while (taken_count_ > 0) {
     const Taken taken = taken_[--taken_count_];
-    --test_haeufgk[place_of(row_of(taken.value))];
-    if (taken.place == 0) continue;
-    matbox[static_cast<std::size_t>(taken.place)] = taken.value;
-    open_places_.push_back(taken.place);
-  }
-}
-
-// In the first half of a test an interval not used yet is preferred, in the second half one used at
-// most once.
-void FrequencyBox::draw_test_place() {
-  if (open_places_.empty()) TestListeFuellen();
-  const int half = static_cast<int>(Round(aufg_gesamt / 2.0));
-  const int uses = (aufg_gesamt - aufg_rest) / half + 1;
-  for (int n = 0; n < box_zeilen; ++n) {
-    const int open = draw(chance_, static_cast<int>(open_places_.size()));
-    matbox_pos = open_places_[static_cast<std::size_t>(open)];
-    if (test_haeufgk[place_of(row_of(drawn()))] < uses) break;
+    --uses(taken.value);
+    if (taken.place != kFilledAgain) matbox.insert(matbox.begin() + taken.place, taken.value);
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/runtime_error.h"
 #include "engine/material/worked_examples.h"
+#include "settings/offered_intervals.h"
 #include "support/material_bed.h"
 #include "support/material_settings.h"
 
@@ -73,7 +74,7 @@ TEST(Material, ATestAsksItsList) {
         bed.material.mat_wahl();
       } while (bed.answer(0.2));
       for (const std::int16_t value : offered_intervals(settings, bed.key)) {
-        if (bed.box.test_haeufgk[place_of(statistic_row(value, abfr_iv))] == 0) {
+        if (bed.box.test.test_haeufgk[place_of(statistic_row(value, abfr_iv))] == 0) {
           ++missing;
         }
       }

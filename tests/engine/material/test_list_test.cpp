@@ -1,11 +1,12 @@
+#include "engine/material/test_list.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
-#include "engine/material/frequency_box.h"
 #include "engine/material/worked_examples.h"
+#include "settings/offered_intervals.h"
 #include "support/material_bed.h"
 #include "support/material_settings.h"
 
@@ -23,11 +24,12 @@ TEST(TestList, LengthsAreAsWorkedOutByHand) {
     settings.stufe_wahl = to_int16(std::max(degree, 0));
     settings.invzahl = to_int16(invzahl);
     MaterialBed bed(settings, 1);
-    bed.box.BoxAufbau({to_int16(beat * (invzahl + 2)), 1800, to_int16(abfr_iv == 0 ? 20 : 25)});
-    EXPECT_EQ(bed.box.aufg_gesamt, aufg_gesamt) << example.str();
-    EXPECT_EQ(bed.box.matboxmax, matboxmax) << example.str();
-    EXPECT_EQ(bed.box.aufg_dauer, aufg_dauer) << example.str();
-    EXPECT_EQ(bed.box.aufg_rest, aufg_gesamt);
+    TestList& list = bed.box.test;
+    list.build({to_int16(beat * (invzahl + 2)), 1800, to_int16(abfr_iv == 0 ? 20 : 25)});
+    EXPECT_EQ(list.aufg_gesamt, aufg_gesamt) << example.str();
+    EXPECT_EQ(list.matboxmax, matboxmax) << example.str();
+    EXPECT_EQ(list.aufg_dauer, aufg_dauer) << example.str();
+    EXPECT_EQ(list.aufg_rest, aufg_gesamt);
   }
 }
 
@@ -36,51 +38,50 @@ TEST(TestList, AsksEachIntervalOnceBeforeAnyByChance) {
     if (settings.Uebungsmodus != Level::test || settings.Tonart != 0 || settings.E_Oktav != 3)
       continue;
     MaterialBed bed(settings, 11);
+    TestList& list = bed.box.test;
     for (int half = 1; half <= 2; ++half) {
       const auto offered = offered_intervals(settings, bed.key);
       const std::size_t all = offered.values().size();
-      ASSERT_LE(all, static_cast<std::size_t>(bed.box.matboxmax));
+      ASSERT_LE(all, static_cast<std::size_t>(list.matboxmax));
       for (std::size_t i = 0; i < all; ++i) {
-        EXPECT_EQ(bed.box.matbox.at(i + 1), offered.values()[i]);
+        EXPECT_EQ(list.matbox.at(i), offered.values()[i]);
         EXPECT_EQ(statistic(bed, statistic_row(offered.values()[i], settings.abfr_iv), 3), half);
       }
-      ASSERT_EQ(static_cast<int>(bed.box.matbox.size()), bed.box.matboxmax + 1);
-      for (std::size_t i = all + 1; i < bed.box.matbox.size(); ++i) {
-        EXPECT_NE(std::ranges::find(offered.values(), bed.box.matbox[i]), offered.values().end());
+      ASSERT_EQ(static_cast<int>(list.matbox.size()), list.matboxmax);
+      for (std::size_t i = all; i < list.matbox.size(); ++i) {
+        EXPECT_NE(std::ranges::find(offered.values(), list.matbox[i]), offered.values().end());
       }
-      bed.box.TestListeFuellen();
+      list.TestListeFuellen();
     }
   }
 }
 
 TEST(TestList, GivesBackWhatARefusedRowTook) {
   MaterialBed bed(material_of(4, 0, 1), 2);
-  const auto list = bed.box.matbox;
-  const auto uses = bed.box.test_haeufgk;
-  bed.box.begin_task();
-  EXPECT_TRUE(bed.box.take_from_list(4));
-  EXPECT_EQ(bed.box.test_haeufgk[4], 1);
-  EXPECT_TRUE(bed.box.take_from_list(-13));
-  EXPECT_EQ(bed.box.test_haeufgk[34], 1);
-  EXPECT_NE(bed.box.matbox, list);
-  bed.box.give_back();
-  EXPECT_EQ(bed.box.matbox, list);
-  EXPECT_EQ(bed.box.test_haeufgk, uses);
+  TestList& list = bed.box.test;
+  const auto entries = list.matbox;
+  const auto uses = list.test_haeufgk;
+  EXPECT_TRUE(list.take(4));
+  EXPECT_EQ(list.test_haeufgk[4], 1);
+  EXPECT_TRUE(list.take(-13));
+  EXPECT_EQ(list.test_haeufgk[34], 1);
+  EXPECT_NE(list.matbox, entries);
+  list.give_back();
+  EXPECT_EQ(list.matbox, entries);
+  EXPECT_EQ(list.test_haeufgk, uses);
 
-  while (bed.box.take_from_list(6)) bed.box.begin_task();
-  EXPECT_FALSE(bed.box.take_from_list(6));
-  const int taken = bed.box.test_haeufgk[6];
-  bed.box.give_back();  // of tasks that are done nothing goes back
-  EXPECT_EQ(bed.box.test_haeufgk[6], taken);
+  while (list.take(6)) bed.box.begin_task();
+  const int taken = list.test_haeufgk[6];
+  list.give_back();  // of tasks that are done nothing goes back
+  EXPECT_EQ(list.test_haeufgk[6], taken);
 }
 
 // An emptied list is filled before it is drawn from.
 TEST(TestList, NeverRunsDry) {
   MaterialBed bed(material_of(3, 0, 0), 4);
-  for (int i = 0; i < 3 * bed.box.matboxmax; ++i) {
+  for (int i = 0; i < 3 * bed.box.test.matboxmax; ++i) {
     bed.box.begin_task();
-    bed.box.draw_interval();
-    ASSERT_TRUE(bed.box.take_from_list(bed.box.drawn()));
+    ASSERT_TRUE(bed.box.test.take(bed.box.draw_interval()));
   }
 }
 
@@ -90,35 +91,27 @@ TEST(TestList, PrefersWhatItHasNotAskedYet) {
   settings.invzahl = 4;
   for (const int used : {20, 33}) {
     MaterialBed bed(settings, 9);
-    for (std::size_t place = 1; place <= static_cast<std::size_t>(used); ++place) {
-      bed.box.begin_task();
-      bed.box.take_from_list(bed.box.matbox[place]);
+    TestList& list = bed.box.test;
+    for (int n = 0; n < used; ++n) {
+      list.take(list.matbox.front());
+      list.keep_taken();
     }
-    const auto open = std::ranges::count_if(bed.box.matbox, [](int value) { return value != 0; });
     const auto fresh = [&](int value) {
-      const auto row = statistic_row(to_int16(value), settings.abfr_iv);
-      return bed.box.test_haeufgk[place_of(row)] == 0;
+      return list.test_haeufgk[place_of(statistic_row(to_int16(value), settings.abfr_iv))] == 0;
     };
-    const auto unused = std::ranges::count_if(
-        bed.box.matbox, [&](int value) { return value != 0 && fresh(value); });
-    const double missed = std::pow(1 - static_cast<double>(unused) / static_cast<double>(open),
-                                   static_cast<double>(bed.box.box_zeilen));
+    const auto open = static_cast<double>(list.matbox.size());
+    const auto unused = static_cast<double>(std::ranges::count_if(list.matbox, fresh));
+    const double missed = std::pow(1 - unused / open, bed.box.box_zeilen);
     constexpr int kDraws = 40000;
-    int stale = 0;
-    for (int i = 0; i < kDraws; ++i) {
-      bed.box.draw_interval();
-      ASSERT_NE(bed.box.drawn(), 0);
-      if (!fresh(bed.box.drawn())) ++stale;
-    }
-    EXPECT_NEAR(static_cast<double>(stale) / kDraws, missed, 0.01) << used;
+    const auto stale = [&] {
+      int count = 0;
+      for (int i = 0; i < kDraws; ++i) count += fresh(list.draw_interval()) ? 0 : 1;
+      return static_cast<double>(count) / kDraws;
+    };
+    EXPECT_NEAR(stale(), missed, 0.01) << used;
     // In the second half an interval used once is as good as a new one.
-    bed.box.aufg_rest = to_int16(bed.box.aufg_gesamt / 2);
-    stale = 0;
-    for (int i = 0; i < kDraws; ++i) {
-      bed.box.draw_interval();
-      if (!fresh(bed.box.drawn())) ++stale;
-    }
-    EXPECT_GT(stale, kDraws / 10) << used;
+    list.aufg_rest = to_int16(list.aufg_gesamt / 2);
+    EXPECT_GT(stale(), 0.1) << used;
   }
 }
 

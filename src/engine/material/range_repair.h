@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+
+#include "music/key.h"
+#include "music/tones.h"
+#include "settings/settings.h"
+
+namespace tonarix {
+
+/// A row of tones that is being built, and what is known of its newest interval.
+struct RowUnderWay {
+  TaskRow& row;
+  std::int16_t richtung = 1;    ///< direction of the interval, 1 up or -1 down
+  std::int16_t okt_zusatz = 0;  ///< octaves added to it, in semitones
+  bool pruef_frei = false;      ///< the interval before it was no longer on the test's list
+
+  // By place, as the rules count: iv(i - 1) leads to tone i.
+  Tone& tone(int i) { return row.inv_ton[static_cast<std::size_t>(i)]; }
+  std::int16_t& iv(int i) { return row.iv[static_cast<std::size_t>(i)]; }
+  void move(int i, int semitones) {
+    tone(i).chr = static_cast<std::int16_t>(tone(i).chr + semitones);
+  }
+};
+
+/// Brings tone `i`, 2 or above, back when it lies beyond the range, by changing the melody as
+/// little as its interval allows. False when the tone must be drawn again.
+bool TonraumTest(RowUnderWay& built, int i, const Settings& settings, const Key& key);
+
+}  // namespace tonarix
