@@ -44,5 +44,5 @@ standard=$(apt-cache dumpavail | awk '/^Package:/ {p = $2} /^Priority: (required
 running=$(awk '$1 == "run" {print $2}' packaging/packages.txt)
 # shellcheck disable=SC2086
 comm -13 <(fetched $standard) <(fetched $running) |
-  awk '{sum += $2} END {printf "%-24s %10.1f %-6s goal <= 60\n", "download_mb", sum / 1e6, "MB"}'
+  awk '{sum += $2} END {printf "%-28s %10.1f %-6s goal <= 60\n", "download_mb", sum / 1e6, "MB"}'
 rm -rf "$status" "$cache"

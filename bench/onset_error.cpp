@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "figure.h"
 #include "support/rendered_row.h"
 
 int main() {
@@ -16,6 +17,6 @@ int main() {
   for (const int beat_ms : {250, 333, 400, 617, 1000, 1517, 2000}) {
     worst = std::max(worst, worst_onset_error_ms(synthesizer, 6, beat_ms));
   }
-  std::printf("onset_error_ms %.2f ms goal <= 1.4\n", worst);
+  print_figure("onset_error_ms", worst, "ms", "<= 1.4");
   return 0;
 }

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -21,6 +20,7 @@
 #include "app/program.h"
 #include "base/windows/theme.h"
 #include "config/einstellung1.h"
+#include "figure.h"
 
 namespace {
 
@@ -109,11 +109,6 @@ double time_first_window(const std::string& self, const std::string& folder) {
   return painted ? taken : -1;
 }
 
-void print(const char* name, double value, const char* unit, const char* goal) {
-  std::printf("%-24s %10.1f %-6s goal %s\n", name, value, unit, goal);
-  std::fflush(stdout);
-}
-
 int open_exercise(int argc, char* argv[], const std::filesystem::path& folder) {
   QApplication application(argc, argv);
   tonarix::theme::apply(application);
@@ -128,13 +123,13 @@ int open_exercise(int argc, char* argv[], const std::filesystem::path& folder) {
   });
   scheduler.post(tonarix::milliseconds(2000), [&] {
     auto& settings = dynamic_cast<tonarix::Einstellung1&>(*program.windows().newest());
-    watch.expect([&] { print("exercise_open_ms", ms_since(pressed), "ms", "<= 200"); });
+    watch.expect(
+        [&] { tonarix::print_figure("exercise_open_ms", ms_since(pressed), "ms", "<= 200"); });
     pressed = Clock::now();
     settings.click(settings.cmdOk);
   });
   scheduler.post(tonarix::milliseconds(6000), [&] {
-    print("pss_mb", pss_mb(), "MB", "<= 50");
-    std::fflush(stdout);
+    tonarix::print_figure("pss_mb", pss_mb(), "MB", "<= 50");
     std::_Exit(program.windows().newest()->name() == "arbeitsblatt1" ? 0 : 1);
   });
   return application.exec();
@@ -150,6 +145,6 @@ int main(int argc, char* argv[]) {
   std::vector<double> times;
   for (int run = 0; run < 7; ++run) times.push_back(time_first_window(self, folder));
   std::sort(times.begin(), times.end());
-  print("first_window_ms", times[times.size() / 2], "ms", "<= 300");
+  tonarix::print_figure("first_window_ms", times[times.size() / 2], "ms", "<= 300");
   return open_exercise(argc, argv, folder);
 }

@@ -1,11 +1,11 @@
 #include <QApplication>
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <memory>
 
 #include "base/windows/presenter.h"
 #include "base/windows/theme.h"
+#include "figure.h"
 #include "host/local/catalogue_folder.h"
 #include "results/windows/result_view.h"
 #include "support/fake_dialogs.h"
@@ -115,6 +115,6 @@ int main(int argc, char** argv) {
   Bed bed;
   double slowest = 0;
   for (int sheet = 0; sheet < 20; ++sheet) slowest = std::max(slowest, bed.sheet_ms());
-  std::printf("sheet_ms %.1f ms goal <= 50\n", slowest);
+  print_figure("sheet_ms", slowest, "ms", "<= 50");
   return 0;
 }
