@@ -258,12 +258,15 @@ TEST(ScoreFlow, ATestKeepsTheTwoBestResultsOfEachInterval) {
     if (task > 0) go_on(bed, window);
     answer_task(bed, window, all, [&] { return kWays[n++ % std::size(kWays)]; });
   }
+  std::map<std::string, int> code_of;
+  for (const Control& button : window.intervall) code_of[button.text] = *button.index();
   window.zurueck_click();
   bed.scheduler.advance_ms(400);
   std::map<int, Account> accounts = books(all, 1);
   for (const ResultRow& row : bed.result().content().table.rows) {
-    SCOPED_TRACE(row.control);
-    const Account& account = accounts[row.control > 21 ? 21 - row.control : row.control];
+    SCOPED_TRACE(row.label);
+    const int code = code_of.at(row.label);
+    const Account& account = accounts[row.column == 0 ? code : -code];
     ASSERT_EQ(row.field.text.empty(), account.results.empty());
     if (account.results.empty()) continue;
     EXPECT_NEAR(std::stod(row.field.text), percent(account), 0.0501);
