@@ -46,7 +46,7 @@ class Bed {
     settings_.Uebungsmodus = Level::training;
     settings_.abfr_iv = Naming::from_tone_before;
     settings_.EinstDatSave = {"34"};
-    for (int pair = 0; pair < ResultWindow::kSettingRows; ++pair) {
+    for (std::size_t pair = 0; pair < ResultWindow::kSettingRows; ++pair) {
       settings_.EinstDatSave.insert(settings_.EinstDatSave.end(),
                                     {"Iv-Bestimmung", "gemischt (0 - 2 Okt)"});
     }

@@ -21,7 +21,6 @@ struct ResultField {
 
 /// One visible row of the sheet.
 struct ResultRow {
-  int control = 0;          ///< index of its label and field, 1 to 42
   std::string label;        ///< "(II) große Sekunde", "große Sekunde"
   std::string short_label;  ///< "(II)", "g2"
   ResultField field;

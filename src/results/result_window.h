@@ -30,11 +30,11 @@ struct ResultContext {
   std::function<void()> show_help;
 };
 
-/// The result sheet of an exercise. It fills itself once and reads only.
+/// The result sheet of an exercise. It fills itself once and reads only. What it says is one
+/// picture made of its `content`, so its controls are the buttons alone.
 class ResultWindow final : public Window {
  public:
-  static constexpr int kSettingRows = 17;
-  static constexpr int kResultRows = 42;
+  static constexpr std::size_t kSettingRows = 17;
 
   /// `closed` runs after the sheet has been unloaded.
   ResultWindow(const ResultContext& context, std::function<void()> closed);
@@ -49,19 +49,6 @@ class ResultWindow final : public Window {
   const Chart& chart() const { return chart_; }
   std::string chart_title() const { return word(1208_text); }
 
-  Control gr_einst{*this, "gr_einst"};
-  Control grd_einst_head{*this, "grd_einst_head"};
-  ControlArray<Control, 0, 5> g_einst_lab{*this, "g_einst_lab"};
-  ControlArray<Control, 0, 5> g_einst_inh{*this, "g_einst_inh"};
-  Control einst_cont{*this, "einst_cont"};
-  Control einst_head{*this, "einst_head"};
-  ControlArray<Control, 1, kSettingRows> einst_lab{*this, "einst_lab"};
-  ControlArray<Control, 1, kSettingRows> einst_Inh{*this, "einst_Inh"};
-  Control erg_cont{*this, "erg_cont"};
-  Control erg_head{*this, "erg_head"};
-  ControlArray<Control, 0, 1> Lab_richtung{*this, "Lab_richtung"};
-  ControlArray<Control, 0, kResultRows> Lab_ergeb{*this, "Lab_ergeb"};
-  ControlArray<Control, 0, kResultRows> ergebnis{*this, "ergebnis"};
   Control PicSchalt{*this, "PicSchalt"};
   Control cmdHilfe{*this, "cmdHilfe"};
   Control cmdPrint{*this, "cmdPrint"};
@@ -72,7 +59,6 @@ class ResultWindow final : public Window {
   void start_timer();
   void LbGrdEinst();
   void LbEinst();
-  void show_row(const ResultRow& row);
   void printed(const PrintResult& result);
   void leave();
 

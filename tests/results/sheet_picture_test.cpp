@@ -1,9 +1,6 @@
 #include "results/sheet_picture.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "support/full_sheet.h"
 
@@ -43,13 +40,6 @@ TEST(SheetPicture, PaperSaysTheSameAllInWhiteAndHiddenLinesShortenTheFrame) {
   const SheetPicture shorter = sheet_picture(content, SheetGround::paper);
   EXPECT_EQ(paper.surfaces[0].box.height - shorter.surfaces[0].box.height, 3 * 20);
   EXPECT_EQ(shorter.surfaces[0].box.bottom() - shorter.texts[6].box.bottom(), 7) << "105 twips";
-}
-
-TEST(SpokenSheet, TellsEveryRowWithItsDirection) {
-  const std::string spoken = spoken_sheet(full_sheet());
-  EXPECT_EQ(std::count(spoken.begin(), spoken.end(), '\n'), 1 + 6 + 1 + 17 + 2 + 38);
-  EXPECT_THAT(spoken, testing::HasSubstr("Total: 50.0%\nAugmented fourth Upward: 0.0%\n"));
-  EXPECT_THAT(spoken, testing::EndsWith("Augmented fourth Downward: 100.0%\n"));
 }
 
 }  // namespace

@@ -20,7 +20,6 @@ inline SheetContent full_sheet() {
   for (int i = 0; i < 38; ++i) {
     const double fraction = (i % 19) / 18.0;
     ResultRow row;
-    row.control = i + 1;
     row.label = "Augmented fourth";
     row.short_label = "a4";
     row.field = {fraction, percent_number(fraction) + "%", scale_colour(fraction)};
