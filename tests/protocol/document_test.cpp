@@ -55,6 +55,8 @@ TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
   const auto path = folder.path / "deep" / "EXR.xml";
   ASSERT_TRUE(writer.write(path, "first").written);
   ASSERT_TRUE(writer.write(path, "second").written);
+  using std::filesystem::perms;
+  EXPECT_EQ(status(path).permissions(), perms::owner_read | perms::owner_write);
 
   const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
   rlimit old_limit{};
@@ -66,7 +68,7 @@ TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
   std::signal(SIGXFSZ, old_handler);
 
   EXPECT_FALSE(result.written);
-  EXPECT_FALSE(result.reason.empty());
+  EXPECT_EQ(result.reason, "File too large");
   EXPECT_EQ(folder.content("deep/EXR.xml"), "second");
   const WriteResult below_a_file = writer.write(path / "EXR.xml", "text");
   EXPECT_FALSE(below_a_file.written);
