@@ -2,21 +2,17 @@
 
 #include <gmock/gmock.h>
 
-#include "support/fake_dialogs.h"
 #include "support/fake_host.h"
-#include "support/virtual_scheduler.h"
+#include "support/key_language.h"
+#include "support/window_bed.h"
 
 namespace tonarix {
 namespace {
 
 using testing::ElementsAre;
 
-struct KeyLanguage final : LanguageObject, LanguageList {
-  std::vector<LanguageRow> languages() override { return {{"Deutsch", "deutsch"}}; }
-  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
-};
-
-struct SelectionWindowTest : testing::Test {
+struct SelectionWindowTest : testing::Test, WindowBed {
+  ~SelectionWindowTest() override { windows.clear(); }
   void start() {
     window.load();
     scheduler.advance_ms(100);
@@ -40,20 +36,16 @@ struct SelectionWindowTest : testing::Test {
             .join_companion = {}};
   }
 
-  VirtualScheduler scheduler;
   FakeHost host;
   Server server{host.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
-  Language language{{[] { return std::make_unique<KeyLanguage>(); },
-                     [](const std::string&) { return std::make_unique<KeyLanguage>(); }}};
+  Language language{key_languages()};
   TextTables tables;
-  RecordingDialogs dialogs{scheduler};
   ErrorReport errors{server, language, dialogs};
   Settings settings;
   bool settings_break = false;
   std::function<bool(const ExerciseRow&)> offered = [](const ExerciseRow&) { return true; };
   std::vector<SettingsKind> opened;
   int quits = 0;
-  WindowList windows{scheduler};
   SelectionWindow& window = windows.open(std::make_unique<SelectionWindow>(context()));
 };
 

@@ -24,11 +24,13 @@ struct SettingsBed : WindowBed {
   ~SettingsBed() { windows.clear(); }
 
   /// Opens the window and lets it start.
-  Einstellung1& open() {
-    window = &windows.open(std::make_unique<Einstellung1>(context()));
+  template <typename Kind>
+  Kind& open() {
+    Kind& opened = windows.open(std::make_unique<Kind>(context()));
     scheduler.settle();
-    return *window;
+    return opened;
   }
+  Einstellung1& open() { return *(window = &open<Einstellung1>()); }
   void store(const std::string& key, const std::vector<std::string>& record) {
     records["vemo06/" + key] = Variant::strings(record);
   }

@@ -15,22 +15,13 @@
 #include "support/fake_dialogs.h"
 #include "support/fake_document_writer.h"
 #include "support/fake_host.h"
+#include "support/key_language.h"
 #include "support/recording_midi.h"
 #include "support/recording_printer.h"
 #include "support/standing_clock.h"
 #include "support/virtual_scheduler.h"
 
 namespace tonarix {
-
-/// Texts that show their key: "[629s]".
-struct KeyLanguage final : LanguageObject {
-  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
-};
-struct TwoLanguages final : LanguageList {
-  std::vector<LanguageRow> languages() override {
-    return {{"English", "english"}, {"Deutsch", "deutsch"}};
-  }
-};
 
 /// The whole module between fakes, in virtual time. Several processes can follow each other on one
 /// host.
@@ -183,8 +174,7 @@ class FlowBed {
   SeededChance chance;
   SeededChance student{99};
   WindowList windows{scheduler};
-  Language language{{[] { return std::make_unique<TwoLanguages>(); },
-                     [](const std::string&) { return std::make_unique<KeyLanguage>(); }}};
+  Language language{key_languages()};
   RecordingDialogs dialogs{scheduler};
   RecordingDevices devices{scheduler};
   FakeDocumentWriter documents;

@@ -56,6 +56,22 @@ TEST(EinstSicherung, ReachesTheLastOfEachChoice) {
               ElementsAre("1", "9", "3", "0", "1", "1", "2", "1", "", "0", "2", "2", "1", "4"));
 }
 
+TEST(Defaults, TheoryStartsWithoutWhatAnExerciseByEarLeft) {
+  Settings fresh;
+  Settings left = at_end(SettingsKind::einstellung1, true);
+  left.trans_dfg = 2;
+  for (Settings* settings : {&fresh, &left}) set_defaults(*settings, SettingsKind::einstellung1b);
+  for (const SlotRow& row : kSlots) {
+    const Choice choice = row.of(SettingsKind::einstellung1);
+    // The window chooses the place of the range by its width.
+    if (choice == Choice::none || choice == Choice::Combo_tonraum) continue;
+    EXPECT_EQ(choice_value(left, choice), choice_value(fresh, choice)) << row.slot;
+  }
+  EXPECT_EQ(left.trans_dfg, 0);
+  EXPECT_EQ(left.abfr_iv, Naming::from_tone_before);
+  EXPECT_EQ(left.Tonart, 1);
+}
+
 TEST(EinstSicherung, RefusesEveryBrokenPlace) {
   for (const SettingsKind kind : kKinds) {
     const auto good = build_EinstSicherung(Settings(), kind);
