@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/module_texts.h"
 #include "config/einstellung1.h"
 #include "exercises/determine/arbeitsblatt1.h"
 
@@ -18,11 +19,11 @@ std::unique_ptr<Window> make(const Context& context) {
 // clang-format off
 constexpr std::array kExerciseWindows{
     // window          help       made by
-    ExerciseFactory{"arbeitsblatt1", 1285_text, make<Arbeitsblatt1>},
+    ExerciseFactory{"arbeitsblatt1", text::help_determine, make<Arbeitsblatt1>},
 };
 constexpr std::array kSettingsWindows{
     // kind                                      window          help       made by
-    SettingsFactory{SettingsKind::einstellung1, "einstellung1", 1284_text, make<Einstellung1>},
+    SettingsFactory{SettingsKind::einstellung1, "einstellung1", text::help_settings, make<Einstellung1>},
 };
 // clang-format on
 
@@ -30,7 +31,8 @@ struct Help {
   std::string_view window;
   TextKey text;
 };
-constexpr std::array kOtherHelp{Help{"grd_einst", 1283_text}, Help{"testergebnis", 1286_text}};
+constexpr std::array kOtherHelp{Help{"grd_einst", text::help_selection},
+                                Help{"testergebnis", text::help_sheet}};
 
 template <typename Table, typename Value, typename Member>
 auto* find(const Table& table, const Value& value, Member member) {

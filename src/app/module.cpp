@@ -1,6 +1,7 @@
 #include "app/module.h"
 
 #include "app/exercise_windows.h"
+#include "base/module_texts.h"
 
 #include "results/result_window.h"
 #include "settings/settings_tables.h"
@@ -134,7 +135,7 @@ void Module::show_help() {
   const Window* newest = outside_.windows.newest();
   const auto help = newest != nullptr ? help_for(newest->name()) : std::nullopt;
   if (!help) return;
-  outside_.dialogs.show({outside_.language.Wort(1282_text), outside_.language.Wort(*help),
+  outside_.dialogs.show({outside_.language.Wort(text::help_caption), outside_.language.Wort(*help),
                          MessageStyle::plain, "", ""},
                         [](Reply) {});
 }

@@ -12,6 +12,7 @@
 #include <ctime>
 #include <iostream>
 
+#include "base/module_texts.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
@@ -121,9 +122,9 @@ std::optional<TextKey> Program::sound_problem() const {
     case Synthesizer::Problem::none:
       return {};
     case Synthesizer::Problem::no_sound_font:
-      return 1281_text;
+      return text::no_sound_font;
     case Synthesizer::Problem::no_sound_hardware:
-      return 1280_text;
+      return text::no_sound_output;
   }
   return {};
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/module_texts.h"
 #include "base/runtime_error.h"
 
 namespace tonarix {
@@ -16,38 +17,38 @@ constexpr Caption text(TextKey key) {
 // clang-format off
 constexpr ChoiceWords kWords[] = {
     // choice               label            group        columns follows list name  captions
-    {Choice::Uebungsmodus,  "Übungsmodus",   "",                    2, true,  1050_text, {}},
-    {Choice::prfnr,         "Nr.:",          "",                    1, true,  1089_text, {}},
+    {Choice::Uebungsmodus,  "Übungsmodus",   "",                    2, true,  text::level_title, {}},
+    {Choice::prfnr,         "Nr.:",          "",                    1, true,  text::exam_number, {}},
     {Choice::abfrage,       "Abfolge",       "Abfolge",             2, false, none,
-     {text(1065_text), text(1066_text)}},
+     {text(text::order_manual), text(text::order_automatic)}},
     {Choice::tongeschl,     "Tongeschlecht", "Tongeschlecht",       1, false, none,
-     {text(1062_text), text(1063_text), text(1064_text)}},
+     {text(text::major), text(text::minor), text(text::major_and_minor)}},
     {Choice::E_Oktav,       "Tonraum",       "Tonraum",             2, false, none,
-     {{{"2 ", 1072_text}, {"3 ", 1072_text}, {"4 ", 1072_text}, {"5 ", 1072_text}}}},
-    {Choice::Combo_tonraum, "Oktavbereich",  "Tonraum",             1, true,  1086_text, {}},
+     {{{"2 ", text::octaves}, {"3 ", text::octaves}, {"4 ", text::octaves}, {"5 ", text::octaves}}}},
+    {Choice::Combo_tonraum, "Oktavbereich",  "Tonraum",             1, true,  text::octave_range, {}},
     {Choice::ivg,           "Iv-Größe",      "Intervall-Größe",     1, false, none,
-     {{{"", 1071_text}, {"1 - 2 ", 1072_text}, {"", 1073_text}}}},
+     {{{"", text::up_to_one_octave}, {"1 - 2 ", text::octaves}, {"", text::mixed_sizes}}}},
     {Choice::ton_st_wahl,   "Stufen",        "Stufen",              1, false, none,
-     {text(1078_text), text(1079_text)}},
-    {Choice::stufe_wahl,    "Stufe Ton 2",   "Stufen",              1, true,  1090_text, {}},
+     {text(text::all_degrees), text(text::one_degree)}},
+    {Choice::stufe_wahl,    "Stufe Ton 2",   "Stufen",              1, true,  text::degree_of_tone_2, {}},
     {Choice::Tonart,        "Tonart",        "Tonart",              2, false, none,
-     {text(1067_text), text(1068_text)}},
+     {text(text::key_stays), text(text::key_changes)}},
     {Choice::grd_ton,       "Grdton zus.",   "Grundton",            1, false, none,
-     {text(1069_text), text(1070_text)}},
+     {text(text::keynote_yes), text(text::keynote_no)}},
     {Choice::invzahl,       "Iv-Anzahl",     "Intervall-Anzahl",    2, false, none,
      {{{"2", none}, {"3", none}, {"4", none}, {"5", none}}}},
     {Choice::frequenz,      "Frequenz",      "Frequenz",            1, false, none,
-     {text(1074_text), text(1075_text)}},
+     {text(text::frequency_fixed), text(text::frequency_variable)}},
     {Choice::stimm_g,       "Stimmung",      "Stimmung",            1, false, none,
      {text(546_text), text(458_text), text(401_text)}},
     {Choice::abfr_iv,       "Iv-Bestimmung", "Intervall-Bestimmung", 1, false, none,
-     {text(1076_text), text(1077_text)}},
-    {Choice::tempo,         "Tempo",         "Tempo",               1, false, 1060_text, {}},
-    {Choice::kanal,         "",              "",                    1, true,  1088_text, {}},
-    {Choice::patch,         "Klangfarbe",    "Klangfarbe",          1, true,  1087_text, {}},
+     {text(text::named_from_keynote), text(text::named_from_tone_before)}},
+    {Choice::tempo,         "Tempo",         "Tempo",               1, false, text::tempo_title, {}},
+    {Choice::kanal,         "",              "",                    1, true,  text::voice, {}},
+    {Choice::patch,         "Klangfarbe",    "Klangfarbe",          1, true,  text::instrument, {}},
     {Choice::transpo,       "",              "",                    1, true,  none,      {}},
-    {Choice::trans_dfg,     "",              "",                    1, false, 1091_text, {}},
-    {Choice::trans_iv,      "",              "",                    1, true,  1092_text, {}},
+    {Choice::trans_dfg,     "",              "",                    1, false, text::transposition_direction, {}},
+    {Choice::trans_iv,      "",              "",                    1, true,  text::transposition_interval, {}},
 };
 // clang-format on
 

@@ -3,12 +3,14 @@
 #include <array>
 #include <string_view>
 
+#include "base/module_texts.h"
 #include "base/text_key.h"
 #include "settings/settings_tables.h"
 
 namespace tonarix {
 
-/// A text of the catalogue behind a literal: {"1 - 2 ", 1072_text}. Without a key only the literal.
+/// A text of the catalogue behind a literal: {"1 - 2 ", text::octaves}. Without a key only the
+/// literal.
 struct Caption {
   std::string_view before;
   TextKey key;

@@ -1,5 +1,6 @@
 #include "config/ear_settings_window.h"
 
+#include "base/module_texts.h"
 #include "music/degrees.h"
 #include "sound/instruments.h"
 
@@ -66,8 +67,8 @@ void EarSettingsWindow::set_captions() {
   if (const FrameRow* degrees = frames().holding(Choice::ton_st_wahl)) {
     geinst_lb[degrees->frame].text = word(556_text) + " 2: " + word(508_text) + "(n)";
   }
-  klang_contr.text = word(1081_text);
-  lb14[0].text = HSliderVolume.accessible_name = word(1084_text);
+  klang_contr.text = word(text::sound_check);
+  lb14[0].text = HSliderVolume.accessible_name = word(text::volume);
 }
 
 void EarSettingsWindow::prepare() {

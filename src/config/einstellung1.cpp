@@ -1,5 +1,6 @@
 #include "config/einstellung1.h"
 
+#include "base/module_texts.h"
 #include "sound/instruments.h"
 
 namespace tonarix {
@@ -13,21 +14,21 @@ using enum Choice;
 // clang-format off
 constexpr FrameRow kFrames[] = {
     // frame   title      holds                     locked          while open   row column columns
-    {10,       1050_text, {Uebungsmodus, prfnr},    Lock::never,    signal::open,  0, 0, 2},
-    {7,        1052_text, {abfrage},                Lock::exam,     signal::open,  0, 2},
-    {0,        1058_text, {Tonart},                 Lock::training, signal::open,  0, 3},
-    {5,        1051_text, {tongeschl},              Lock::exam,     signal::open,  1, 0},
-    {4,        1055_text, {invzahl},                Lock::exam,     signal::open,  1, 1},
-    {3,        1054_text, {ivg},                    Lock::training, signal::open,  1, 2},
-    {1,        1053_text, {E_Oktav, Combo_tonraum}, Lock::training, signal::open,  1, 3},
-    {6,        1056_text, {abfr_iv},                Lock::exam,     signal::open,  2, 0},
+    {10,       text::level_title, {Uebungsmodus, prfnr},    Lock::never,    signal::open,  0, 0, 2},
+    {7,        text::order_title, {abfrage},                Lock::exam,     signal::open,  0, 2},
+    {0,        text::key_title, {Tonart},                 Lock::training, signal::open,  0, 3},
+    {5,        text::mode_title, {tongeschl},              Lock::exam,     signal::open,  1, 0},
+    {4,        text::count_title, {invzahl},                Lock::exam,     signal::open,  1, 1},
+    {3,        text::size_title, {ivg},                    Lock::training, signal::open,  1, 2},
+    {1,        text::range_title, {E_Oktav, Combo_tonraum}, Lock::training, signal::open,  1, 3},
+    {6,        text::naming_title, {abfr_iv},                Lock::exam,     signal::open,  2, 0},
     {kNoFrame,  345_text, {trans_dfg, trans_iv},    Lock::never,    signal::open,  2, 0},
     {8,         556_text, {ton_st_wahl, stufe_wahl}, Lock::exam,    signal::open,  2, 1},
-    {9,        1057_text, {grd_ton},                Lock::training, signal::open,  2, 2},
-    {11,       1059_text, {frequenz},               Lock::training, signal::open,  2, 3},
+    {9,        text::keynote_title, {grd_ton},                Lock::training, signal::open,  2, 2},
+    {11,       text::frequency_title, {frequenz},               Lock::training, signal::open,  2, 3},
     {13,        635_text, {stimm_g},                Lock::training, signal::open,  3, 0},
-    {12,       1060_text, {tempo},                  Lock::exam,     signal::sound, 3, 1},
-    {2,        1061_text, {kanal, patch},           Lock::training, signal::sound, 3, 2, 2},
+    {12,       text::tempo_title, {tempo},                  Lock::exam,     signal::sound, 3, 1},
+    {2,        text::sound_title, {kanal, patch},           Lock::training, signal::sound, 3, 2, 2},
 };
 // clang-format on
 constexpr Choice kPairs[] = {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/module_texts.h"
 #include "settings/settings_tables.h"
 
 namespace tonarix {
@@ -60,7 +61,7 @@ Sequence SelectionWindow::start_up() {
   step([&] {
     if (context_.join_companion) context_.join_companion(context_.server.ServerObject());
   });
-  caption = context_.tables.theory_kinds[0] + word(700_text) + word(1003_text);
+  caption = context_.tables.theory_kinds[0] + word(700_text) + word(text::module_subject);
   version.text = word(699_text) + " " + context_.server.application().version();
   choose_exercise(1);
   settings().tempo_ms = tempo_beats();
@@ -81,7 +82,7 @@ void SelectionWindow::set_captions() {
   }
   cmdOk.text = word(432_text);
   cmdEnde.text = word(223_text);
-  cmdHilfe.text = word(1001_text);
+  cmdHilfe.text = word(text::selection_help);
   Theoriewahl[0].text = word(724_text);
   Theoriewahl[1].text = word(725_text);
 }
@@ -117,7 +118,7 @@ void SelectionWindow::offer_exercises() {
   };
   const auto offer = [this](OptionControl& option, bool offered) {
     option.enabled = offered;
-    option.accessible_name = offered ? "" : option.text + ", " + word(1002_text);
+    option.accessible_name = offered ? "" : option.text + ", " + word(text::not_available_yet);
   };
   for (OptionControl& option : ueb_typ) {
     offer(option, available(settings().Theoriewahl, *option.index()));

@@ -1,5 +1,6 @@
 #include "config/settings_sound.h"
 
+#include "base/module_texts.h"
 #include "sound/sound_check.h"
 
 namespace tonarix {
@@ -14,13 +15,13 @@ void SettingsSound::attach() {
     const auto last = static_cast<std::int16_t>(output_.device_count() - 1);
     if (last < 0 || last == midi.midi_geraet) {
       midi.detach(output_);
-      tell_failure("start_timer.", error, 1094_text);
+      tell_failure("start_timer.", error, text::goes_on_without_sound);
       return;
     }
     midi.midi_geraet = last;
     with_sound([&] {
       midi.MidiAnschluss(output_);
-      tell_failure("start_timer.", error, 1093_text);
+      tell_failure("start_timer.", error, text::goes_on_with_last_device);
     });
   }
 }
@@ -36,7 +37,7 @@ void SettingsSound::with_sound(const std::function<void()>& work) {
   } catch (const RuntimeError&) {
     if (!is_device_failure(std::current_exception())) throw;
     context_.midi.detach(output_);
-    tell_failure("start_timer.", std::current_exception(), 1094_text);
+    tell_failure("start_timer.", std::current_exception(), text::goes_on_without_sound);
   }
 }
 
@@ -44,7 +45,7 @@ void SettingsSound::tell_failure(std::string_view tag, std::exception_ptr error,
                                  std::optional<TextKey> how_it_goes_on) {
   const Texts& texts = context_.common.texts;
   context_.errors.log(tag, error);
-  std::string text = texts.Wort(1085_text);
+  std::string text = texts.Wort(text::device_unusable);
   try {
     std::rethrow_exception(error);
   } catch (const std::exception& failure) {
@@ -64,8 +65,8 @@ Sequence SettingsSound::check() {
   Midi& midi = context_.midi;
   const Settings& settings = context_.settings;
   if (!has_sound()) {
-    throw RuntimeError(RuntimeError::kDeviceError, context_.common.texts.Wort(1094_text),
-                       "klang_contr");
+    throw RuntimeError(RuntimeError::kDeviceError,
+                       context_.common.texts.Wort(text::goes_on_without_sound), "klang_contr");
   }
   midi.MidiReset();
   co_await waits_.Delay(50);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/module_texts.h"
 #include "config/einst_dat_save.h"
 #include "config/test_listing.h"
 #include "settings/saved_settings.h"
@@ -151,9 +152,9 @@ void SettingsWindow::start_up() {
 }
 
 void SettingsWindow::set_captions() {
-  cmdHilfe.text = word(1080_text);
-  cmdOptionRead.text = word(1082_text);
-  cmdOptionSave.text = word(1083_text);
+  cmdHilfe.text = word(text::settings_help);
+  cmdOptionRead.text = word(text::read_test);
+  cmdOptionSave.text = word(text::save_settings);
   cmdZurueck.text = word(640_text);
   cmdOk.text = word(432_text);
   popExamToggle.text = word(438_text);

@@ -1,6 +1,7 @@
 #include "engine/exercise_window.h"
 
 #include "base/arithmetic.h"
+#include "base/module_texts.h"
 #include "engine/answer_rules.h"
 #include "engine/material/training_state.h"
 #include "music/analysis.h"
@@ -46,7 +47,7 @@ void ExerciseWindow::start_timer() {
     zurueck.text = word(640_text);
     true_false[0].text = word(468_text);
     true_false[1].text = word(232_text);
-    WaitMeldung.text = word(1120_text);
+    WaitMeldung.text = word(text::one_moment);
     Uhr.text = time_of_day(context_.clock.now());
     next_task_.name(context_.common.texts, 0);
     Uhrzeit_.enable();
@@ -121,7 +122,7 @@ void ExerciseWindow::enter(Phase phase) {
   if (actions.next_task) next_task_.offer(automatic);
   if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
   hint.text = actions.hint == TextKey{} ? "" : word(actions.hint);
-  if (actions.next_task && automatic) hint.text = word(1121_text);
+  if (actions.next_task && automatic) hint.text = word(text::next_task_follows);
   if (is_over(phase)) {
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
@@ -171,7 +172,7 @@ void ExerciseWindow::finish_row() {
   }
   enter(next);
   if (next != Phase::training_finished) return;
-  if (!training_.drop()) tell(word(1129_text));
+  if (!training_.drop()) tell(word(text::training_not_marked));
   context_.caller.training_finished();
 }
 
@@ -258,7 +259,7 @@ void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr erro
   player().forget();
   after_playing();
   // The time that goes into reading the message is not the student's.
-  tell(word(1128_text), [this] { answers_.open(); });
+  tell(word(text::device_silent), [this] { answers_.open(); });
 }
 
 }  // namespace tonarix

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 
+#include "base/module_texts.h"
 #include "base/text_key.h"
 
 namespace tonarix {
@@ -53,16 +54,16 @@ struct Actions {
 inline constexpr std::array<Actions, kPhases> kActions{{
     // phase                   answers wieder         wieder2        grundton next  way on          asks   hint
     {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}},
-    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  1110_text},
+    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::row_sounds},
     {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}},
-    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, 1109_text},
-    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, 1110_text},
+    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, text::hear_once_more},
+    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, text::row_sounds},
     {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, {}},
-    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, 1114_text},
-    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, 1110_text},
-    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, 1117_text},
-    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, 1110_text},
-    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, 1117_text},
+    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, text::training_is_finished},
+    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, text::row_sounds},
+    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, text::test_is_finished},
+    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, text::row_sounds},
+    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, text::test_is_finished},
     {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
     {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
 }};

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/arithmetic.h"
+#include "base/module_texts.h"
 #include "sound/tuning.h"
 
 namespace tonarix {
@@ -39,8 +40,8 @@ void SoundingWindow::prepare() {
   wieder.text = word(629_text);
   wieder2.text = word(632_text);
   grundton.text = word(300_text);
-  repeat_label.text = word(1115_text);
-  keynote_label.text = word(1116_text);
+  repeat_label.text = word(text::repeats);
+  keynote_label.text = word(text::keynote_checks);
   show_sounding(-1);
 }
 
@@ -91,7 +92,7 @@ void SoundingWindow::grundton_click() {
 // During a task hearing costs, and the answer clock stands meanwhile.
 Sequence SoundingWindow::repeat(SpielArt what) {
   enter(Phase::sounding);
-  if (what == SpielArt::grundton) hint.text = word(1122_text);
+  if (what == SpielArt::grundton) hint.text = word(text::keynote_sounds);
   answers().pause();
   player().silence();
   co_await Delay(kResetPause);
@@ -108,7 +109,7 @@ Sequence SoundingWindow::repeat(SpielArt what) {
 
 Sequence SoundingWindow::play_again(SpielArt what) {
   enter(sounding_again(phase()));
-  if (what == SpielArt::grundton) hint.text = word(1122_text);
+  if (what == SpielArt::grundton) hint.text = word(text::keynote_sounds);
   player().silence();
   co_await Delay(kResetPause);
   if (waits().closed()) co_return;

@@ -4,15 +4,16 @@
 #include <string>
 
 #include "base/colour.h"
+#include "base/module_texts.h"
 
 namespace tonarix {
 
 void Standing::prepare(Level level) {
-  controls_.cmd_test_ein.text = texts_.Wort(1118_text);
-  controls_.cmd_test_aus.text = texts_.Wort(1119_text);
-  controls_.ergebnis_anz[0].text = texts_.Wort(1100_text);
-  controls_.ergebnis_anz[1].text = texts_.Wort(1101_text);
-  controls_.ergebnis_anz[2].text = texts_.Wort(1102_text);
+  controls_.cmd_test_ein.text = texts_.Wort(text::show_test_standing);
+  controls_.cmd_test_aus.text = texts_.Wort(text::hide_test_standing);
+  controls_.ergebnis_anz[0].text = texts_.Wort(text::training_status);
+  controls_.ergebnis_anz[1].text = texts_.Wort(text::training_solved);
+  controls_.ergebnis_anz[2].text = texts_.Wort(text::training_too_difficult);
   const bool training = is_training(level);
   for (Control& part : controls_.matboxanz) part.visible = training;
   show_panel(training ? 0 : -1);

@@ -1,6 +1,7 @@
 #include "engine/way_out.h"
 
 #include "base/completion.h"
+#include "base/module_texts.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -25,11 +26,11 @@ Sequence WayOut::leave(std::function<bool()> keep) {
 }
 
 Sequence WayOut::ask_to_save(std::function<bool()> keep) {
-  const Message question{Wort(8_text), Wort(495_text), MessageStyle::yes_no, Wort(1104_text),
-                         Wort(1105_text)};
+  const Message question{Wort(8_text), Wort(495_text), MessageStyle::yes_no,
+                         Wort(text::save_training), Wort(text::do_not_save)};
   Reply reply = co_await ask(waits_, context_.common.dialogs, question);
-  const Message again{Wort(8_text), Wort(1106_text), MessageStyle::yes_no, Wort(1107_text),
-                      Wort(1108_text)};
+  const Message again{Wort(8_text), Wort(text::training_not_saved), MessageStyle::yes_no,
+                      Wort(text::try_again), Wort(text::leave_without_saving)};
   while (reply == Reply::yes && !keep()) {
     reply = co_await ask(waits_, context_.common.dialogs, again);
   }
@@ -44,17 +45,19 @@ Sequence WayOut::write_protocol() {
       context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
                                          window_.caption, context_.settings.EinstDatSave);
   while (result.failed) {
-    const Message told{"Tonarix 2000",
-                       Wort(1113_text) + "\n" + result.wanted.string() + ": " + result.reason,
-                       MessageStyle::yes_no, Wort(1107_text), Wort(1126_text)};
+    const Message told{
+        "Tonarix 2000",
+        Wort(text::protocol_not_written) + "\n" + result.wanted.string() + ": " + result.reason,
+        MessageStyle::yes_no, Wort(text::try_again), Wort(text::go_on_without_protocol)};
     const Reply reply = co_await ask(waits_, context_.common.dialogs, told);
     if (reply != Reply::yes) break;
     result = context_.protocol.finish_again();
   }
   if (result.fell_back) {
     const Message told{"Tonarix 2000",
-                       Wort(1112_text) + " " + result.wanted.string() + ": " + result.reason +
-                           "\n" + Wort(1135_text) + "\n" + result.path.string(),
+                       Wort(text::protocol_not_written_to) + " " + result.wanted.string() + ": " +
+                           result.reason + "\n" + Wort(text::protocol_saved_instead) + "\n" +
+                           result.path.string(),
                        MessageStyle::warning, "", ""};
     co_await ask(waits_, context_.common.dialogs, told);
   }

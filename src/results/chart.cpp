@@ -4,6 +4,7 @@
 #include <iterator>
 #include <set>
 
+#include "base/module_texts.h"
 #include "results/percentage.h"
 
 namespace tonarix {
@@ -25,9 +26,9 @@ std::string in_words(const ResultTable& table, const std::array<std::string, 2>&
     text += row->label;
     if (table.by_interval) text += " " + directions[static_cast<std::size_t>(row->column)];
     text += texts.Wort(700_text);
-    text += row->field.fraction ? row->field.text : texts.Wort(1209_text);
+    text += row->field.fraction ? row->field.text : texts.Wort(text::chart_not_asked);
   }
-  return text.empty() ? texts.Wort(1210_text) : text;
+  return text.empty() ? texts.Wort(text::chart_no_percentages) : text;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "base/module_texts.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -20,13 +21,26 @@ struct SettingLabel {
   TextKey word;
 };
 constexpr std::array<SettingLabel, 20> kSettingLabels{
-    {{"Übungsmodus", 1214_text}, {"Nr.", 1215_text},           {"Klangfarbe", 1216_text},
-     {"Klangfarben", 1217_text}, {"Tempo", 1218_text},         {"Frequenz", 1219_text},
-     {"Abfolge", 1220_text},     {"Iv-Anzahl", 1221_text},     {"Iv-Größe", 1222_text},
-     {"Tonraum", 1223_text},     {"Oktavbereich", 1224_text},  {"Stimmung", 1225_text},
-     {"Grdton zus.", 1226_text}, {"Tongeschlecht", 1227_text}, {"Tonart", 1228_text},
-     {"Aufgabe", 1229_text},     {"Genauigkeit", 1230_text},   {"Iv-Bestimmung", 1231_text},
-     {"Stufen", 1232_text},      {"Stufe Ton 2", 1233_text}}};
+    {{"Übungsmodus", text::sheet_level},
+     {"Nr.", text::sheet_exam_number},
+     {"Klangfarbe", text::sheet_instrument},
+     {"Klangfarben", text::sheet_instruments},
+     {"Tempo", text::sheet_tempo},
+     {"Frequenz", text::sheet_pitch},
+     {"Abfolge", text::sheet_order},
+     {"Iv-Anzahl", text::sheet_count},
+     {"Iv-Größe", text::sheet_size},
+     {"Tonraum", text::sheet_range},
+     {"Oktavbereich", text::sheet_octave_range},
+     {"Stimmung", text::sheet_tuning},
+     {"Grdton zus.", text::sheet_keynote},
+     {"Tongeschlecht", text::sheet_mode},
+     {"Tonart", text::sheet_key},
+     {"Aufgabe", text::sheet_task},
+     {"Genauigkeit", text::sheet_accuracy},
+     {"Iv-Bestimmung", text::sheet_naming},
+     {"Stufen", text::sheet_degrees},
+     {"Stufe Ton 2", text::sheet_degree_of_tone_2}}};
 
 std::string shown_label(const std::string& label, const Texts& texts) {
   const auto* found = std::find_if(kSettingLabels.begin(), kSettingLabels.end(),
@@ -75,9 +89,9 @@ std::array<SheetLine, 6> head_lines(const HeadFacts& facts, const Settings& sett
   return {line(texts.Wort(189_text) + colon, date_and_time(facts.now)),
           line(texts.Wort(586_text) + colon, texts.Wort(exercise_row(settings).caption)),
           line(texts.Wort(109_text) + colon, facts.computer_user),
-          personal(texts.Wort(1235_text), 0),
-          personal(texts.Wort(1236_text), 1),
-          personal(texts.Wort(1237_text), 2)};
+          personal(texts.Wort(text::sheet_last_name), 0),
+          personal(texts.Wort(text::sheet_first_name), 1),
+          personal(texts.Wort(text::sheet_student_number), 2)};
 }
 
 std::string head_title(const Settings& settings, const Texts& texts) {
@@ -102,7 +116,7 @@ std::vector<SheetLine> setting_lines(const std::vector<std::string>& pairs, cons
       value = joined;
     }
     if (value.empty()) continue;
-    if (label == "Grdton zus.") value.insert(0, texts.Wort(1234_text) + " ");
+    if (label == "Grdton zus.") value.insert(0, texts.Wort(text::sheet_keynote_added) + " ");
     lines.push_back({shown_label(label, texts) + ": ", value, true});
   }
   return lines;

@@ -1,4 +1,5 @@
 #include "results/result_window.h"
+#include "base/module_texts.h"
 
 namespace tonarix {
 
@@ -18,13 +19,14 @@ ResultWindow::ResultWindow(const ResultContext& context, std::function<void()> c
   for (Control* button : {&cmdHilfe, &cmdPrint, &cmdOk}) button->container = &PicSchalt;
   cmdOk.text = word(625_text);
   cmdPrint.text = word(1_text);
-  cmdHilfe.text = word(1203_text);
+  cmdHilfe.text = word(text::sheet_help);
   cmdPrint.enabled = false;
   start_.enable();
 }
 
 void ResultWindow::start_timer() {
-  content_.caption = word(1200_text) + word(700_text) + level_text(context_.settings.EinstDatSave);
+  content_.caption =
+      word(text::sheet_caption) + word(700_text) + level_text(context_.settings.EinstDatSave);
   caption = content_.caption;
   handle(kHeadTag, [this] { LbGrdEinst(); });
   if (cmdOk.tag.empty()) handle(kTableTag, [this] { LbEinst(); });
@@ -41,10 +43,10 @@ void ResultWindow::LbGrdEinst() {
 }
 
 void ResultWindow::LbEinst() {
-  content_.settings_title = word(1201_text);
+  content_.settings_title = word(text::sheet_settings);
   content_.settings = setting_lines(context_.settings.EinstDatSave, common().texts);
   if (content_.settings.size() > kSettingRows) content_.settings.resize(kSettingRows);
-  content_.results_title = word(1202_text);
+  content_.results_title = word(text::sheet_results);
   content_.directions = {word(132_text), word(83_text)};
   content_.total_label = word(275_text);
   content_.table =
@@ -67,8 +69,8 @@ void ResultWindow::cmdPrint_click() {
 void ResultWindow::printed(const PrintResult& result) {
   PicSchalt.enabled = cmdPrint.enabled = true;
   if (result.end == PrintResult::End::failed) {
-    const Message told{caption, word(1204_text) + "\n" + result.reason, MessageStyle::warning, "",
-                       ""};
+    const Message told{caption, word(text::sheet_not_printed) + "\n" + result.reason,
+                       MessageStyle::warning, "", ""};
     common().dialogs.show(told, [](Reply) {});
   }
   changed();

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "base/module_texts.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "host/error_report.h"
@@ -47,7 +48,7 @@ class ResultWindow final : public Window {
   bool filled() const { return filled_; }
   const SheetContent& content() const { return content_; }
   const Chart& chart() const { return chart_; }
-  std::string chart_title() const { return word(1208_text); }
+  std::string chart_title() const { return word(text::chart_caption); }
 
   Control PicSchalt{*this, "PicSchalt"};
   Control cmdHilfe{*this, "cmdHilfe"};

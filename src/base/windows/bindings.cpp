@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QSignalBlocker>
 
+#include "base/module_texts.h"
 #include "base/windows/mnemonics.h"
 
 namespace tonarix {
@@ -154,7 +155,7 @@ void Bindings::bind(Card& card, const Control* frame, const Control* title) {
   joint.set_colours = [&card](auto back, auto) { card.set_surface(back); };
   joint.refresh = [this, &card, frame, title, shown = std::optional<QString>()]() mutable {
     const bool locked = !frame->enabled || frame->back == signal::locked;
-    const QString mark = locked               ? to_qstring(texts_.Wort(1250_text))
+    const QString mark = locked               ? to_qstring(texts_.Wort(text::locked))
                          : frame->tag.empty() ? QString()
                                               : to_qstring(texts_.Wort(438_text));
     if (shown != mark) card.set_mark(mark, locked);

@@ -1,4 +1,5 @@
 #include "base/windows/qt_dialogs.h"
+#include "base/module_texts.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -143,10 +144,10 @@ std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
     if (primary) button->setFocus();
   };
   if (message.style == MessageStyle::yes_no) {
-    add("no", caption(message.no_caption, 1252_text, QStringLiteral("No")), QDialog::Rejected,
+    add("no", caption(message.no_caption, text::box_no, QStringLiteral("No")), QDialog::Rejected,
         false);
-    add("yes", caption(message.yes_caption, 1251_text, QStringLiteral("Yes")), QDialog::Accepted,
-        true);
+    add("yes", caption(message.yes_caption, text::box_yes, QStringLiteral("Yes")),
+        QDialog::Accepted, true);
   } else {
     add("ok", caption({}, 432_text, QStringLiteral("OK")), QDialog::Accepted, true);
   }

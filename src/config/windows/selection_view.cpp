@@ -1,4 +1,5 @@
 #include "config/windows/selection_view.h"
+#include "base/module_texts.h"
 
 #include <QVBoxLayout>
 
@@ -51,19 +52,19 @@ SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
 
 void SelectionView::applied() {
   // The language is loaded after the window has opened.
-  if (question_->text() != word(1253_text)) explain();
+  if (question_->text() != word(text::what_to_practise)) explain();
 }
 
 void SelectionView::explain() {
-  question_->setText(word(1253_text));
-  subject_->setText(word(1254_text));
-  area_->setText(word(1255_text));
-  areas_[0]->set_note(word(1256_text));
-  areas_[1]->set_note(word(1257_text));
-  exercises_[0]->set_note(word(1258_text));
-  exercises_[1]->set_note(word(1259_text));
-  exercises_[2]->set_note(word(1260_text));
-  exercises_[3]->set_note(word(1261_text));
+  question_->setText(word(text::what_to_practise));
+  subject_->setText(word(text::subject));
+  area_->setText(word(text::study_area));
+  areas_[0]->set_note(word(text::study_ear_note));
+  areas_[1]->set_note(word(text::study_theory_note));
+  exercises_[0]->set_note(word(text::determine_note));
+  exercises_[1]->set_note(word(text::build_note));
+  exercises_[2]->set_note(word(text::play_note));
+  exercises_[3]->set_note(word(text::write_note));
 }
 
 }  // namespace tonarix

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/module_texts.h"
 #include "base/windows/mnemonics.h"
 
 namespace tonarix {
@@ -79,7 +80,7 @@ void ExerciseView::build_row(const Control& title, const Control* lead,
   for (int i = 0; sounding_ && i <= AnswerRow::kFields; ++i) {
     SoundingMark* mark = row_->sounding[static_cast<std::size_t>(i)];
     bindings().bind(*mark, sounding_->sounding[i], [this, mark, i] {
-      mark->setAccessibleName(word(1127_text) + QLatin1Char(' ') + QString::number(i + 1));
+      mark->setAccessibleName(word(text::tone_of_row) + QLatin1Char(' ') + QString::number(i + 1));
     });
   }
   row_card->body().addWidget(row_);
@@ -97,7 +98,7 @@ void ExerciseView::build_standing() {
   test_card_ = card(nullptr, nullptr);
   build_test(*test_card_);
   Card* counters = card(nullptr, nullptr);
-  counters->setAccessibleName(word(1134_text));
+  counters->setAccessibleName(word(text::standing));
   build_counters(*counters);
   for (Card* made : {training_card_, test_card_, counters}) column_->addWidget(made);
 }
@@ -112,7 +113,8 @@ void ExerciseView::build_training(Card& card) {
   }
   card.body().addWidget(place);
   const Control& value = window_.matboxanz[window_.matboxanz.last];
-  auto* bar = new PercentBar({word(1132_text), word(1130_text), word(1131_text)}, &card);
+  auto* bar = new PercentBar(
+      {word(text::percent), word(text::bar_solved), word(text::bar_too_difficult)}, &card);
   bindings().bind(*bar, value, [this, bar, &value] {
     if (value.text.empty()) return;
     bar->set_percent(std::stoi(value.text));
@@ -123,7 +125,7 @@ void ExerciseView::build_training(Card& card) {
 }
 
 void ExerciseView::build_test(Card& card) {
-  card.title().setText(word(1133_text));
+  card.title().setText(word(text::test_standing));
   for (const Control* line : {&window_.lab_aufgaben, &window_.stop_uhr}) {
     Label* shown = label(*line, TextRole::choice, {.keep_place = true});
     shown->setWordWrap(true);

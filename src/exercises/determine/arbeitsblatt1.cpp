@@ -1,6 +1,7 @@
 #include "exercises/determine/arbeitsblatt1.h"
 
 #include "base/arithmetic.h"
+#include "base/module_texts.h"
 
 namespace tonarix {
 
@@ -23,12 +24,12 @@ Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& given)
 void Arbeitsblatt1::prepare() {
   SoundingWindow::prepare();
   prepare_names();
-  Label1.text = word(1150_text);
-  Label4.text = word(1151_text);
+  Label1.text = word(text::degree_over_keynote);
+  Label4.text = word(text::interval_from_tone_to_tone);
   Label1.visible = by_degree();
   Label4.visible = !by_degree();
-  int_lb.text = word(1155_text);
-  row_title.text = word(1156_text);
+  int_lb.text = word(text::interval_lead);
+  row_title.text = word(text::tone_row);
   situation.text = word(556_text) + word(700_text) + word(297_text);
   show_scale();
   std::string line = situation.text;
@@ -40,7 +41,8 @@ void Arbeitsblatt1::prepare() {
 }
 
 void Arbeitsblatt1::show_scale() {
-  static constexpr std::array<TextKey, 3> kScales{1152_text, 1153_text, 1154_text};
+  static constexpr std::array<TextKey, 3> kScales{text::scale_minor, text::scale_major,
+                                                  text::scale_major_and_minor};
   static constexpr std::array<int, 3> kPictureOf{1, 0, 2};  // by tongeschl
   const int picture = kPictureOf.at(static_cast<std::size_t>(context().settings.tongeschl));
   for (int i = scala.first; i <= scala.last; ++i) {
@@ -57,7 +59,7 @@ void Arbeitsblatt1::show_actions(const Actions& actions) {
 }
 
 std::string Arbeitsblatt1::question_text() const {
-  return word(1111_text);
+  return word(text::which_interval);
 }
 
 void Arbeitsblatt1::st_int_click(int index) {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/arithmetic.h"
+#include "base/module_texts.h"
 #include "engine/answer_rules.h"
 #include "music/degrees.h"
 #include "settings/offered_intervals.h"
@@ -20,7 +21,7 @@ NamingAnswers::NamingAnswers(Window& window, const ExerciseContext& context, Tas
 void NamingAnswers::prepare_names() {
   const Settings& settings = context_.settings;
   for (int i = nriv.first; i <= nriv.last; ++i) {
-    nriv[i].text = Wort(1103_text) + " " + std::to_string(i + 1);
+    nriv[i].text = Wort(text::interval_number) + " " + std::to_string(i + 1);
     nriv[i].visible = false;
     ergebnis[i].visible = i <= settings.invzahl;
   }
@@ -83,7 +84,7 @@ void NamingAnswers::right_answer(std::int16_t code, float tenths) {
   field.back = signal::right;
   field.fore = signal::black;
   field.text = answer_text(code, iv());
-  field.accessible_name = nriv[place].text + ": " + field.text + ", " + Wort(1123_text);
+  field.accessible_name = nriv[place].text + ": " + field.text + ", " + Wort(text::spoken_right);
   answers_.right(place, tenths);
   next_place();
 }
@@ -100,13 +101,13 @@ void NamingAnswers::wrong_answer(std::int16_t code) {
       context_.key, settings.abfr_iv, settings.ton_st_wahl, settings.stufe_wahl, code, iv());
   if (answers_.wrong(place, value) == Verdict::given_up) {
     field.text = solution;
-    field.accessible_name =
-        nriv[place].text + ": " + Wort(1124_text) + ", " + Wort(1125_text) + " " + solution;
+    field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " +
+                            Wort(text::spoken_solution) + " " + solution;
     next_place();
     return;
   }
   field.text = Wort(232_text);
-  field.accessible_name = nriv[place].text + ": " + Wort(1124_text);
+  field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong);
   gesperrt_.at(static_cast<std::size_t>(code)) = true;
   open_names(true);
   answers_.open_next();

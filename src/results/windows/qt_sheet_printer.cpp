@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 
+#include "base/module_texts.h"
 #include "results/windows/sheet_painter.h"
 
 namespace tonarix {
@@ -78,7 +79,7 @@ void QtSheetPrinter::ask_for_printer(const SheetPicture& picture,
   auto memory = std::make_shared<DialogMemory>();  // its button for a file opens a file dialog
   auto* dialog = new QPrintDialog(printer.get(), parent_());
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle(word(1205_text));
+  dialog->setWindowTitle(word(text::print_caption));
   QObject::connect(dialog, &QObject::destroyed, [memory] {});
   QObject::connect(dialog, &QDialog::finished, dialog,
                    [this, picture, printer, done = std::move(done)](int answer) {
@@ -95,17 +96,17 @@ void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
                                   std::function<void(PrintResult)> done) {
   auto memory = std::make_shared<DialogMemory>();
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  auto* dialog = new QFileDialog(parent_(), word(1206_text), folder,
-                                 word(1207_text) + QStringLiteral(" (*.pdf)"));
+  auto* dialog = new QFileDialog(parent_(), word(text::save_as_pdf), folder,
+                                 word(text::pdf_files) + QStringLiteral(" (*.pdf)"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setLabelText(QFileDialog::LookIn, word(1240_text));
-  dialog->setLabelText(QFileDialog::FileName, word(1241_text));
-  dialog->setLabelText(QFileDialog::FileType, word(1242_text));
-  dialog->setLabelText(QFileDialog::Accept, word(1243_text));
-  dialog->setLabelText(QFileDialog::Reject, word(1244_text));
+  dialog->setLabelText(QFileDialog::LookIn, word(text::file_folder));
+  dialog->setLabelText(QFileDialog::FileName, word(text::file_name));
+  dialog->setLabelText(QFileDialog::FileType, word(text::file_type));
+  dialog->setLabelText(QFileDialog::Accept, word(text::file_save));
+  dialog->setLabelText(QFileDialog::Reject, word(text::file_cancel));
   dialog->setDefaultSuffix(QStringLiteral("pdf"));
-  dialog->selectFile(word(1211_text) + QStringLiteral(".pdf"));
+  dialog->selectFile(word(text::sheet_name) + QStringLiteral(".pdf"));
   QObject::connect(dialog, &QObject::destroyed, [memory] {});  // until the dialog is gone
   QObject::connect(dialog, &QDialog::finished, dialog,
                    [this, dialog, picture, done = std::move(done)](int answer) {
@@ -120,7 +121,7 @@ void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
 }
 
 PrintResult QtSheetPrinter::write_pdf(const SheetPicture& picture, const QString& path) const {
-  const QString refused = word(1212_text) + QDir::toNativeSeparators(path);
+  const QString refused = word(text::file_not_written) + QDir::toNativeSeparators(path);
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return failed(refused + "\n" + file.errorString());
   bool painted = false;
@@ -145,7 +146,7 @@ PrintResult QtSheetPrinter::print_on(const SheetPicture& picture, QPrinter& prin
   const bool painted = paint_page(picture, printer);
   const bool broken =
       printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
-  if (!painted || broken) return failed(word(1213_text));
+  if (!painted || broken) return failed(word(text::printer_broke_off));
   return {};
 }
 

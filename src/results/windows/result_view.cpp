@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/module_texts.h"
 #include "results/windows/chart_widget.h"
 #include "results/windows/sheet_widget.h"
 
@@ -40,7 +41,7 @@ ResultView::ResultView(ResultWindow& window, const Texts& words)
 void ResultView::applied() {
   if (!fitted_.isEmpty() || !window_.filled()) return;
   const SheetContent& content = window_.content();
-  sheet_->setAccessibleName(word(1211_text));
+  sheet_->setAccessibleName(word(text::sheet_name));
   sheet_->setAccessibleDescription(to_qstring(spoken_sheet(content)));
   chart_->set_chart(window_.chart(),
                     {to_qstring(content.directions[0]), to_qstring(content.directions[1])},
