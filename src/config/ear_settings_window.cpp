@@ -91,7 +91,7 @@ void EarSettingsWindow::degrees_chosen() {
   if (all) return;
   const IntervalNames& names = context().interval_names;
   degree_list.clear();
-  degree_list.add(names.long_name(0) + "/" + context().tables.stufe_kurz[1]);
+  degree_list.add(names.long_name(IntervalCode{0}) + "/" + context().tables.stufe_kurz[1]);
   for (const Degree& degree : degrees_above_keynote(settings().tongeschl)) {
     degree_list.add(names.long_name(degree.code));
   }

@@ -72,7 +72,9 @@ void Einstellung1::trans_dfg() {
   if (direction == 0) return;
   CmbTransIv.clear();
   for (int code = 0; code < kNamedIntervals; ++code) {
-    CmbTransIv.add((direction == 1 ? "+" : "-") + context().interval_names.long_name(code), code);
+    CmbTransIv.add((direction == 1 ? "+" : "-") +
+                       context().interval_names.long_name(static_cast<IntervalCode>(code)),
+                   code);
   }
   offered().set(Choice::trans_iv, 0);
 }

@@ -13,11 +13,13 @@ AnalysedInterval analyse_interval(Tone from, Tone to, const Key& key, const Inte
   const int position = position_in_list(to.qz, key.skala, key.anz_stufen);
   interval.degree = to_int16(position * direction);
   interval.degree_text =
-      position == 0
-          ? "Stufe nicht leitereigen"
-          : names.text(interval.difference, direct_code_of_degree(key, position)).joined();
+      position == 0 ? "Stufe nicht leitereigen"
+                    : names
+                          .text(interval.difference,
+                                direct_code_of_degree(key, DegreeNumber{to_int16(position)}))
+                          .joined();
   interval.code = direct_code(direction, to.qz, from.qz);
-  interval.interval_text = names.text(interval.difference, interval.code).joined();
+  interval.interval_text = names.text(interval.difference, IntervalCode{interval.code}).joined();
   return interval;
 }
 

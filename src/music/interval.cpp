@@ -48,21 +48,21 @@ IntervalNames::IntervalNames(const Texts& texts) {
   }
 }
 
-const IntervalNames::Name& IntervalNames::of(int code) const {
-  const int size = std::abs(code);
+const IntervalNames::Name& IntervalNames::of(IntervalCode code) const {
+  const int size = std::abs(static_cast<int>(code));
   if (size >= kNamedIntervals) throw RuntimeError::index_out_of_range("IntervalNames");
   return names_[static_cast<std::size_t>(size)];
 }
 
-const std::string& IntervalNames::long_name(int code) const {
+const std::string& IntervalNames::long_name(IntervalCode code) const {
   return of(code).long_name;
 }
 
-const std::string& IntervalNames::short_name(int code) const {
+const std::string& IntervalNames::short_name(IntervalCode code) const {
   return of(code).short_name;
 }
 
-IntervalText IntervalNames::text(int difference, int code) const {
+IntervalText IntervalNames::text(int difference, IntervalCode code) const {
   const int size = std::abs(difference);
   const int octaves = size > 12 ? (size - 1) / 12 : 0;
   return {{Sgn(difference) == 1 ? "+ " : "- ", long_name(code),

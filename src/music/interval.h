@@ -9,6 +9,10 @@
 
 namespace tonarix {
 
+/// The code of a direct interval, with or without its direction, as names go by it. Not to be taken
+/// for the number of a degree.
+enum class IntervalCode : std::int16_t {};
+
 /// Named interval codes: 0 (the octave over the keynote) to 21 (the diminished third).
 inline constexpr int kNamedIntervals = 22;
 
@@ -58,19 +62,19 @@ class IntervalNames {
   explicit IntervalNames(const Texts& texts);
 
   /// Names by code, whatever its sign; RuntimeError 9 when |code| is above 21.
-  const std::string& long_name(int code) const;
-  const std::string& short_name(int code) const;
+  const std::string& long_name(IntervalCode code) const;
+  const std::string& short_name(IntervalCode code) const;
 
   /// The interval of `difference` semitones and the code. A difference of 0 has the sign "- "; 12
   /// semitones are no octave beyond the first, 13 to 24 are one.
-  IntervalText text(int difference, int code) const;
+  IntervalText text(int difference, IntervalCode code) const;
 
  private:
   struct Name {
     std::string long_name;
     std::string short_name;
   };
-  const Name& of(int code) const;
+  const Name& of(IntervalCode code) const;
   std::array<Name, kNamedIntervals> names_;
 };
 

@@ -55,7 +55,7 @@ std::vector<ResultRow> degree_rows(const Settings& settings, const Auswertung& s
         statistics_of(statistics, statistic_row(to_int16(-number), Naming::from_keynote)),
         settings.Uebungsmodus);
     const int row = number - 1;
-    rows.push_back({degree_caption(settings.tongeschl, row, names, texts),
+    rows.push_back({degree_caption(settings.tongeschl, degree_in(row), names, texts),
                     std::string(scale[static_cast<std::size_t>(row)].label),
                     field_of(fraction, settings.Uebungsmodus), 0, row, kFirstTop + row * kRowStep});
   }
@@ -77,7 +77,7 @@ std::vector<ResultRow> interval_rows(const Settings& settings, const Auswertung&
       if (!(occurrences > 0)) continue;
       const auto fraction =
           interval_fraction(statistics_of(statistics, row), settings.Uebungsmodus);
-      rows.push_back({names.long_name(code), names.short_name(code),
+      rows.push_back({names.long_name(IntervalCode{code}), names.short_name(IntervalCode{code}),
                       field_of(fraction, settings.Uebungsmodus), column, place, top});
       top += kRowStep;
     }

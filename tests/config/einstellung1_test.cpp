@@ -102,7 +102,7 @@ TEST(Einstellung1, RangesAndDegreesAreListedByTheirNames) {
     window.click(window.ton_st_wahl[1]);
     EXPECT_EQ(window.degree_list.items[0].text, "[450]/[433]");
     for (std::size_t row = 1; row < window.degree_list.items.size(); ++row) {
-      EXPECT_THAT(degree_caption(static_cast<std::int16_t>(mode), static_cast<int>(row),
+      EXPECT_THAT(degree_caption(static_cast<std::int16_t>(mode), degree_in(static_cast<int>(row)),
                                  bed.interval_names, bed.texts),
                   testing::EndsWith(") " + window.degree_list.items[row].text));
     }

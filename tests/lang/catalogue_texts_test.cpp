@@ -141,9 +141,9 @@ TEST(Catalogues, NameIntervalsByTheirFifths) {
           steps == 7
               ? catalogue.text(46)
               : QString::fromStdString(catalogue.tables.stufe_kurz[place_in_stufe_kurz[steps]]);
-      EXPECT_EQ(QString::fromStdString(names.long_name(code)).toLower(),
+      EXPECT_EQ(QString::fromStdString(names.long_name(static_cast<IntervalCode>(code))).toLower(),
                 (size == 0 ? number : wording.qualities[quality] + number).toLower());
-      EXPECT_EQ(QString::fromStdString(names.short_name(code)),
+      EXPECT_EQ(QString::fromStdString(names.short_name(static_cast<IntervalCode>(code))),
                 QLatin1Char(wording.short_qualities[quality]) + QString::number(steps + 1));
     }
   }

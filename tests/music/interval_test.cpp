@@ -39,8 +39,9 @@ TEST(IntervalNames, CountOctavesBeyondTheFirst) {
       {-24, -1, "- [449] und 1 Okt."},
       {25, 11, "+ [358] und 2 Okt."},
   };
-  for (const Row& row : rows) EXPECT_EQ(names.text(row.difference, row.code).joined(), row.text);
-  EXPECT_THROW(names.short_name(-22), RuntimeError);
+  for (const Row& row : rows)
+    EXPECT_EQ(names.text(row.difference, static_cast<IntervalCode>(row.code)).joined(), row.text);
+  EXPECT_THROW(names.short_name(IntervalCode{-22}), RuntimeError);
 }
 
 }  // namespace

@@ -25,12 +25,12 @@ void expect_sound_key(const Key& key, std::int16_t tongeschl) {
     EXPECT_TRUE(has_name(tone.qz));
     EXPECT_EQ(tone.chr % 12, pitch_class(tone.qz));
     EXPECT_EQ(skala_row(key, tone.qz), row % key.anz_stufen);
-    const int code = degrees(tongeschl)[static_cast<std::size_t>(row)].code;
-    EXPECT_EQ(direct_code_of_degree(key, row + 1), code);
-    EXPECT_EQ(direct_code_of_degree(key, -row - 1), code);
+    const IntervalCode code = degrees(tongeschl)[static_cast<std::size_t>(row)].code;
+    EXPECT_EQ(direct_code_of_degree(key, degree_in(row)), code);
+    EXPECT_EQ(direct_code_of_degree(key, static_cast<DegreeNumber>(-row - 1)), code);
   }
-  EXPECT_THROW(direct_code_of_degree(key, 0), RuntimeError);
-  EXPECT_THROW(direct_code_of_degree(key, key.anz_stufen + 2), RuntimeError);
+  EXPECT_THROW(direct_code_of_degree(key, DegreeNumber{0}), RuntimeError);
+  EXPECT_THROW(direct_code_of_degree(key, degree_in(key.anz_stufen + 1)), RuntimeError);
   EXPECT_FALSE(skala_row(key, key.skala[0].qz + 6)) << "the tritone is no degree";
 }
 
@@ -103,9 +103,9 @@ TEST(Degrees, TakeTheTonesOfTheirModeAndCountTheSteps) {
 TEST(Degrees, HaveACaptionThatNamesTheOctaveBesideThePrime) {
   const KeyTexts texts;
   const IntervalNames names(texts);
-  EXPECT_EQ(degree_caption(0, 0, names, texts), "(I) [449] [701] [450]");
-  EXPECT_EQ(degree_caption(1, 5, names, texts), "(VIa) [360]");
-  EXPECT_THROW(degree_caption(0, 7, names, texts), RuntimeError);
+  EXPECT_EQ(degree_caption(0, degree_in(0), names, texts), "(I) [449] [701] [450]");
+  EXPECT_EQ(degree_caption(1, degree_in(5), names, texts), "(VIa) [360]");
+  EXPECT_THROW(degree_caption(0, degree_in(7), names, texts), RuntimeError);
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ TEST_F(ResultTableTest, OfferedIntervalsStandInOrderOfSizeRisingAtLeft) {
   ASSERT_EQ(full.rows.size(), 37U);
   for (std::size_t i = 0; i < full.rows.size(); ++i) {
     const std::size_t place = i == 36 ? 18 : i % 19;  // the falling major seventh is left out
-    EXPECT_EQ(full.rows[i].label, names.long_name(by_size[place]));
+    EXPECT_EQ(full.rows[i].label, names.long_name(static_cast<IntervalCode>(by_size[place])));
     EXPECT_EQ(full.rows[i].column, i < 19 ? 0 : 1);
     EXPECT_EQ(full.rows[i].place, static_cast<int>(place));
   }

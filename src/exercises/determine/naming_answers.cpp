@@ -29,13 +29,13 @@ void NamingAnswers::prepare_names() {
     const int number = *button.index();
     button.visible = by_degree() && number <= context_.key.anz_stufen;
     if (number > context_.key.anz_stufen) continue;
-    button.text = degree_caption(settings.tongeschl, number - 1, context_.interval_names,
-                                 context_.common.texts);
+    button.text = degree_caption(settings.tongeschl, DegreeNumber{to_int16(number)},
+                                 context_.interval_names, context_.common.texts);
   }
   const auto offered = offered_codes(settings, context_.key);
   for (Control& button : intervall) {
     const int code = *button.index();
-    button.text = context_.interval_names.long_name(code);
+    button.text = context_.interval_names.long_name(IntervalCode{to_int16(code)});
     button.visible = !by_degree() && offered.test(static_cast<std::size_t>(code));
   }
 }
@@ -139,7 +139,7 @@ std::int16_t NamingAnswers::iv() const {
 std::string NamingAnswers::answer_text(std::int16_t code, std::int16_t asked) const {
   if (by_degree()) return st_int[code].text;
   const std::string VorzeichenText = Sgn(asked) == 1 ? "+" : "-";
-  return VorzeichenText + " " + context_.interval_names.long_name(code);
+  return VorzeichenText + " " + context_.interval_names.long_name(IntervalCode{code});
 }
 
 }  // namespace tonarix

@@ -81,7 +81,7 @@ TEST(FrequencyBox, ChosenDegreeIsTheRowOfTheScale) {
     build_scale(key, mode, Naming::from_keynote);
     ASSERT_EQ(static_cast<int>(listed[static_cast<std::size_t>(mode)].size()), key.anz_stufen);
     for (int row = 0; row < key.anz_stufen; ++row) {
-      EXPECT_EQ(direct_code_of_degree(key, row + 1),
+      EXPECT_EQ(static_cast<int>(direct_code_of_degree(key, degree_in(row))),
                 listed[static_cast<std::size_t>(mode)][static_cast<std::size_t>(row)]);
     }
   }
