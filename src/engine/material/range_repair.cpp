@@ -41,7 +41,7 @@ bool turn_interval_before(RowUnderWay& built, int i, const Key& key) {
 
 bool bring_back(RowUnderWay& built, int i, const Settings& settings, const Key& key) {
   const bool wende = i != 2 && Sgn(built.iv(i - 1)) != Sgn(built.iv(i - 2));
-  const bool may_turn_before = !wende && is_test(settings.Uebungsmodus) && built.pruef_frei;
+  const bool may_turn_before = !wende && built.pruef_frei;
   if (may_turn_before && i == 2) {
     shift_row_back(built);
   } else if (settings.abfr_iv == Naming::from_keynote) {

@@ -13,7 +13,7 @@ struct RowUnderWay {
   TaskRow& row;
   std::int16_t richtung = 1;    ///< direction of the interval, 1 up or -1 down
   std::int16_t okt_zusatz = 0;  ///< octaves added to it, in semitones
-  bool pruef_frei = false;      ///< the interval before it was no longer on the test's list
+  bool pruef_frei = false;      ///< in a test: the interval before it was no longer on its list
 
   // By place, as the rules count: iv(i - 1) leads to tone i.
   Tone& tone(int i) { return row.inv_ton[static_cast<std::size_t>(i)]; }

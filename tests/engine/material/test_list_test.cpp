@@ -74,6 +74,12 @@ TEST(TestList, GivesBackWhatARefusedRowTook) {
   const int taken = list.test_haeufgk[6];
   list.give_back();  // of tasks that are done nothing goes back
   EXPECT_EQ(list.test_haeufgk[6], taken);
+
+  list.take(4);
+  list.TestListeFuellen();
+  const auto filled = list.matbox;
+  list.give_back();
+  EXPECT_EQ(list.matbox, filled) << "a list filled meanwhile has all it needs";
 }
 
 // An emptied list is filled before it is drawn from.
