@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include "flow/flow_bed.h"
+
+namespace tonarix {
+namespace {
+
+struct WindowFlowTest : testing::Test {
+  int mark(const Arbeitsblatt1& window) const {
+    for (const Control& one : window.sounding) {
+      if (one.visible) return *one.index();
+    }
+    return -1;
+  }
+  FakeHost host;
+  FlowBed bed{host};
+};
+
+TEST_F(WindowFlowTest, EveryMomentSaysWhatComesAndNumbersTheNextTask) {
+  bed.open_settings().click(bed.settings().abfrage[1]);
+  Arbeitsblatt1& window = bed.open_exercise();
+  EXPECT_EQ(window.hint.text + window.question.text, "[1110s][1111s]");
+  bed.hear_row();
+  window.grundton_click();
+  EXPECT_EQ(window.hint.text, "[1122s]");
+  bed.hear_row();
+  EXPECT_EQ(window.hint.text + window.question.text, "[1111s]");
+  bed.answer_row(window);
+  EXPECT_EQ(window.hint.text + window.question.text, "[1109s]");
+  for (const bool by_keynote : {false, true}) {
+    by_keynote ? window.grundton_click() : window.wieder2_click();
+    EXPECT_EQ(window.hint.text, by_keynote ? "[1122s]" : "[1110s]");
+    EXPECT_FALSE(window.LbNextAufg.visible);
+    bed.scheduler.advance_ms(bed.beat() * (by_keynote ? 1 : bed.tones()) + 300);
+    EXPECT_EQ(window.hint.text, "[1121s]");
+    EXPECT_EQ(window.LbNextAufg.text, "[129s] 2");
+  }
+  bed.scheduler.advance_ms(1800);
+  EXPECT_EQ(window.CmdNextAufg.text, "[129s] 3");
+}
+
+TEST_F(WindowFlowTest, TheToneThatSoundsIsMarkedForItsBeatAndNoLonger) {
+  bed.open_settings();
+  Arbeitsblatt1& window = bed.open_exercise();
+  while (mark(window) < 0) bed.scheduler.advance_ms(1);
+  for (int tone = 0; tone < bed.tones(); ++tone) {
+    bed.scheduler.advance_ms(bed.beat() * 0.5);
+    EXPECT_EQ(mark(window), tone);
+    bed.scheduler.advance_ms(bed.beat() * 0.45);
+    EXPECT_EQ(mark(window), tone + 1 < bed.tones() ? tone : -1) << "the queue has run out";
+    bed.scheduler.advance_ms(bed.beat() * 0.05);
+  }
+}
+
+TEST_F(WindowFlowTest, TheDocumentTellsTheBendsAndTheFieldsTheDirection) {
+  Einstellung1& settings = bed.open_settings();
+  for (OptionControl* one : {&settings.frequenz[1], &settings.stimm_g[2], &settings.abfr_iv[1]}) {
+    settings.click(*one);
+  }
+  Arbeitsblatt1& window = bed.open_exercise();
+  std::vector<int> bends;
+  for (int task = 0; task < 4; ++task) {
+    if (task > 0) bed.next_task(window);
+    bed.hear_row();
+    for (int place = 0; place < bed.tones(); ++place) {
+      const auto messages = bed.devices.messages();
+      const auto bend = std::find_if(messages.rbegin(), messages.rend(), [&](const auto& message) {
+        return message.status == 0xE2 + place;
+      });
+      bends.push_back(bend->data2 - 64);
+    }
+    bed.answer_row(window);
+    for (int i = 0; i <= 1; ++i) {
+      const bool rises = bed.module.row().iv[static_cast<std::size_t>(i)] > 0;
+      EXPECT_EQ(window.ergebnis[i].text[0], rises ? '+' : '-');
+    }
+  }
+  const pugi::xml_node exercise = bed.leave(window);
+  std::vector<int> told;
+  for (const auto& found : exercise.select_nodes("//property[@key='PB-Abweichung']")) {
+    told.push_back(found.node().attribute("value").as_int());
+  }
+  EXPECT_EQ(told, bends);
+}
+
+TEST_F(WindowFlowTest, ATestThatIsDoneHasNoMoreTimeToLose) {
+  Arbeitsblatt1& window = bed.begin(3);
+  for (int task = 0; window.phase() != Phase::test_finished; ++task) {
+    if (task > 0) bed.next_task(window);
+    bed.answer_row(window, 0.1);
+  }
+  const std::string left = window.stop_uhr.text;
+  bed.scheduler.advance_ms(3600 * 1000.0);
+  EXPECT_EQ(window.stop_uhr.text, left);
+  EXPECT_EQ(window.phase(), Phase::test_finished);
+}
+
+TEST_F(WindowFlowTest, TheSheetStandsAWhileAndTheProtocolWaitsForItsEnd) {
+  for (const double closed_after : {1.0, 2000.0}) {
+    Arbeitsblatt1& window = bed.begin();
+    const std::size_t written = bed.documents.written.size();
+    window.zurueck_click();
+    EXPECT_FALSE(window.zurueck.enabled);
+    bed.scheduler.advance_ms(closed_after);
+    EXPECT_EQ(bed.documents.written.size(), written);
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(200);
+    EXPECT_EQ(bed.documents.written.size(), closed_after < 300 ? written : written + 1);
+    bed.scheduler.advance_ms(100);
+    EXPECT_EQ(bed.documents.written.size(), written + 1);
+    bed.settings().click(bed.settings().cmdZurueck);
+    bed.scheduler.advance_ms(50);
+  }
+}
+
+TEST_F(WindowFlowTest, AKeptTrainingGoesOnFromItsLastStateAndLeavesTheListWhenItIsUsedUp) {
+  const auto segments = [](const Arbeitsblatt1& window) {
+    int filled = 0;
+    for (int part = 0; part < 15; ++part) filled += window.matboxanz[part].back.has_value();
+    return filled;
+  };
+  Arbeitsblatt1* window = &bed.begin(1);
+  EXPECT_EQ(segments(*window), 8);
+  std::string percent;
+  for (int round = 0; round < 2; ++round) {
+    for (int task = 0; task < 4; ++task) {
+      if (task > 0) bed.next_task(*window);
+      bed.answer_row(*window);
+    }
+    percent = window->matboxanz[15].text;
+    bed.dialogs.script = {Reply::yes};
+    bed.leave(*window);
+    if (round == 0) bed.settings().choose(bed.settings().training_Combo, 2);
+    window = &bed.open_exercise();
+    EXPECT_EQ(window->matboxanz[15].text, percent);
+    bed.hear_row();
+  }
+  for (int task = 0; window->phase() != Phase::training_finished; ++task) {
+    if (task > 0) bed.next_task(*window);
+    bed.answer_row(*window);
+  }
+  EXPECT_EQ(segments(*window), 0);
+  bed.leave(*window);
+  EXPECT_EQ(bed.settings().training_Combo.items.at(2).text, "---------------");
+  EXPECT_EQ(bed.settings().training_Combo.selected, 1);
+}
+
+}  // namespace
+}  // namespace tonarix
