@@ -213,20 +213,18 @@ void ExerciseWindow::escape_key() {
 
 void ExerciseWindow::zurueck_click() {
   if (phase_ == Phase::leaving) return;
-  const auto keep = way_to_keep();
+  const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
+  const bool ended = is_over(phase_) || phase_ == Phase::broken;
+  std::function<bool()> keep;
+  if (!ended && is_training(level()) && tasks_done > 0) {
+    keep = [this] {
+      return training_.keep(training_state(box_, context_.settings, context_.statistics,
+                                           answers_.counts.wrong, answers_.counts.repeats));
+    };
+  }
   stop_all();
   enter(Phase::leaving);
   run(kLeavingTag, way_out_.leave(keep));
-}
-
-std::function<bool()> ExerciseWindow::way_to_keep() {
-  const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
-  const bool ended = is_over(phase_) || phase_ == Phase::broken;
-  if (ended || !is_training(level()) || tasks_done == 0) return {};
-  return [this] {
-    return training_.keep(training_state(box_, context_.settings, context_.statistics,
-                                         answers_.counts.wrong, answers_.counts.repeats));
-  };
 }
 
 void ExerciseWindow::stop_all() {
@@ -242,7 +240,15 @@ void ExerciseWindow::stop_all() {
 void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
   if (phase_ == Phase::leaving && tag == kLeavingTag) return way_out_.give_up(tag, error);
   if (phase_ == Phase::broken || phase_ == Phase::leaving) return context_.errors.log(tag, error);
-  if (is_device_failure(error)) return device_failed(tag, error);
+  if (is_device_failure(error)) {
+    // A silent device takes nothing away that was earned: the answers open as if the row had
+    // sounded, and the next playback opens the device anew.
+    context_.errors.log(tag, error);
+    player().forget();
+    after_playing();
+    // The time that goes into reading the message is not the student's.
+    return tell(word(text::device_silent), [this] { answers_.open(); });
+  }
   stop_all();
   enter(Phase::broken);
   context_.errors.report_exercise(name(), tag, error, [this, here = alive()] {
@@ -250,16 +256,6 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
     testtimer_.set_interval(0);
     testtimer_.enable();
   });
-}
-
-// A silent device takes nothing away that was earned: the answers open as if the row had sounded,
-// and the next playback opens the device anew.
-void ExerciseWindow::device_failed(std::string_view tag, std::exception_ptr error) {
-  context_.errors.log(tag, error);
-  player().forget();
-  after_playing();
-  // The time that goes into reading the message is not the student's.
-  tell(word(text::device_silent), [this] { answers_.open(); });
 }
 
 }  // namespace tonarix

@@ -55,8 +55,6 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void finish_row();
   void Uhrzeit_timer();
   void stop_all();
-  std::function<bool()> way_to_keep();
-  void device_failed(std::string_view tag, std::exception_ptr error);
 
   ExerciseContext context_;
   FrequencyBox box_;

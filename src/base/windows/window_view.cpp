@@ -1,7 +1,6 @@
 #include "base/windows/window_view.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
@@ -41,8 +40,7 @@ bool is_return(const QKeyEvent& event) {
 
 }  // namespace
 
-WindowView::WindowView(Window& window, const Texts& texts)
-    : logic_(&window), texts_(texts), bindings_(texts) {
+WindowView::WindowView(Window& window, const Texts& texts) : WidgetMaker(texts), logic_(&window) {
   setObjectName(to_qstring(window.name()));
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, theme::between);
@@ -51,16 +49,15 @@ WindowView::WindowView(Window& window, const Texts& texts)
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  content_ = new QWidget;
-  scroll_->setWidget(content_);
-  content_->installEventFilter(this);
+  scroll_->setWidget(&content());
+  content().installEventFilter(this);
   whole->addWidget(scroll_, 1);
   actions_ = new QHBoxLayout;
   actions_->setContentsMargins(theme::edge, theme::inside, theme::edge, 0);
   actions_->setSpacing(theme::inside);
   whole->addLayout(actions_);
   QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    if (now && content_->isAncestorOf(now)) scroll_->ensureWidgetVisible(now, 16, 16);
+    if (now && content().isAncestorOf(now)) scroll_->ensureWidgetVisible(now, 16, 16);
   });
   window.on_changed = [this] { apply(); };
 }
@@ -80,7 +77,7 @@ void WindowView::apply() {
       unsetCursor();
     }
   }
-  bindings_.apply();
+  bindings().apply();
   const Button* next = first_open(way_on_);
   for (Button* button : way_on_) button->set_primary(button == next);
   applied();
@@ -94,13 +91,13 @@ void WindowView::detach() {
   if (!logic_) return;
   logic_->on_changed = nullptr;
   logic_ = nullptr;
-  bindings_.close();
+  bindings().close();
   hide();
   if (on_visibility) on_visibility();
 }
 
 QSize WindowView::sizeHint() const {
-  const QSize inner = content_->sizeHint();
+  const QSize inner = content().sizeHint();
   const QSize line = actions_->sizeHint();
   const int foot = line.height() + layout()->contentsMargins().bottom();
   return {std::max(inner.width(), line.width()), inner.height() + foot};
@@ -133,60 +130,11 @@ void WindowView::place_first() {
 void WindowView::grow() {
   // Texts that come after the window has opened may need more room.
   if (!isVisible() || size() != own_size_) return;
-  const QSize need = content_->minimumSizeHint() + sizeHint() - content_->sizeHint();
+  const QSize need = content().minimumSizeHint() + sizeHint() - content().sizeHint();
   if (need.width() <= width() && need.height() <= height()) return;
   const QRect room = room_on(*screen());
   own_size_ = with_bars(need, room.size()).expandedTo(size());
   setGeometry(moved_inside({geometry().topLeft(), own_size_}, room));
-}
-
-Button* WindowView::button(const Control& control, Bindings::Handler pressed, Binding look) {
-  auto* made = new Button(content_);
-  bindings_.bind(*made, control, std::move(pressed), look);
-  return made;
-}
-
-Label* WindowView::label(const Control& control, TextRole role, Binding look) {
-  auto* made = new Label(role, content_);
-  bindings_.bind(*made, control, look);
-  return made;
-}
-
-Label* WindowView::text(const QString& words, TextRole role) {
-  auto* made = new Label(role, content_);
-  made->setText(words);
-  return made;
-}
-
-ListBox* WindowView::list(const ListControl& control, Bindings::NumberHandler chosen,
-                          Binding look) {
-  auto* made = new ListBox(content_);
-  bindings_.bind(*made, control, std::move(chosen), look);
-  return made;
-}
-
-Slider* WindowView::slider(const SliderControl& control, Bindings::NumberHandler moved,
-                           Binding look) {
-  auto* made = new Slider(content_);
-  bindings_.bind(*made, control, std::move(moved), look);
-  return made;
-}
-
-Card* WindowView::card(const Control* frame, const Control* title) {
-  auto* made = new Card(content_);
-  bindings_.bind(*made, frame, title);
-  return made;
-}
-
-QButtonGroup* WindowView::group() {
-  return new QButtonGroup(this);
-}
-
-Option* WindowView::option(const OptionControl& control, QButtonGroup& group,
-                           Bindings::Handler chosen, Binding look) {
-  auto* made = new Option(content_);
-  bindings_.bind(*made, control, group, std::move(chosen), look);
-  return made;
 }
 
 void WindowView::key(const QKeySequence& sequence, Button& button) {
@@ -232,7 +180,7 @@ void WindowView::changeEvent(QEvent* event) {
 }
 
 bool WindowView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == content_ && event->type() == QEvent::LayoutRequest) {
+  if (watched == &content() && event->type() == QEvent::LayoutRequest) {
     grow();
     fit();
   }

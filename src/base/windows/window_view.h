@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "base/windows/bindings.h"
+#include "base/windows/widget_maker.h"
 
 class QScrollArea;
 
@@ -32,7 +32,7 @@ namespace tonarix {
 /// Caption, visible, enabled and busy follow the logic, as do all bound widgets, whenever it
 /// announces a change. The title bar's close button only asks the logic. Return presses the focused
 /// button or else the way on, Escape the way back, F1 the help.
-class WindowView : public QWidget {
+class WindowView : public QWidget, protected WidgetMaker {
  public:
   WindowView(Window& window, const Texts& texts);
   ~WindowView() override;
@@ -50,39 +50,7 @@ class WindowView : public QWidget {
   void set_place(const QWidget* before);
 
  protected:
-  QWidget& content() { return *content_; }
   QHBoxLayout& actions() { return *actions_; }
-  Bindings& bindings() { return bindings_; }
-  const Texts& texts() const { return texts_; }
-  /// A text of the catalogue that no control carries.
-  QString word(TextKey key) const { return to_qstring(texts_.Wort(key)); }
-
-  // Each makes a widget inside `content()` and binds it; a layout gives it its place.
-  Button* button(const Control& control, Bindings::Handler pressed, Binding look = {});
-  Label* label(const Control& control, TextRole role, Binding look = {});
-  /// A text that stays.
-  Label* text(const QString& words, TextRole role);
-  ListBox* list(const ListControl& control, Bindings::NumberHandler chosen, Binding look = {});
-  Slider* slider(const SliderControl& control, Bindings::NumberHandler moved, Binding look = {});
-  Card* card(const Control* frame, const Control* title);
-  QButtonGroup* group();
-  Option* option(const OptionControl& control, QButtonGroup& group, Bindings::Handler chosen,
-                 Binding look = {});
-  /// A row or column of options that exclude each other; the handler gets the option's index.
-  template <int First, int Last>
-  std::vector<Option*> options(const ControlArray<OptionControl, First, Last>& controls,
-                               QBoxLayout& into, const Bindings::NumberHandler& chosen,
-                               Binding look = {}) {
-    std::vector<Option*> made;
-    QButtonGroup* together = group();
-    for (const OptionControl& control : controls) {
-      const int index = *control.index();
-      made.push_back(option(
-          control, *together, [chosen, index] { chosen(index); }, look));
-      into.addWidget(made.back());
-    }
-    return made;
-  }
 
   /// The first of these that is open is drawn as the way on, and Return presses it.
   void way_on(std::vector<Button*> buttons) { way_on_ = std::move(buttons); }
@@ -113,10 +81,7 @@ class WindowView : public QWidget {
   void show_mnemonics(bool shown);
 
   Window* logic_;
-  const Texts& texts_;
-  Bindings bindings_;
   QScrollArea* scroll_;
-  QWidget* content_;
   QHBoxLayout* actions_;
   std::vector<Button*> way_on_;
   std::vector<Button*> way_back_;
