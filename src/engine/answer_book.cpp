@@ -1,5 +1,7 @@
 #include "engine/answer_book.h"
 
+#include <algorithm>
+
 #include "base/arithmetic.h"
 #include "engine/answer_rules.h"
 
@@ -35,6 +37,10 @@ int AnswerBook::asked() const {
   int place = 0;
   while (place < count_ && !open(place)) ++place;
   return place;
+}
+
+int AnswerBook::wrong_tries(int place) const {
+  return static_cast<int>(std::max(places_.at(at(place)).rf, 0.0F) / kWrongTry);
 }
 
 Verdict AnswerBook::right(int place, float tenths) {

@@ -51,6 +51,8 @@ class AnswerBook {
   int asked() const;
   bool open(int place) const { return open_.at(at(place)); }
   bool done() const { return asked() == count_; }
+  /// Plain wrong tries on a place so far, 0 to 4.
+  int wrong_tries(int place) const;
   const AnsweredInterval& place(int place) const { return places_.at(at(place)); }
 
   /// A right answer after `tenths` closes its place.

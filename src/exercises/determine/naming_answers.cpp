@@ -93,13 +93,14 @@ void NamingAnswers::wrong_answer(std::int16_t code) {
   const int place = answers_.asked();
   const Settings& settings = context_.settings;
   Control& field = ergebnis[place];
-  const bool was_red_on_black = field.fore == signal::wrong;
-  field.fore = was_red_on_black ? signal::black : signal::wrong;
-  field.back = was_red_on_black ? signal::wrong : signal::black;
   const std::string solution = answer_text(to_int16(std::abs(iv())), iv());
   const std::int16_t value = signed_wrong_answer(
       context_.key, settings.abfr_iv, settings.ton_st_wahl, settings.stufe_wahl, code, iv());
-  if (answers_.wrong(place, value) == Verdict::given_up) {
+  const Verdict verdict = answers_.wrong(place, value);
+  const bool red_on_black = answers_.book().wrong_tries(place) % 2 == 1;
+  field.fore = red_on_black ? signal::wrong : signal::black;
+  field.back = red_on_black ? signal::black : signal::wrong;
+  if (verdict == Verdict::given_up) {
     field.text = solution;
     field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " +
                             Wort(text::spoken_solution) + " " + solution;
