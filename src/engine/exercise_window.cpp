@@ -11,7 +11,6 @@ namespace tonarix {
 
 namespace {
 
-constexpr double kResetPause = 50;        // ms for a device to fall silent
 constexpr double kClockInterval = 10000;  // ms
 constexpr std::int16_t kClockSeconds = 10;
 constexpr const char* kLeavingTag = "zurueck_click.";

@@ -86,9 +86,11 @@ constexpr bool is_over(Phase phase) {
 constexpr bool row_is_asked(Phase phase) {
   return phase == Phase::sounding || phase == Phase::answering;
 }
-/// The phase while a row that was asked to the end sounds once more, and the phase after it.
+/// The phase while the row or its keynote sounds once more, and the phase after it.
 constexpr Phase sounding_again(Phase phase) {
   switch (phase) {
+    case Phase::answering:
+      return Phase::sounding;
     case Phase::training_finished:
       return Phase::finished_sounding;
     case Phase::test_finished:

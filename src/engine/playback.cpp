@@ -11,7 +11,6 @@ namespace {
 constexpr std::int16_t kKeynoteChannel = 1;
 constexpr std::int16_t kKeynoteSofter = 50;  // velocity steps under the tones
 constexpr double kSoundingPart = 0.9;
-constexpr double kResetPause = 50;
 constexpr double kStartPause = 100;
 
 }  // namespace

@@ -13,6 +13,9 @@
 
 namespace tonarix {
 
+/// Time for a device to fall silent, milliseconds.
+inline constexpr double kResetPause = 50;
+
 /// Sounds the row of the task and the keynote check over the current MIDI output. Each operation is
 /// ended by the closing of `waits`; the queue then does not start.
 class Playback {

@@ -10,8 +10,6 @@ namespace tonarix {
 
 namespace {
 
-constexpr double kResetPause = 50;  // ms for a device to fall silent
-
 void show_action(Control& control, Shown shown) {
   if (shown != Shown::shut) control.visible = shown != Shown::hidden;
   control.enabled = shown == Shown::open;
@@ -76,43 +74,30 @@ const Control* SoundingWindow::default_button() const {
 }
 
 void SoundingWindow::wieder_click() {
-  press(wieder, "wieder_click.", [this] { return repeat(SpielArt::wieder); });
+  press(wieder, "wieder_click.", [this] { return hear(SpielArt::wieder); });
 }
 
 void SoundingWindow::wieder2_click() {
-  press(wieder2, "wieder2_click.", [this] { return play_again(SpielArt::wieder2); });
+  press(wieder2, "wieder2_click.", [this] { return hear(SpielArt::wieder2); });
 }
 
 void SoundingWindow::grundton_click() {
-  press(grundton, "grundton_click.", [this] {
-    return row_is_asked(phase()) ? repeat(SpielArt::grundton) : play_again(SpielArt::grundton);
-  });
+  press(grundton, "grundton_click.", [this] { return hear(SpielArt::grundton); });
 }
 
 // During a task hearing costs, and the answer clock stands meanwhile.
-Sequence SoundingWindow::repeat(SpielArt what) {
-  enter(Phase::sounding);
-  if (what == SpielArt::grundton) hint.text = word(text::keynote_sounds);
-  answers().pause();
-  player().silence();
-  co_await Delay(kResetPause);
-  if (waits().closed()) co_return;
-  if (what == SpielArt::grundton) {
-    answers().count_keynote();
-  } else {
-    answers().count_repeat();
-  }
-  show_counts(answers().counts);
-  const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
-  co_await player().play(what, context().row.inv_ton.at(place));
-}
-
-Sequence SoundingWindow::play_again(SpielArt what) {
+Sequence SoundingWindow::hear(SpielArt what) {
+  const bool in_task = row_is_asked(phase());
   enter(sounding_again(phase()));
   if (what == SpielArt::grundton) hint.text = word(text::keynote_sounds);
+  if (in_task) answers().pause();
   player().silence();
   co_await Delay(kResetPause);
   if (waits().closed()) co_return;
+  if (in_task) {
+    what == SpielArt::grundton ? answers().count_keynote() : answers().count_repeat();
+    show_counts(answers().counts);
+  }
   const auto place = static_cast<std::size_t>(std::min(answers().asked(), 5));
   co_await player().play(what, context().row.inv_ton.at(place));
 }

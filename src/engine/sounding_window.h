@@ -30,8 +30,7 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   void show_counts(const TaskAnswers::Counts& counts) override;
 
  private:
-  Sequence repeat(SpielArt what);
-  Sequence play_again(SpielArt what);
+  Sequence hear(SpielArt what);
   void show_sounding(int place);
 };
 
