@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/arithmetic.h"
+#include "base/runtime_error.h"
 #include "engine/answer_rules.h"
 
 namespace tonarix {
@@ -15,21 +16,31 @@ constexpr float kRightAtOnce = -4;  // the reward before repeats and lateness
 
 }  // namespace
 
+void AnswerClock::go_on(double now) {
+  if (runs_) return;
+  started_ = now;
+  runs_ = true;
+}
+
+void AnswerClock::pause(double now) {
+  if (runs_) spent_ += now - started_;
+  runs_ = false;
+}
+
 float AnswerClock::stop(double now) {
   pause(now);
   return answer_tenths(spent_);
 }
 
-void AnswerBook::begin_task(std::span<const std::int16_t> intervals, int first_asked, Rules rules) {
+void AnswerBook::begin_task(std::span<const std::int16_t> intervals, const Rules& rules) {
   places_ = {};
+  heard_ = {};
   open_ = {};
   count_ = static_cast<int>(intervals.size());
-  first_asked_ = first_asked;
   rules_ = rules;
-  wdh_gesamt_ = 0;
   for (int i = 0; i < count_; ++i) {
     places_.at(at(i)).interval = intervals[at(i)];
-    open_.at(at(i)) = i >= first_asked;
+    open_.at(at(i)) = i >= rules.first_asked;
   }
 }
 
@@ -43,56 +54,55 @@ int AnswerBook::wrong_tries(int place) const {
   return static_cast<int>(std::max(places_.at(at(place)).rf, 0.0F) / kWrongTry);
 }
 
+// An answer uses up what was heard for it.
+AnsweredInterval& AnswerBook::answer_to(int place) {
+  if (place < 0 || place >= count_ || !open(place)) throw RuntimeError::index_out_of_range("iv_nr");
+  heard_.at(at(place)) = {};
+  return places_.at(at(place));
+}
+
 Verdict AnswerBook::right(int place, float tenths) {
-  AnsweredInterval& interval = places_.at(at(place));
+  AnsweredInterval& interval = answer_to(place);
   if (interval.rf == 0 && rules_.rewarded) {
     interval.zeit_gewicht += ZeitStrafe(tenths, rules_.zeit_grenze);
     interval.rf = kRightAtOnce;
   }
-  close(place);
+  open_.at(at(place)) = false;
   return Verdict::right;
 }
 
 Verdict AnswerBook::near_miss(int place) {
-  places_.at(at(place)).rf += kNearMiss;
-  close(place);
+  answer_to(place).rf += kNearMiss;
+  open_.at(at(place)) = false;
   return Verdict::near_miss;
 }
 
 Verdict AnswerBook::wrong(int place, std::int16_t value) {
-  AnsweredInterval& interval = places_.at(at(place));
+  AnsweredInterval& interval = answer_to(place);
   interval.rf += kWrongTry;
   interval.f_antw_wert.at(static_cast<std::size_t>(interval.rf / kWrongTry)) = value;
-  if (interval.rf >= RF) {
-    close(place);
-    return Verdict::given_up;
-  }
-  wdh_gesamt_ = 0;
-  return Verdict::wrong;
+  if (interval.rf < kErrorCeiling) return Verdict::wrong;
+  open_.at(at(place)) = false;
+  return Verdict::given_up;
 }
 
-void AnswerBook::add_lateness(int place, float tenths) {
-  places_.at(at(place)).zeit_gewicht += ZeitStrafe(tenths, rules_.zeit_grenze);
+void AnswerBook::add_lateness(int place, float tenths, std::int16_t zeit_grenze) {
+  places_.at(at(place)).zeit_gewicht += ZeitStrafe(tenths, zeit_grenze);
 }
 
 void AnswerBook::count_repeat() {
   places_.at(at(asked())).wdh_gewicht += 1;
-  wdh_gesamt_ += 1;
+  ++heard_.at(at(asked())).repeats;
 }
 
 void AnswerBook::count_keynote() {
   auto& repeats = places_.at(at(asked())).wdh_gewicht;
   repeats = round_to_int16(Round(repeats + 0.5));
-  wdh_gesamt_ += 0.5F;
+  ++heard_.at(at(asked())).keynotes;
 }
 
 std::span<const AnsweredInterval> AnswerBook::answered() const {
-  return std::span(places_).subspan(at(first_asked_), at(count_ - first_asked_));
-}
-
-void AnswerBook::close(int place) {
-  open_.at(at(place)) = false;
-  wdh_gesamt_ = 0;
+  return std::span(places_).subspan(at(rules_.first_scored), at(count_ - rules_.first_scored));
 }
 
 }  // namespace tonarix

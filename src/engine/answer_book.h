@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "engine/material/frequency_box.h"
+#include "engine/material/answered_interval.h"
 
 namespace tonarix {
 
@@ -20,15 +20,24 @@ enum class Verdict : std::uint8_t {
 /// Moments are seconds of steady time.
 class AnswerClock {
  public:
-  void restart(double now) { spent_ = 0, started_ = now; }
-  void go_on(double now) { started_ = now; }
-  void pause(double now) { spent_ += now - started_; }
-  /// Ends the answer; its time in tenths of a second, half a tenth counting up.
+  void restart(double now) { spent_ = 0, started_ = now, runs_ = true; }
+  void go_on(double now);
+  void pause(double now);
+  /// Lets it stand; its time in tenths of a second, half a tenth counting up.
   float stop(double now);
 
  private:
   double spent_ = 0;
   double started_ = 0;
+  bool runs_ = false;
+};
+
+/// How often the row and its keynote were heard since the last answer to a place.
+struct Hearing {
+  std::int16_t repeats = 0;
+  std::int16_t keynotes = 0;
+  /// A keynote counts half a repeat. (`wdh_gesamt`)
+  constexpr float total() const { return static_cast<float>(repeats) + 0.5F * keynotes; }
 };
 
 /// What one task has come to so far: for each interval of the row whether it is asked, its error
@@ -36,16 +45,17 @@ class AnswerClock {
 /// none of its business. Places count from 0, as the intervals of the row do.
 class AnswerBook {
  public:
-  static constexpr float RF = 8;  ///< error score at which the solution is given: four wrong tries
   static constexpr int kMostPlaces = 6;
 
   struct Rules {
+    int first_asked = 0;            ///< the places before it are given
+    int first_scored = 0;           ///< the places before it count for nothing
     std::int16_t zeit_grenze = 20;  ///< free time of an answer, tenths of a second
     bool rewarded = true;           ///< whether a right first answer earns anything
   };
 
-  /// Opens the book for a row; the places before `first_asked` are given and not asked.
-  void begin_task(std::span<const std::int16_t> intervals, int first_asked, Rules rules);
+  /// Opens the book for a row.
+  void begin_task(std::span<const std::int16_t> intervals, const Rules& rules);
 
   /// The lowest place that is still open; the number of places when none is.
   int asked() const;
@@ -55,34 +65,35 @@ class AnswerBook {
   int wrong_tries(int place) const;
   const AnsweredInterval& place(int place) const { return places_.at(at(place)); }
 
+  // The verdicts. A place that is not open takes none: RuntimeError 9.
+
   /// A right answer after `tenths` closes its place.
   Verdict right(int place, float tenths);
   Verdict near_miss(int place);
   /// `value` is the signed interval that was answered, 0 where none is named.
   Verdict wrong(int place, std::int16_t value = 0);
-  /// Lateness that counts for a place before it is answered.
-  void add_lateness(int place, float tenths);
+  /// Lateness beyond a free time that counts for a place before it is answered.
+  void add_lateness(int place, float tenths, std::int16_t zeit_grenze);
 
   /// The row was heard once more for the place that is asked.
   void count_repeat();
-  /// The keynote was heard: half a repeat, and the first one of a place is free.
+  /// The keynote was heard: half a repeat, rounded to even.
   void count_keynote();
-  /// Repeats since the last answer, a keynote counting half.
-  float wdh_gesamt() const { return wdh_gesamt_; }
+  /// What was heard for a place since its last answer.
+  const Hearing& heard(int place) const { return heard_.at(at(place)); }
 
-  /// The asked intervals of the row, from the first on.
+  /// The intervals of the row that are scored, from the first on.
   std::span<const AnsweredInterval> answered() const;
 
  private:
   static std::size_t at(int place) { return static_cast<std::size_t>(place); }
-  void close(int place);
+  AnsweredInterval& answer_to(int place);
 
   std::array<AnsweredInterval, kMostPlaces> places_{};
+  std::array<Hearing, kMostPlaces> heard_{};
   std::array<bool, kMostPlaces> open_{};
   int count_ = 0;
-  int first_asked_ = 0;
   Rules rules_;
-  float wdh_gesamt_ = 0;
 };
 
 }  // namespace tonarix

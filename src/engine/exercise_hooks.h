@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "engine/material/test_list.h"
 #include "engine/phase.h"
 #include "engine/row_player.h"
 #include "engine/task_answers.h"
@@ -11,8 +12,7 @@
 
 namespace tonarix {
 
-/// What one exercise window does differently from another. The life of the exercise calls these in
-/// the order in which they stand.
+/// What one exercise window does differently from another, in the order in which a task goes by.
 class ExerciseHooks {
  public:
   virtual ~ExerciseHooks() = default;
@@ -22,10 +22,14 @@ class ExerciseHooks {
   virtual std::unique_ptr<RowPlayer> make_player() = 0;
   /// Captions and answers, before the first task.
   virtual void prepare() = 0;
+  /// What the length of a test is reckoned from, where a window has measures of its own.
+  virtual TestTiming test_timing(const TestTiming& usual) const { return usual; }
   /// How the row that was drawn is tuned.
   virtual TaskTuning tune() = 0;
   /// The first interval of a row that is asked, counted from 0; those before it are given.
   virtual int first_asked() const = 0;
+  /// The first interval that counts, where a row is answered from its beginning all the same.
+  virtual int first_scored() const = 0;
   /// Shows the task that was drawn, nothing answered yet.
   virtual void show_task() = 0;
   /// What the protocol tells of the task when it begins.

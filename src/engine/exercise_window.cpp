@@ -1,5 +1,7 @@
 #include "engine/exercise_window.h"
 
+#include <algorithm>
+
 #include "base/arithmetic.h"
 #include "base/module_texts.h"
 #include "engine/answer_rules.h"
@@ -43,6 +45,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
 
 void ExerciseWindow::start_timer() {
   handle("start_timer.", [this] {
+    enter(Phase::starting);
     zurueck.text = word(640_text);
     true_false[0].text = word(468_text);
     true_false[1].text = word(232_text);
@@ -60,7 +63,7 @@ void ExerciseWindow::start_timer() {
 RowPlayer& ExerciseWindow::player() {
   if (!player_) {
     player_ = make_player();
-    player_->sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(); }); };
+    player_->sounded = [this] { handle("spieltimer_timer.", [this] { after_playing(true); }); };
   }
   return *player_;
 }
@@ -69,7 +72,9 @@ void ExerciseWindow::prepare_level() {
   const Settings& settings = context_.settings;
   build_scale(context_.key, settings.tongeschl, settings.abfr_iv);
   if (level() != Level::free) {
-    box_.BoxAufbau({player().row_ms(), next_task_.pause_ms(), zeit_grenze_of(settings.abfr_iv)});
+    box_.BoxAufbau(test_timing({.spieltimer = player().row_ms(),
+                                .WahlAutomat = next_task_.pause_ms(),
+                                .zeit_grenze = zeit_grenze_of(settings.abfr_iv)}));
   }
   if (level() == Level::continued) {
     const SavedTraining& saved = training_.resumed();
@@ -87,8 +92,10 @@ Sequence ExerciseWindow::mat_wahl() {
   player().begin_task(tune(), material_.terz_typ);
   const auto intervals =
       std::span(context_.row.iv).first(static_cast<std::size_t>(context_.settings.invzahl) + 1);
-  answers_.begin_task(intervals, first_asked(),
-                      {zeit_grenze_of(context_.settings.abfr_iv), level() != Level::free});
+  answers_.begin_task(intervals, {.first_asked = first_asked(),
+                                  .first_scored = first_scored(),
+                                  .zeit_grenze = zeit_grenze_of(context_.settings.abfr_iv),
+                                  .rewarded = level() != Level::free});
   show_task();
   enter(Phase::sounding);
   LessonFacts facts = lesson_facts();
@@ -113,15 +120,19 @@ LessonFacts ExerciseWindow::lesson_facts() {
   return facts;
 }
 
-void ExerciseWindow::enter(Phase phase) {
+int ExerciseWindow::first_scored() const {
+  return std::max<int>(first_asked(), context_.settings.ton_st_wahl);
+}
+
+void ExerciseWindow::enter(Phase phase, bool keynote) {
   phase_ = phase;
   const Actions& actions = actions_in(phase);
   const bool automatic = context_.settings.abfrage == 1;
   next_task_.withdraw();
   if (actions.next_task) next_task_.offer(automatic);
   if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
-  hint.text = actions.hint == TextKey{} ? "" : word(actions.hint);
-  if (actions.next_task && automatic) hint.text = word(text::next_task_follows);
+  const TextKey line = keynote || (actions.next_task && automatic) ? actions.other : actions.hint;
+  hint.text = line == TextKey{} ? "" : word(line);
   if (is_over(phase)) {
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
@@ -132,9 +143,9 @@ void ExerciseWindow::enter(Phase phase) {
   show_actions(actions);
 }
 
-void ExerciseWindow::after_playing() {
+void ExerciseWindow::after_playing(bool heard) {
   if (phase_ == Phase::sounding) {
-    row_sounded();
+    if (heard) row_sounded();
     answers_.open();
   }
   if (!waits().closed()) enter(after_sounding(phase_));
@@ -142,7 +153,7 @@ void ExerciseWindow::after_playing() {
 
 void ExerciseWindow::go_on_after_answer() {
   update_counts();
-  if (answers_.book().done()) finish_row();
+  if (answers_.book.done()) finish_row();
 }
 
 void ExerciseWindow::update_counts() {
@@ -154,7 +165,7 @@ void ExerciseWindow::update_counts() {
 void ExerciseWindow::finish_row() {
   Phase next = player().audible() ? Phase::row_done : Phase::next_offered;
   BoxOutcome outcome{1, 0};
-  if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book().answered());
+  if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book.answered());
   if (is_training(level())) {
     standing_.show_training();
     standing_.show_panel(outcome.ergebnis_anz);
@@ -201,17 +212,21 @@ void ExerciseWindow::Uhrzeit_timer() {
 }
 
 const Control* ExerciseWindow::default_button() const {
-  const Way way = actions_in(phase_).way_on;
-  if (way == Way::zurueck) return &zurueck;
-  return way == Way::next_task && CmdNextAufg.open() ? &CmdNextAufg : nullptr;
-}
-
-void ExerciseWindow::escape_key() {
-  if (!is_test(level()) || is_over(phase_)) zurueck_click();
+  switch (actions_in(phase_).way_on) {
+    case Way::zurueck:
+      return &zurueck;
+    case Way::next_task:
+      return CmdNextAufg.open() ? &CmdNextAufg : nullptr;
+    default:
+      return nullptr;
+  }
 }
 
 void ExerciseWindow::zurueck_click() {
-  if (phase_ == Phase::leaving) return;
+  if (phase_ != Phase::leaving) run(kLeavingTag, leave());
+}
+
+Sequence ExerciseWindow::leave() {
   const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
   const bool ended = is_over(phase_) || phase_ == Phase::broken;
   std::function<bool()> keep;
@@ -221,9 +236,9 @@ void ExerciseWindow::zurueck_click() {
                                            answers_.counts.wrong, answers_.counts.repeats));
     };
   }
-  stop_all();
   enter(Phase::leaving);
-  run(kLeavingTag, way_out_.leave(keep));
+  stop_all();
+  co_await way_out_.leave(keep);
 }
 
 void ExerciseWindow::stop_all() {
@@ -244,7 +259,8 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
     // sounded, and the next playback opens the device anew.
     context_.errors.log(tag, error);
     player().forget();
-    after_playing();
+    after_playing(false);
+    answers_.pause();
     // The time that goes into reading the message is not the student's.
     return tell(word(text::device_silent), [this] { answers_.open(); });
   }

@@ -26,8 +26,6 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void zurueck_click();
   void cmd_test_ein_click();
   void cmd_test_aus_click();
-  /// Leaves, but for a test in progress: there a slip of the finger must not end it.
-  void escape_key();
 
   Phase phase() const { return phase_; }
   Level level() const { return context_.settings.Uebungsmodus; }
@@ -35,24 +33,27 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   virtual const Control* default_button() const;
 
  protected:
-  int first_asked() const override { return context_.settings.ton_st_wahl; }
+  int first_scored() const override;
   LessonFacts lesson_facts() override;
   void failed(std::string_view tag, std::exception_ptr error) override;
 
   const ExerciseContext& context() const { return context_; }
   TaskAnswers& answers() { return answers_; }
   RowPlayer& player();
-  void enter(Phase phase);
+  /// `keynote`: what sounds in this phase is the keynote and not the row.
+  void enter(Phase phase, bool keynote = false);
   /// After a verdict: counts, and ends the row once all of it is answered.
   void go_on_after_answer();
 
  private:
-  void after_playing();
+  /// The next phase begins; the row was heard unless its device has failed.
+  void after_playing(bool heard);
   void start_timer();
   void prepare_level();
   Sequence mat_wahl();
   void update_counts();
   void finish_row();
+  Sequence leave();
   void Uhrzeit_timer();
   void stop_all();
 

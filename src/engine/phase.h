@@ -46,26 +46,27 @@ struct Actions {
   bool grundton;
   bool next_task;
   Way way_on;
-  bool asks;     ///< the question of the task stands above the row
-  TextKey hint;  ///< what comes, 0 for nothing
+  bool asks;      ///< the question of the task stands above the row
+  TextKey hint;   ///< what comes, 0 for nothing
+  TextKey other;  ///< the same while the keynote sounds, or in the automatic order
 };
 
 // clang-format off
 inline constexpr std::array<Actions, kPhases> kActions{{
     // phase                   answers wieder         wieder2        grundton next  way on          asks   hint
-    {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}},
-    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::row_sounds},
-    {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}},
-    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, text::hear_once_more},
-    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, text::row_sounds},
-    {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, {}},
-    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, text::training_is_finished},
-    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, text::row_sounds},
-    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, text::test_is_finished},
-    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, text::row_sounds},
-    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, text::test_is_finished},
-    {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
-    {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}},
+    {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}, {}},
+    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::row_sounds, text::keynote_sounds},
+    {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}, {}},
+    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, text::hear_once_more, {}},
+    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, text::row_sounds, text::keynote_sounds},
+    {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, {}, text::next_task_follows},
+    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, text::training_is_finished, {}},
+    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, text::row_sounds, text::keynote_sounds},
+    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, text::test_is_finished, {}},
+    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, text::row_sounds, text::keynote_sounds},
+    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, text::test_is_finished, {}},
+    {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}, {}},
+    {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}, {}},
 }};
 // clang-format on
 constexpr const Actions& actions_in(Phase phase) {

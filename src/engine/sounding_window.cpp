@@ -70,7 +70,8 @@ void SoundingWindow::show_counts(const TaskAnswers::Counts& counts) {
 
 const Control* SoundingWindow::default_button() const {
   const Control* button = ExerciseWindow::default_button();
-  return button == nullptr && wieder2.open() ? &wieder2 : button;
+  const Way way = actions_in(phase()).way_on;
+  return button == nullptr && (way == Way::wieder2 || way == Way::next_task) ? &wieder2 : button;
 }
 
 void SoundingWindow::wieder_click() {
@@ -88,8 +89,7 @@ void SoundingWindow::grundton_click() {
 // During a task hearing costs, and the answer clock stands meanwhile.
 Sequence SoundingWindow::hear(SpielArt what) {
   const bool in_task = row_is_asked(phase());
-  enter(sounding_again(phase()));
-  if (what == SpielArt::grundton) hint.text = word(text::keynote_sounds);
+  enter(sounding_again(phase()), what == SpielArt::grundton);
   if (in_task) answers().pause();
   player().silence();
   co_await Delay(kResetPause);

@@ -11,8 +11,9 @@
 
 namespace tonarix {
 
-/// What happens to every answer, however it is given: the clock stops, the book takes the verdict,
-/// the counters count and the protocol tells it.
+/// What happens to an answer: the clock stops, the book takes the verdict, the counters count and
+/// the protocol tells it. Whoever asks one interval after the other uses the operations that do all
+/// of it; a window with a record of its own takes `book`, `clock` and `counts` by themselves.
 class TaskAnswers {
  public:
   struct Counts {
@@ -25,33 +26,34 @@ class TaskAnswers {
   TaskAnswers(const Scheduler& scheduler, Protokoll& protocol)
       : scheduler_(scheduler), protocol_(protocol) {}
 
-  /// A new task, its lesson begun in the protocol.
-  void begin_task(std::span<const std::int16_t> intervals, int first_asked,
-                  AnswerBook::Rules rules);
-  const AnswerBook& book() const { return book_; }
+  void begin_task(std::span<const std::int16_t> intervals, const AnswerBook::Rules& rules);
   /// Index of the interval that is asked. (`iv_nr`)
-  int asked() const { return book_.asked(); }
+  int asked() const { return book.asked(); }
 
-  // The answer clock.
+  // The answer clock. `stop` gives the time in tenths of a second.
+  void restart() { clock_.restart(now()); }
   void open() { clock_.go_on(now()); }   ///< the student can answer from now on
   void pause() { clock_.pause(now()); }  ///< something sounds
-  /// An answer is given: its time in tenths of a second, told with the repeats it took, and in
-  /// forming a tone with the bend steps still missing.
-  float take(std::optional<double> pitch_gap = std::nullopt);
-  /// The next answer of the task, or one more try: its time begins now.
-  void open_next();
+  float stop() { return clock_.stop(now()); }
 
-  // Verdicts on a place; `asked()` for whoever asks one interval after the other.
+  /// An answer is given: its time, told with the repeats it took, and in forming a tone with the
+  /// bend steps still missing.
+  float take(std::optional<double> pitch_gap = std::nullopt);
+  /// The next answer of the task, or one more try: its time begins now. `interval` is what the
+  /// protocol calls the place.
+  void open_next(std::int16_t interval);
+
+  // Verdicts with their words in the protocol.
   void right(int place, float tenths);
   /// `word` is what the protocol calls it: "TrOf".
   void near_miss(int place, std::string_view word);
   /// `value`: the signed interval that was answered, 0 where none is named.
   Verdict wrong(int place, std::int16_t value);
-  void add_lateness(int place, float tenths) { book_.add_lateness(place, tenths); }
 
   void count_repeat();
   void count_keynote();
 
+  AnswerBook book;
   Counts counts;
 
  private:
@@ -59,7 +61,6 @@ class TaskAnswers {
 
   const Scheduler& scheduler_;
   Protokoll& protocol_;
-  AnswerBook book_;
   AnswerClock clock_;
   std::int16_t lfd_ = 1;  ///< answers in the lesson, from 1
 };

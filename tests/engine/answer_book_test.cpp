@@ -4,6 +4,8 @@
 
 #include <functional>
 
+#include "base/runtime_error.h"
+
 namespace tonarix {
 namespace {
 
@@ -11,9 +13,7 @@ constexpr std::array<std::int16_t, 3> kRow{4, -3, 1};
 
 struct AnswerBookTest : testing::Test {
   AnswerBookTest() { begin(); }
-  void begin(int first_asked = 0, AnswerBook::Rules rules = {}) {
-    book.begin_task(kRow, first_asked, rules);
-  }
+  void begin(const AnswerBook::Rules& rules = {}) { book.begin_task(kRow, rules); }
   AnswerBook book;
 };
 
@@ -45,14 +45,15 @@ TEST_F(AnswerBookTest, EveryVerdictMovesTheScoreAndSaysWhetherThePlaceCloses) {
     EXPECT_EQ(book.open(0), one.open);
   }
   EXPECT_EQ(book.place(0).f_antw_wert, (std::array<std::int16_t, 5>{0, 7, 7, 7, 7}));
-  begin(0, {25, false});  // free practice earns nothing
+  begin({.zeit_grenze = 25, .rewarded = false});  // free practice earns nothing
   book.right(0, 60);
   EXPECT_EQ(book.place(0).rf, 0);
   EXPECT_EQ(book.place(0).zeit_gewicht, 0);
 }
 
 TEST_F(AnswerBookTest, AsksThePlacesInAnyOrderAndLeavesOutWhatIsGiven) {
-  begin(1);  // the first interval is shown
+  begin({.first_asked = 1, .first_scored = 1});  // the first interval is shown
+  EXPECT_THROW(book.right(0, 0), RuntimeError);
   EXPECT_EQ(book.asked(), 1);
   book.right(2, 0);  // a row that is written may be right at its end first
   EXPECT_EQ(book.asked(), 1);
@@ -62,6 +63,10 @@ TEST_F(AnswerBookTest, AsksThePlacesInAnyOrderAndLeavesOutWhatIsGiven) {
   ASSERT_EQ(book.answered().size(), 2U);
   EXPECT_EQ(book.answered()[0].interval, -3);
   EXPECT_EQ(book.answered()[1].rf, -4);
+  for (const int closed : {1, 2, 3}) EXPECT_THROW(book.right(closed, 0), RuntimeError);
+  begin({.first_asked = 0, .first_scored = 2});  // answered from its beginning, scored at its end
+  EXPECT_EQ(book.asked(), 0);
+  EXPECT_EQ(book.answered().size(), 1U);
 }
 
 TEST_F(AnswerBookTest, HearingCountsForThePlaceThatIsAskedAndTheFirstKeynoteIsFree) {
@@ -70,9 +75,11 @@ TEST_F(AnswerBookTest, HearingCountsForThePlaceThatIsAskedAndTheFirstKeynoteIsFr
   book.count_repeat();
   book.count_keynote();
   EXPECT_EQ(book.place(0).wdh_gewicht, 2);
-  EXPECT_EQ(book.wdh_gesamt(), 2);
+  EXPECT_EQ(book.heard(0).total(), 2) << "two keynotes are one repeat";
+  book.wrong(1);  // another column of the same row
+  EXPECT_EQ(book.heard(0).keynotes, 2);
   book.wrong(0);
-  EXPECT_EQ(book.wdh_gesamt(), 0) << "the protocol counts anew for each answer";
+  EXPECT_EQ(book.heard(0).total(), 0) << "the protocol counts anew for each answer";
   book.right(0, 0);
   book.count_repeat();
   EXPECT_EQ(book.place(0).wdh_gewicht, 2);
@@ -80,7 +87,7 @@ TEST_F(AnswerBookTest, HearingCountsForThePlaceThatIsAskedAndTheFirstKeynoteIsFr
 }
 
 TEST_F(AnswerBookTest, LatenessOfAFirstClickIsAddedToThatOfTheAnswer) {
-  book.add_lateness(0, 21);
+  book.add_lateness(0, 21, 20);
   book.right(0, 30);
   EXPECT_FLOAT_EQ(book.place(0).zeit_gewicht, 2.5F);
 }
@@ -89,8 +96,11 @@ TEST(AnswerClock, StandsWhileSomethingSounds) {
   AnswerClock clock;
   clock.restart(100);
   clock.pause(101.5);
+  clock.pause(105);
   clock.go_on(110);
+  clock.go_on(110.3);
   EXPECT_EQ(clock.stop(110.6), 21);
+  EXPECT_EQ(clock.stop(200), 21) << "several columns have the same time";
   clock.restart(120);
   EXPECT_EQ(clock.stop(120.44), 4);
 }

@@ -18,7 +18,7 @@ class SilentWindow final : public ExerciseWindow {
       if (right) {
         answers().right(answers().asked(), tenths);
       } else if (answers().wrong(answers().asked(), 0) == Verdict::wrong) {
-        answers().open_next();
+        answers().open_next(0);
       }
       go_on_after_answer();
     });

@@ -20,7 +20,7 @@ float settled(const AnsweredInterval& interval) {
     return std::min(interval.wdh_gewicht + interval.rf + interval.zeit_gewicht, 0.0F);
   }
   if (interval.rf == 0) return 0;
-  return std::min(interval.wdh_gewicht + interval.rf, FrequencyBox::RF);
+  return std::min(interval.wdh_gewicht + interval.rf, kErrorCeiling);
 }
 
 }  // namespace
@@ -125,7 +125,7 @@ BoxOutcome FrequencyBox::BoxAuswerten(std::span<const AnsweredInterval> answered
 }
 
 void FrequencyBox::StatEintrag(StatisticRow row, float rf) {
-  const float value = rf - RF;
+  const float value = rf - kErrorCeiling;
   if (training()) {
     statistics_.Increment(row, 0);
     statistics_.Add(row, value);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/chance.h"
+#include "engine/material/answered_interval.h"
 #include "engine/material/test_list.h"
 #include "music/key.h"
 #include "settings/saved_training.h"
@@ -13,15 +14,6 @@
 #include "statistics/records.h"
 
 namespace tonarix {
-
-/// What the box is told of one interval that was asked.
-struct AnsweredInterval {
-  std::int16_t interval = 0;                  ///< signed interval value
-  float rf = 0;                               ///< error score; below 0 when right at once
-  float zeit_gewicht = 0;                     ///< what lateness takes from the reward
-  std::int16_t wdh_gewicht = 0;               ///< listening repeats
-  std::array<std::int16_t, 5> f_antw_wert{};  ///< slots 1 to 4: wrong answers; 0 ends them
-};
 
 /// Where the training stands after a task.
 struct BoxOutcome {
@@ -36,7 +28,6 @@ struct BoxOutcome {
 /// An exercise window owns one.
 class FrequencyBox {
  public:
-  static constexpr float RF = 8;  ///< ceiling of an error score
   static constexpr int kMaxRows = kStatisticRows - 1;
 
   FrequencyBox(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance);
@@ -74,7 +65,6 @@ class FrequencyBox {
   std::int16_t matbox_vorn = 0;  ///< leading entries that come from rows of positive weight
 
   TestList test;  ///< what a test has left, empty below
-
 
  private:
   bool training() const { return is_training(settings_.Uebungsmodus); }

@@ -15,6 +15,10 @@ constexpr std::int16_t to_even(std::int16_t number) {
 
 }  // namespace
 
+std::int16_t five_eighths(std::int16_t tasks) {
+  return to_int16(static_cast<std::int64_t>(Int(tasks / 8.0 * 5)));
+}
+
 TestList::TestList(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance)
     : settings_(settings), key_(key), statistics_(statistics), chance_(chance) {}
 
@@ -32,7 +36,7 @@ void TestList::build(const TestTiming& timing) {
   aufg_gesamt = to_even(aufg_gesamt);
   aufg_dauer = estimate(timing);
   if (aufg_dauer > kLongTest || one_degree) {
-    aufg_gesamt = to_even(to_int16(static_cast<std::int64_t>(Int(aufg_gesamt / 8.0 * 5))));
+    aufg_gesamt = to_even(timing.shortened(aufg_gesamt));
     aufg_dauer = estimate(timing);
   } else if (aufg_dauer < kShortTest) {
     aufg_gesamt = to_even(round_to_int16(aufg_gesamt / 4.0 * 6));

@@ -11,11 +11,15 @@
 
 namespace tonarix {
 
+/// Five eighths of the tasks, rounded down: what a test that takes too long is cut to.
+std::int16_t five_eighths(std::int16_t tasks);
+
 /// What a test's length is estimated from.
 struct TestTiming {
   std::int16_t spieltimer = 0;   ///< length of a sounding row, milliseconds; 0 where nothing sounds
   std::int16_t WahlAutomat = 0;  ///< pause before the next task, milliseconds
   std::int16_t zeit_grenze = 0;  ///< free time of an answer, tenths of a second
+  std::int16_t (*shortened)(std::int16_t tasks) = five_eighths;
 };
 
 /// The intervals that half a test asks, to be used up, and how many tasks and seconds are left. The

@@ -269,7 +269,8 @@ void ExerciseView::keyPressEvent(QKeyEvent* event) {
   if (event->isAutoRepeat() || !bindings().live()) return;
   const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
   if (plain && event->key() == Qt::Key_Escape) {
-    window_.escape_key();
+    // In a running test a slip of the finger must not end it.
+    if (!is_test(window_.level()) || is_over(window_.phase())) window_.zurueck_click();
     return;
   }
   if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {

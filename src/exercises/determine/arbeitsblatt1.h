@@ -32,6 +32,8 @@ class Arbeitsblatt1 final : public SoundingWindow, public NamingAnswers {
 
  protected:
   void prepare() override;
+  /// A chosen degree is given.
+  int first_asked() const override { return context().settings.ton_st_wahl; }
   void show_task() override { clear_names(); }
   void open_answers(bool open) override { open_names(open); }
   void show_actions(const Actions& actions) override;

@@ -97,7 +97,7 @@ void NamingAnswers::wrong_answer(std::int16_t code) {
   const std::int16_t value = signed_wrong_answer(
       context_.key, settings.abfr_iv, settings.ton_st_wahl, settings.stufe_wahl, code, iv());
   const Verdict verdict = answers_.wrong(place, value);
-  const bool red_on_black = answers_.book().wrong_tries(place) % 2 == 1;
+  const bool red_on_black = answers_.book.wrong_tries(place) % 2 == 1;
   field.fore = red_on_black ? signal::wrong : signal::black;
   field.back = red_on_black ? signal::black : signal::wrong;
   if (verdict == Verdict::given_up) {
@@ -111,15 +111,15 @@ void NamingAnswers::wrong_answer(std::int16_t code) {
   field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong);
   gesperrt_.at(static_cast<std::size_t>(code)) = true;
   open_names(true);
-  answers_.open_next();
+  answers_.open_next(to_int16(answers_.asked()));
 }
 
 void NamingAnswers::next_place() {
   gesperrt_.fill(false);
-  if (answers_.book().done()) return;
+  if (answers_.book.done()) return;
   for (Control& mark : nriv) mark.visible = mark.index() == answers_.asked();
   open_names(true);
-  answers_.open_next();
+  answers_.open_next(to_int16(answers_.asked()));
 }
 
 std::int16_t NamingAnswers::try_code() const {
@@ -134,7 +134,7 @@ std::int16_t NamingAnswers::try_code() const {
 }
 
 std::int16_t NamingAnswers::iv() const {
-  return answers_.book().place(answers_.asked()).interval;
+  return answers_.book.place(answers_.asked()).interval;
 }
 
 std::string NamingAnswers::answer_text(std::int16_t code, std::int16_t asked) const {
