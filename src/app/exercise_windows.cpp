@@ -26,6 +26,10 @@ constexpr std::array kSettingsWindows{
     SettingsFactory{SettingsKind::einstellung1, "einstellung1", text::help_settings, make<Einstellung1>},
 };
 // clang-format on
+// A misspelt name would only ever show as an exercise that is not there yet.
+static_assert(std::ranges::all_of(kExerciseWindows, [](const ExerciseFactory& factory) {
+  return std::ranges::find(kExercises, factory.window, &ExerciseRow::window) != kExercises.end();
+}));
 
 struct Help {
   std::string_view window;

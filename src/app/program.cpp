@@ -41,7 +41,11 @@ std::filesystem::path data_folder(const Options& options) {
 }
 
 LocalHostOptions host_options(const Options& options) {
-  return {data_folder(options), options.user, options.role, options.language, options.midi};
+  return {.folder = data_folder(options),
+          .user = options.user,
+          .role = options.role,
+          .language = options.language,
+          .midi = options.midi};
 }
 
 }  // namespace
@@ -93,23 +97,23 @@ Program::Program(const Options& options)
 Program::~Program() = default;
 
 Outside Program::outside(const Options& options) {
-  return {scheduler_,
-          windows_,
-          language_,
-          clock_,
-          chance_,
-          dialogs_,
-          devices_,
-          documents_,
-          printer_,
-          host_.factory(),
-          {protocol_folder(), data_folder(options)},
-          application_facts(),
-          computer_user(),
-          QGuiApplication::primaryScreen()->size().width(),
-          [this] { return sound_problem(); },
-          [](const std::string& document) { std::clog << document << std::flush; },
-          [] { QCoreApplication::exit(0); }};
+  return {.scheduler = scheduler_,
+          .windows = windows_,
+          .language = language_,
+          .clock = clock_,
+          .chance = chance_,
+          .dialogs = dialogs_,
+          .devices = devices_,
+          .documents = documents_,
+          .printer = printer_,
+          .create_host = host_.factory(),
+          .folders = {.protocols = protocol_folder(), .data = data_folder(options)},
+          .application = application_facts(),
+          .computer_user = computer_user(),
+          .screen_width = QGuiApplication::primaryScreen()->size().width(),
+          .sound_problem = [this] { return sound_problem(); },
+          .put_listing = [](const std::string& text) { std::clog << text << std::flush; },
+          .quit = [] { QCoreApplication::exit(0); }};
 }
 
 void Program::open() {

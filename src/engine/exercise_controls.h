@@ -47,21 +47,27 @@ struct SoundControls {
   explicit SoundControls(Window& window)
       : wieder(window, "wieder"),
         wieder2(window, "wieder2"),
-        grundton(window, "grundton"),
         whlgzaehler(window, "whlgzaehler"),
-        GrdtonWhlg(window, "GrdtonWhlg"),
         repeat_label(window, "repeat_label"),
-        keynote_label(window, "keynote_label"),
         sounding(window, "sounding") {}
 
   Control wieder;       ///< repeat during the task
   Control wieder2;      ///< repeat after its end
-  Control grundton;     ///< keynote check
   Control whlgzaehler;  ///< repeats
-  Control GrdtonWhlg;   ///< keynote checks
   Control repeat_label;
-  Control keynote_label;
   ControlArray<Control, 0, 5> sounding;  ///< the tone that sounds now, by its place in the row
+};
+
+/// The keynote check, where a window has one.
+struct KeynoteControls {
+  explicit KeynoteControls(Window& window)
+      : grundton(window, "grundton"),
+        GrdtonWhlg(window, "GrdtonWhlg"),
+        keynote_label(window, "keynote_label") {}
+
+  Control grundton;
+  Control GrdtonWhlg;  ///< keynote checks
+  Control keynote_label;
 };
 
 /// Answer fields with their numbers, as many as a window's row can have intervals.

@@ -169,7 +169,7 @@ void ExerciseWindow::finish_row() {
   if (is_training(level())) {
     standing_.show_training();
     standing_.show_panel(outcome.ergebnis_anz);
-    if (outcome.zustand == 4) next = Phase::training_finished;
+    if (outcome.finished()) next = Phase::training_finished;
   }
   if (is_test(level())) {
     if (--box_.test.aufg_rest == 0) {

@@ -17,8 +17,11 @@ void show_action(Control& control, Shown shown) {
 
 }  // namespace
 
-SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given)
-    : ExerciseWindow(std::move(name), given), SoundControls(static_cast<Window&>(*this)) {
+SoundingWindow::SoundingWindow(std::string name, const ExerciseContext& given,
+                               KeynoteControls* keynote)
+    : ExerciseWindow(std::move(name), given),
+      SoundControls(static_cast<Window&>(*this)),
+      keynote_(keynote) {
   given.midi_event.QueueEmpty = [this] { MIDI_QueueEmpty(); };
 }
 
@@ -37,9 +40,11 @@ SoundingWindow::~SoundingWindow() {
 void SoundingWindow::prepare() {
   wieder.text = word(629_text);
   wieder2.text = word(632_text);
-  grundton.text = word(300_text);
   repeat_label.text = word(text::repeats);
-  keynote_label.text = word(text::keynote_checks);
+  if (keynote_) {
+    keynote_->grundton.text = word(300_text);
+    keynote_->keynote_label.text = word(text::keynote_checks);
+  }
   show_sounding(-1);
 }
 
@@ -60,12 +65,12 @@ LessonFacts SoundingWindow::lesson_facts() {
 void SoundingWindow::show_actions(const Actions& actions) {
   show_action(wieder, actions.wieder);
   show_action(wieder2, actions.wieder2);
-  grundton.enabled = actions.grundton;
+  if (keynote_) keynote_->grundton.enabled = actions.grundton;
 }
 
 void SoundingWindow::show_counts(const TaskAnswers::Counts& counts) {
   whlgzaehler.text = std::to_string(counts.repeats);
-  GrdtonWhlg.text = std::to_string(counts.keynotes);
+  if (keynote_) keynote_->GrdtonWhlg.text = std::to_string(counts.keynotes);
 }
 
 const Control* SoundingWindow::default_button() const {
@@ -83,7 +88,8 @@ void SoundingWindow::wieder2_click() {
 }
 
 void SoundingWindow::grundton_click() {
-  press(grundton, "grundton_click.", [this] { return hear(SpielArt::grundton); });
+  if (!keynote_) return;
+  press(keynote_->grundton, "grundton_click.", [this] { return hear(SpielArt::grundton); });
 }
 
 // During a task hearing costs, and the answer clock stands meanwhile.

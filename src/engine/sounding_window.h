@@ -16,10 +16,14 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   void wieder2_click();
   void grundton_click();
   void MIDI_QueueEmpty();
+  /// The controls of the keynote check, nullptr in a window without.
+  const KeynoteControls* keynote() const { return keynote_; }
   const Control* default_button() const override;
 
  protected:
-  SoundingWindow(std::string name, const ExerciseContext& context);
+  /// `keynote`: controls of the window's own, where it has a keynote check.
+  SoundingWindow(std::string name, const ExerciseContext& context,
+                 KeynoteControls* keynote = nullptr);
 
   /// The player of rows; a window that sounds otherwise brings its own.
   std::unique_ptr<RowPlayer> make_player() override;
@@ -32,6 +36,8 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
  private:
   Sequence hear(SpielArt what);
   void show_sounding(int place);
+
+  KeynoteControls* keynote_;
 };
 
 }  // namespace tonarix

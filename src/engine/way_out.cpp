@@ -54,11 +54,9 @@ Sequence WayOut::write_protocol() {
     result = context_.protocol.finish_again();
   }
   if (result.fell_back) {
-    const Message told{"Tonarix 2000",
-                       Wort(text::protocol_not_written_to) + " " + result.wanted.string() + ": " +
-                           result.reason + "\n" + Wort(text::protocol_saved_instead) + "\n" +
-                           result.path.string(),
-                       MessageStyle::warning, "", ""};
+    const Message told = warning(Wort(text::protocol_not_written_to) + " " +
+                                 result.wanted.string() + ": " + result.reason + "\n" +
+                                 Wort(text::protocol_saved_instead) + "\n" + result.path.string());
     co_await ask(waits_, context_.common.dialogs, told);
   }
   go_back();

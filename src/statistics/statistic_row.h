@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "music/naming.h"
@@ -17,9 +17,6 @@ constexpr std::size_t place_of(StatisticRow row) {
   return static_cast<std::size_t>(row);
 }
 
-/// A set of statistic rows as factors: 1 for a row that is in it, 0 for the others.
-using StatisticRowSet = std::array<std::int16_t, kStatisticRows>;
-
 /// Number of codes per direction.
 constexpr std::int16_t rows_upward(Naming naming) {
   return naming == Naming::from_keynote ? 11 : 21;
@@ -34,13 +31,6 @@ constexpr std::int16_t BoxIndex(std::int16_t value, Naming naming) {
 constexpr StatisticRow statistic_row(std::int16_t value, Naming naming) {
   const int size = value < 0 ? -value : value;
   return static_cast<StatisticRow>(size + BoxIndex(value, naming));
-}
-
-/// The interval value whose row this is.
-constexpr std::int16_t value_of(StatisticRow row, Naming naming) {
-  const int number = static_cast<int>(row);
-  const int upward = rows_upward(naming);
-  return static_cast<std::int16_t>(number > upward ? upward - number : number);
 }
 
 }  // namespace tonarix

@@ -19,6 +19,7 @@ namespace tonarix {
 struct BoxOutcome {
   std::int16_t zustand;       ///< 1 the exercise goes on, 4 the training is finished
   std::int16_t ergebnis_anz;  ///< panel that shows: 0 status, 1 solved, 2 too hard
+  bool finished() const { return zustand == 4; }
 };
 
 /// Decides how often each interval is asked. In a training (levels 1 and 2) it is a set of weights

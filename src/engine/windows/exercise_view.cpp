@@ -146,7 +146,9 @@ void ExerciseView::build_counters(Card& card) {
                           {window_.zaehler[1], window_.true_false[1]}};
   if (sounding_) {
     lines.push_back({sounding_->whlgzaehler, sounding_->repeat_label});
-    lines.push_back({sounding_->GrdtonWhlg, sounding_->keynote_label});
+    if (const KeynoteControls* keynote = sounding_->keynote()) {
+      lines.push_back({keynote->GrdtonWhlg, keynote->keynote_label});
+    }
   }
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(theme::inside);
@@ -169,7 +171,9 @@ void ExerciseView::build_actions(const Control* frame) {
   auto* line = action_line_ = new ActionLine(this);
   if (frame) bindings().bind(*line, *frame, {});
   if (sounding_) {
-    line->add_left(*action(sounding_->grundton, [this] { sounding_->grundton_click(); }));
+    if (const KeynoteControls* keynote = sounding_->keynote()) {
+      line->add_left(*action(keynote->grundton, [this] { sounding_->grundton_click(); }));
+    }
     auto* repeats = new Place(line);
     repeats->add(*action(sounding_->wieder, [this] { sounding_->wieder_click(); }));
     repeats->add(*action(sounding_->wieder2, [this] { sounding_->wieder2_click(); }));

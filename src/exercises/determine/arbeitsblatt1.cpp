@@ -18,7 +18,8 @@ std::string setting(const std::vector<std::string>& pairs, std::string_view labe
 }  // namespace
 
 Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& given)
-    : SoundingWindow("arbeitsblatt1", given),
+    : SoundingWindow("arbeitsblatt1", given, this),
+      KeynoteControls(static_cast<Window&>(*this)),
       NamingAnswers(static_cast<Window&>(*this), context(), answers()) {}
 
 void Arbeitsblatt1::prepare() {

@@ -8,7 +8,7 @@
 namespace tonarix {
 
 /// Naming the intervals of a row by ear.
-class Arbeitsblatt1 final : public SoundingWindow, public NamingAnswers {
+class Arbeitsblatt1 final : public SoundingWindow, public KeynoteControls, public NamingAnswers {
  public:
   explicit Arbeitsblatt1(const ExerciseContext& context);
 
