@@ -2,6 +2,7 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <memory>
@@ -27,35 +28,26 @@ namespace tonarix {
 /// host.
 class FlowBed {
  public:
-  explicit FlowBed(FakeHost& shared_host, std::uint64_t seed = 1)
-      : host(shared_host), chance(seed) {
-    open();
-  }
-  /// On another host than the fake one.
-  FlowBed(FakeHost& unused, Server::HostFactory create_host, std::uint64_t seed)
-      : host(unused), factory(std::move(create_host)), chance(seed) {
+  explicit FlowBed(FakeHost& host, std::uint64_t seed = 1) : factory(host.factory()), chance(seed) {
     open();
   }
   /// With texts of its own, closed until `open()`.
-  FlowBed(FakeHost& shared_host, LanguageLibraries texts)
-      : host(shared_host), chance(1), language(std::move(texts)) {}
+  FlowBed(FakeHost& host, LanguageLibraries texts)
+      : factory(host.factory()), chance(1), language(std::move(texts)) {}
   void open() {
     module.open();
     scheduler.advance_ms(10);
   }
 
+  /// The newest window, which is of this kind.
   template <typename Kind>
-  Kind& window(const std::string& name) {
-    Window* newest = windows.newest();
-    if (newest == nullptr || newest->name() != name) {
-      throw std::logic_error("The newest window is not " + name);
-    }
-    return dynamic_cast<Kind&>(*newest);
+  Kind& newest() {
+    return dynamic_cast<Kind&>(*windows.at(windows.count() - 1));
   }
-  SelectionWindow& selection() { return window<SelectionWindow>("grd_einst"); }
-  Einstellung1& settings() { return window<Einstellung1>("einstellung1"); }
-  Arbeitsblatt1& exercise() { return window<Arbeitsblatt1>("arbeitsblatt1"); }
-  ResultWindow& result() { return window<ResultWindow>("testergebnis"); }
+  SelectionWindow& selection() { return newest<SelectionWindow>(); }
+  Einstellung1& settings() { return newest<Einstellung1>(); }
+  Arbeitsblatt1& exercise() { return newest<Arbeitsblatt1>(); }
+  ResultWindow& result() { return newest<ResultWindow>(); }
 
   Einstellung1& open_settings() {
     selection().cmdOk_click();
@@ -69,12 +61,11 @@ class FlowBed {
     return exercise();
   }
 
-  /// The quickest way to the first row of a level and its exam, heard to its end.
-  Arbeitsblatt1& begin(int level = 0, int prfnr = 1) {
+  /// The quickest way to the first row of a level, heard to its end.
+  Arbeitsblatt1& begin(int level = 0) {
     Einstellung1& window = open_settings();
     window.choose(window.temp_Combo, 9);
-    if (level > 0) window.choose(window.training_Combo, level);
-    if (level == 4) window.choose(window.prfnr_Comb, prfnr - 1);
+    window.choose(window.training_Combo, level);
     Arbeitsblatt1& exercise = open_exercise();
     hear_row();
     return exercise;
@@ -92,30 +83,21 @@ class FlowBed {
     return static_cast<std::int16_t>(std::abs(module.row().iv[static_cast<std::size_t>(iv_nr)]));
   }
   /// An offered code that is wrong and still open.
-  std::int16_t wrong_code(Arbeitsblatt1& window, int iv_nr) const {
-    for (int code = 1; code <= 21; ++code) {
-      const Control* button = window.find(
-          (module.settings().abfr_iv == Naming::from_keynote ? "st_int_" : "intervall_") +
-          std::to_string(code));
-      if (button != nullptr && button->open() && code != right_code(iv_nr)) {
-        return static_cast<std::int16_t>(code);
-      }
+  std::int16_t wrong_code(const Arbeitsblatt1& window, int iv_nr) const {
+    const std::string panel = window.by_degree() ? "st_int_" : "intervall_";
+    for (std::int16_t code = 1; code <= 21; ++code) {
+      const Control* button = window.find(panel + std::to_string(code));
+      if (button && button->open() && code != right_code(iv_nr)) return code;
     }
     return 0;
   }
-  void press(Arbeitsblatt1& window, std::int16_t code) {
-    if (module.settings().abfr_iv == Naming::from_keynote) {
-      window.st_int_click(code);
-    } else {
-      window.intervall_click(code);
-    }
+  static void press(Arbeitsblatt1& window, std::int16_t code) {
+    window.by_degree() ? window.st_int_click(code) : window.intervall_click(code);
   }
   /// Index of the interval being asked, -1 when none is.
   static int asked(const Arbeitsblatt1& window) {
-    for (int i = 0; i <= 4; ++i) {
-      if (window.nriv[i].visible) return i;
-    }
-    return -1;
+    const auto number = std::ranges::find_if(window.nriv, &Control::visible);
+    return number == window.nriv.end() ? -1 : *number->index();
   }
 
   /// Answers the whole row rightly, each interval after `seconds`, wrong first with the chance
@@ -132,20 +114,19 @@ class FlowBed {
   void next_task(Arbeitsblatt1& window) {
     window.wieder2_click();
     hear_row();
-    if (module.settings().abfrage == 1) {
-      scheduler.advance_ms(1800);
-    } else {
-      window.CmdNextAufg_click();
-    }
+    window.CmdNextAufg_click();
+    if (module.settings().abfrage == 1) scheduler.advance_ms(1800);
     hear_row();
   }
-  /// Leaves by `zurueck`, past the result sheet after a while, and reads the document that was
-  /// written.
-  pugi::xml_node leave(Arbeitsblatt1& window, double sheet_ms = 400) {
+  /// Leaves by `zurueck`, past the result sheet after a while; what was written.
+  pugi::xml_node leave(Arbeitsblatt1& window) {
     window.zurueck_click();
-    scheduler.advance_ms(sheet_ms);
+    scheduler.advance_ms(400);
     result().cmdOk_click();
     scheduler.advance_ms(450);
+    return written();
+  }
+  pugi::xml_node written() {
     document.load_string(documents.written.back().content.c_str());
     return document.child("exercise");
   }
@@ -167,8 +148,7 @@ class FlowBed {
   }
   int playbacks() const { return devices.queues_started; }
 
-  FakeHost& host;
-  Server::HostFactory factory = host.factory();
+  Server::HostFactory factory;
   VirtualScheduler scheduler;
   StandingClock clock;
   SeededChance chance;

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <numeric>
+#include <ranges>
 
+#include "base/arithmetic.h"
 #include "flow/flow_bed.h"
 
 namespace tonarix {
@@ -25,89 +29,91 @@ float earned(const Handling& how, int free_tenths) {
 }
 
 TEST(ScoreFlow, WhatAnIntervalEarns) {
-  const auto [by_degree, direct] = std::pair{20, 25};
-  EXPECT_EQ(earned({0, 0, 2, 20}, by_degree), -4);
-  EXPECT_EQ(earned({0, 0, 0, 21}, by_degree), -3);
-  EXPECT_EQ(earned({0, 0, 0, 30}, by_degree), -2.5);
-  EXPECT_EQ(earned({0, 0, 0, 60}, by_degree), -1);
-  EXPECT_EQ(earned({0, 1, 0, 20}, by_degree), -3);
-  EXPECT_EQ(earned({0, 1, 2, 20}, by_degree), -2);
-  EXPECT_EQ(earned({0, 3, 1, 20}, by_degree), 0);
-  EXPECT_EQ(earned({0, 5, 0, 60}, by_degree), 0);
-  EXPECT_EQ(earned({0, 0, 0, 25}, direct), -4);
-  EXPECT_EQ(earned({0, 0, 0, 26}, direct), -3);
-  EXPECT_FLOAT_EQ(earned({0, 0, 0, 30}, direct), -2.8F);
-  EXPECT_FLOAT_EQ(earned({0, 0, 0, 60}, direct), -1.3F);
-  EXPECT_EQ(earned({1, 0, 0, 60}, direct), 2);
-  EXPECT_EQ(earned({2, 1, 1, 20}, direct), 6);
-  EXPECT_EQ(earned({2, 5, 0, 20}, direct), 8);
-  EXPECT_EQ(earned({4, 0, 0, 20}, direct), 8);
+  struct Case {
+    int free_tenths;
+    Handling how;
+    float earned;
+  };
+  for (const Case& one :
+       {Case{20, {0, 0, 2, 20}, -4}, Case{20, {0, 0, 0, 21}, -3}, Case{20, {0, 0, 0, 30}, -2.5F},
+        Case{20, {0, 1, 2, 20}, -2}, Case{20, {0, 3, 1, 20}, 0}, Case{25, {0, 0, 0, 26}, -3},
+        Case{25, {0, 0, 0, 30}, -2.8F}, Case{25, {2, 1, 1, 20}, 6}, Case{25, {4, 0, 0, 20}, 8}}) {
+    EXPECT_FLOAT_EQ(earned(one.how, one.free_tenths), one.earned);
+  }
 }
 
-/// One press of an answer button as the document tells of it.
-struct Answer {
-  int tenths;
-  double repeats;
-  int wrong_code;  ///< 0 for the right one
-};
+/// One press of an answer button: tenths of a second, repeats, the code of a wrong one or 0.
+using Press = std::array<double, 3>;
 struct Answered {
   int interval;  ///< signed code
   Handling how;
-  std::vector<Answer> answers;
+  std::vector<int> mistakes;  ///< codes
 };
 
-/// Waits until the answers open, to the millisecond.
-void hear(FlowBed& bed, Arbeitsblatt1& window, int beats) {
-  bed.scheduler.advance_ms(bed.beat() * beats + 140);
-  for (int ms = 0; ms < 1000 && !window.wieder.open(); ++ms) bed.scheduler.advance_ms(1);
-}
-
-/// Thinks, listens, thinks on and answers, until the interval is right or given. Listening takes no
-/// time from the answer and no answers, a wrong answer starts the time anew.
-Answered answer(FlowBed& bed, Arbeitsblatt1& window, const Handling& how) {
-  const int place = FlowBed::asked(window);
-  Answered done{bed.module.row().iv.at(static_cast<std::size_t>(place)), how, {}};
-  const int last = std::min(how.wrong, 3);
-  for (int attempt = 0; attempt <= last; ++attempt) {
-    const int repeats = attempt == 0 ? how.repeats : 0;
-    const int checks = attempt == last ? how.checks : 0;
-    const int tenths = attempt == 0 ? how.tenths : 7 + attempt;
-    bed.scheduler.advance_ms(tenths * 40);
-    for (int i = 0; i < repeats + checks; ++i) {
-      i < repeats ? window.wieder_click() : window.grundton_click();
-      bed.press(window, bed.right_code(place));
-      EXPECT_FALSE(window.grundton.open());
-      hear(bed, window, i < repeats ? bed.tones() : 1);
+/// A student who remembers what must be told and booked.
+struct ScoreBed : FlowBed {
+  ScoreBed(FakeHost& host, int seed, int abfr_iv)
+      : FlowBed(host, static_cast<std::uint64_t>(seed)) {
+    open_settings().click(settings().abfr_iv[abfr_iv]);
+    settings().choose(settings().temp_Combo, 9);
+  }
+  Arbeitsblatt1& start(int level) {
+    settings().choose(settings().training_Combo, level);
+    return *(window = &open_exercise());
+  }
+  void wait_until(const std::function<bool()>& done) {
+    for (int ms = 0; ms < 3000 && !done(); ++ms) scheduler.advance_ms(1);
+  }
+  /// Waits until the answers open, to the millisecond.
+  void hear(int beats) {
+    scheduler.advance_ms(beat() * beats + 140);
+    wait_until([&] { return window->wieder.open(); });
+  }
+  /// Answers the next row; from an answered one the keynote chord leads there.
+  void answer_task(const std::function<Handling()>& next) {
+    if (!all.empty()) window->grundton_click();
+    wait_until([&] {
+      window->CmdNextAufg_click();
+      return asked(*window) >= 0;
+    });
+    hear(tones());
+    while (asked(*window) >= 0) answer(next());
+  }
+  /// Thinks, listens, thinks on and answers, until the interval is right or given. Listening takes
+  /// no time from the answer and no answers, a wrong answer starts the time anew.
+  void answer(const Handling& how) {
+    const int place = asked(*window);
+    Answered& done = all.emplace_back(module.row().iv.at(static_cast<std::size_t>(place)), how);
+    const int last = std::min(how.wrong, 3);
+    for (int attempt = 0; attempt <= last; ++attempt) {
+      const int repeats = attempt == 0 ? how.repeats : 0;
+      const int checks = attempt == last ? how.checks : 0;
+      const int tenths = attempt == 0 ? how.tenths : 7 + attempt;
+      scheduler.advance_ms(tenths * 40);
+      for (int i = 0; i < repeats + checks; ++i) {
+        i < repeats ? window->wieder_click() : window->grundton_click();
+        press(*window, right_code(place));
+        EXPECT_FALSE(window->grundton.open());
+        hear(i < repeats ? tones() : 1);
+      }
+      scheduler.advance_ms(tenths * 60);
+      const int wrong = attempt < how.wrong ? wrong_code(*window, place) : 0;
+      press(*window, wrong != 0 ? to_int16(wrong) : right_code(place));
+      presses.push_back({tenths * 1.0, repeats + checks / 2.0, wrong * 1.0});
+      if (wrong != 0) done.mistakes.push_back(wrong);
     }
-    bed.scheduler.advance_ms(tenths * 60);
-    const bool wrong = attempt < how.wrong;
-    const std::int16_t code = wrong ? bed.wrong_code(window, place) : bed.right_code(place);
-    bed.press(window, code);
-    done.answers.push_back({tenths, repeats + checks / 2.0, wrong ? code : 0});
+    EXPECT_NE(asked(*window), place);
   }
-  EXPECT_NE(FlowBed::asked(window), place);
-  return done;
-}
+  std::string sum(int Handling::*part) const {
+    int total = 0;
+    for (const Answered& one : all) total += one.how.*part;
+    return std::to_string(total);
+  }
 
-Arbeitsblatt1& open_level(FlowBed& bed, int level) {
-  bed.settings().choose(bed.settings().temp_Combo, 9);
-  bed.settings().choose(bed.settings().training_Combo, level);
-  return bed.open_exercise();
-}
-/// Answers the row that is about to sound.
-void answer_task(FlowBed& bed, Arbeitsblatt1& window, std::vector<Answered>& all,
-                 const std::function<Handling()>& next) {
-  hear(bed, window, bed.tones());
-  while (FlowBed::asked(window) >= 0) all.push_back(answer(bed, window, next()));
-}
-/// From an answered row to the next one, by the keynote chord.
-void go_on(FlowBed& bed, Arbeitsblatt1& window) {
-  window.grundton_click();
-  for (int ms = 0; ms < 3000 && FlowBed::asked(window) < 0; ++ms) {
-    bed.scheduler.advance_ms(1);
-    window.CmdNextAufg_click();
-  }
-}
+  Arbeitsblatt1* window = nullptr;
+  std::vector<Answered> all;
+  std::vector<Press> presses;
+};
 
 /// The books of one interval in one direction.
 struct Account {
@@ -126,9 +132,8 @@ std::map<int, Account> books(const std::vector<Answered>& all, int abfr_iv,
     Account& asked = accounts[one.interval];
     asked.weight = static_cast<int>(static_cast<float>(asked.weight) + amount);
     asked.results.push_back((amount < 0 ? 2 * amount : amount) - 8);
-    for (const Answer& given : one.answers) {
-      if (given.wrong_code == 0) continue;
-      int value = one.interval > 0 ? given.wrong_code : -given.wrong_code;
+    for (const int code : one.mistakes) {
+      int value = one.interval > 0 ? code : -code;
       if (!known.empty() && known.count(value) == 0) value = -value;
       ++accounts[value].weight;
       ++accounts[value].confused;
@@ -145,16 +150,15 @@ void expect_saved(const std::vector<Answered>& all, const Variant::Array& record
   const auto rows = static_cast<std::size_t>(box_zeilen);
   std::map<int, Account> offered;
   for (std::size_t i = 1; i <= rows; ++i) offered[static_cast<int>(number(i))];
-  const std::map<int, Account> expected = books(all, abfr_iv, offered);
-  ASSERT_EQ(expected.size(), rows) << "an interval outside the box";
+  std::map<int, Account> accounts = books(all, abfr_iv, offered);
+  ASSERT_EQ(accounts.size(), rows) << "an interval outside the box";
   int sum = 0;
   for (std::size_t i = 1; i <= rows; ++i) {
     const int value = static_cast<int>(number(i));
     SCOPED_TRACE(value);
-    const Account& account = expected.at(value);
+    const Account& account = accounts[value];
     const std::size_t statistics = 1 + 2 * rows + 4 * (i - 1);
-    float results = 0;
-    for (const float result : account.results) results += result;
+    const float results = std::accumulate(account.results.begin(), account.results.end(), 0.0F);
     EXPECT_EQ(number(i + rows), account.weight);
     EXPECT_EQ(number(statistics), std::abs(value) + (value > 0 ? 0 : abfr_iv == 0 ? 11 : 21));
     EXPECT_EQ(number(statistics + 1), account.results.size());
@@ -165,22 +169,14 @@ void expect_saved(const std::vector<Answered>& all, const Variant::Array& record
   EXPECT_EQ(shown, std::to_string(100 * sum / (8 * box_zeilen)));
 }
 
-void expect_told(const std::vector<Answered>& all,
-                 const std::vector<std::vector<FlowBed::Facts>>& lessons) {
-  std::vector<FlowBed::Facts> told;
-  for (const auto& lesson : lessons) told.insert(told.end(), lesson.begin(), lesson.end());
-  std::size_t place = 0;
-  for (const Answered& one : all) {
-    for (const Answer& given : one.answers) {
-      const FlowBed::Facts& facts = told.at(place++);
-      EXPECT_EQ(std::stod(facts.at("AntwDau")), given.tenths);
-      EXPECT_EQ(std::stod(facts.at("Anz Whlg")), given.repeats);
-      EXPECT_EQ(facts.at("Antwort"), given.wrong_code == 0 ? "true" : "false");
-      if (given.wrong_code == 0) continue;
-      EXPECT_EQ(std::abs(std::stoi(facts.at("FalschIv"))), given.wrong_code);
-    }
+std::vector<Press> told(const std::vector<std::vector<FlowBed::Facts>>& lessons) {
+  std::vector<Press> presses;
+  for (const FlowBed::Facts& facts : std::views::join(lessons)) {
+    const double wrong =
+        facts.at("Antwort") == "true" ? 0 : std::abs(std::stod(facts.at("FalschIv")));
+    presses.push_back({std::stod(facts.at("AntwDau")), std::stod(facts.at("Anz Whlg")), wrong});
   }
-  EXPECT_EQ(place, told.size());
+  return presses;
 }
 
 // All ways to deal with an interval, four of them in each window, by both namings, with all degrees
@@ -198,39 +194,28 @@ TEST(ScoreFlow, ATrainingBooksEveryWayToAnswer) {
   for (int window_nr = 0; n < 5 * kWays / 2; ++window_nr) {
     SCOPED_TRACE(window_nr);
     FakeHost host;
-    FlowBed bed(host, static_cast<std::uint64_t>(window_nr));
     const bool one_degree = n >= 2 * kWays;
     const int abfr_iv = (one_degree ? window_nr : n / kWays) % 2;
-    Einstellung1& settings = bed.open_settings();
-    settings.click(settings.abfr_iv[abfr_iv]);
+    ScoreBed bed(host, window_nr, abfr_iv);
+    Einstellung1& settings = bed.settings();
     if (one_degree) {
       settings.click(settings.ton_st_wahl[1]);
       settings.choose(settings.degree_list, window_nr % 7);
     } else {
       settings.click(settings.invzahl[window_nr % 2 == 0 ? 1 : 3]);
     }
-    Arbeitsblatt1& window = open_level(bed, 1);
-    std::vector<Answered> all;
-    while (all.size() < 4) {
-      if (!all.empty()) go_on(bed, window);
-      answer_task(bed, window, all, next);
-    }
+    Arbeitsblatt1& window = bed.start(1);
+    while (bed.all.size() < 4) bed.answer_task(next);
     const std::string shown = window.matboxanz[15].text;
-    Handling sum{};
-    for (const auto& [interval, how, answers] : all) {
-      sum.wrong += how.wrong;
-      sum.repeats += how.repeats;
-      sum.checks += how.checks;
-    }
-    EXPECT_EQ(window.zaehler[1].text, std::to_string(sum.wrong));
-    EXPECT_EQ(window.whlgzaehler.text, std::to_string(sum.repeats));
-    EXPECT_EQ(window.GrdtonWhlg.text, std::to_string(sum.checks));
+    EXPECT_EQ(window.zaehler[1].text, bed.sum(&Handling::wrong));
+    EXPECT_EQ(window.whlgzaehler.text, bed.sum(&Handling::repeats));
+    EXPECT_EQ(window.GrdtonWhlg.text, bed.sum(&Handling::checks));
     bed.dialogs.script = {Reply::yes};
-    expect_told(all, FlowBed::lessons(bed.leave(window)));
+    EXPECT_EQ(told(FlowBed::lessons(bed.leave(window))), bed.presses);
     const Variant::Array record = host.records["vemo06/A1"].array();
-    expect_saved(all, record, abfr_iv, abfr_iv == 1 && !one_degree ? 26 : 14, shown);
-    EXPECT_EQ(record.at(record.size() - 2).text(), std::to_string(sum.wrong));
-    EXPECT_EQ(record.back().text(), std::to_string(sum.repeats));
+    expect_saved(bed.all, record, abfr_iv, abfr_iv == 1 && !one_degree ? 26 : 14, shown);
+    EXPECT_EQ(record.at(record.size() - 2).text(), bed.sum(&Handling::wrong));
+    EXPECT_EQ(record.back().text(), bed.sum(&Handling::repeats));
     if (testing::Test::HasFailure()) break;
   }
 }
@@ -249,27 +234,23 @@ TEST(ScoreFlow, ATestKeepsTheTwoBestResultsOfEachInterval) {
   constexpr Handling kWays[] = {{0, 0, 0, 20}, {0, 0, 0, 34}, {1, 0, 0, 20}, {0, 0, 0, 25},
                                 {0, 1, 0, 48}, {2, 1, 0, 20}, {0, 0, 1, 20}, {4, 0, 0, 20}};
   FakeHost host;
-  FlowBed bed(host, 5);
-  bed.open_settings().click(bed.settings().abfr_iv[1]);
-  Arbeitsblatt1& window = open_level(bed, 3);
-  std::vector<Answered> all;
+  ScoreBed bed(host, 5, 1);
+  Arbeitsblatt1& window = bed.start(3);
   std::size_t n = 0;
   for (int task = 0; task < 15; ++task) {
-    if (task > 0) go_on(bed, window);
-    answer_task(bed, window, all, [&] { return kWays[n++ % std::size(kWays)]; });
+    bed.answer_task([&] { return kWays[n++ % std::size(kWays)]; });
   }
   std::map<std::string, int> code_of;
   for (const Control& button : window.intervall) code_of[button.text] = *button.index();
   window.zurueck_click();
   bed.scheduler.advance_ms(400);
-  std::map<int, Account> accounts = books(all, 1);
+  std::map<int, Account> accounts = books(bed.all, 1);
   for (const ResultRow& row : bed.result().content().table.rows) {
-    SCOPED_TRACE(row.label);
     const int code = code_of.at(row.label);
     const Account& account = accounts[row.column == 0 ? code : -code];
     ASSERT_EQ(row.field.text.empty(), account.results.empty());
     if (account.results.empty()) continue;
-    EXPECT_NEAR(std::stod(row.field.text), percent(account), 0.0501);
+    EXPECT_NEAR(std::stod(row.field.text), percent(account), 0.0501) << row.label;
   }
   EXPECT_TRUE(host.records.empty());
 }

@@ -25,6 +25,13 @@ struct Sounded {
   int bend = -1;  ///< -1 when the channel was never bent
 };
 
+void expect_sounded(const Sounded& note, const Sounded& expected) {
+  EXPECT_NEAR(note.at_ms, expected.at_ms, 0.5);
+  EXPECT_NEAR(note.length_ms, expected.length_ms, 1);
+  EXPECT_EQ((std::array{note.channel, note.note, note.velocity, note.bend}),
+            (std::array{expected.channel, expected.note, expected.velocity, expected.bend}));
+}
+
 /// What sounded since the entry `from` of the wire, after the programs of eight channels.
 std::vector<Sounded> sounded(const FlowBed& bed, std::size_t from) {
   std::vector<Sounded> notes;
@@ -32,26 +39,21 @@ std::vector<Sounded> sounded(const FlowBed& bed, std::size_t from) {
   std::array<std::int16_t, 8> programs{};
   for (; from < bed.devices.log.size(); ++from) {
     const auto& [at_ms, message] = bed.devices.log[from];
-    const int channel = message.status & 0x0F;
-    switch (message.status & 0xF0) {
-      case 0xC0:
-        EXPECT_TRUE(notes.empty() && bends.empty());
-        programs.at(static_cast<std::size_t>(channel)) = message.data1;
-        break;
-      case 0xE0:
-        EXPECT_TRUE(notes.empty() && bends.count(channel) == 0);
-        EXPECT_EQ(message.data1, 0);
-        bends[channel] = message.data2;
-        break;
-      case 0x90:
-        notes.push_back({at_ms, 0, channel, message.data1, message.data2,
-                         bends.count(channel) == 0 ? -1 : bends[channel]});
-        break;
-      default:
-        const auto on = std::find_if(notes.begin(), notes.end(), [&, &message = message](auto& n) {
-          return n.channel == channel && n.note == message.data1 && n.length_ms == 0;
-        });
-        if (on != notes.end()) on->length_ms = at_ms - on->at_ms;
+    const int channel = message.status & 0x0F, kind = message.status & 0xF0, data1 = message.data1;
+    if (kind == 0xC0) {
+      EXPECT_TRUE(notes.empty() && bends.empty());
+      programs.at(static_cast<std::size_t>(channel)) = message.data1;
+    } else if (kind == 0xE0) {
+      EXPECT_TRUE(notes.empty() && bends.count(channel) == 0 && data1 == 0);
+      bends[channel] = message.data2;
+    } else if (kind == 0x90) {
+      const int bend = bends.count(channel) == 0 ? -1 : bends[channel];
+      notes.push_back({at_ms, 0, channel, data1, message.data2, bend});
+    } else {
+      for (Sounded& on : notes) {
+        const bool ends = on.channel == channel && on.note == data1 && on.length_ms == 0;
+        if (ends) on.length_ms = at_ms - on.at_ms;
+      }
     }
   }
   EXPECT_EQ(programs, bed.module.settings().patch_ar);
@@ -91,23 +93,17 @@ TEST(SoundFlow, RowsAndChordsGoOverTheWireAsTuned) {
       EXPECT_LE(std::abs(detuning), frequenz == 1 ? 16 : 0);
       detunings[detuning] += frequenz;
       if (grd_ton == 0) {
-        EXPECT_EQ(along->at_ms, row[0].at_ms);
-        EXPECT_NEAR(along->length_ms, 5.9 * bed.beat(), 1);
-        EXPECT_EQ(along->velocity, std::max(volume - 50, 30));
-        EXPECT_EQ(along->note, 36 + tones[0].chr % 12);
-        EXPECT_EQ(along->bend, bent ? detuning + offset : -1);
+        expect_sounded(*along,
+                       {row[0].at_ms, 5.9 * bed.beat(), kKeynoteChannel, 36 + tones[0].chr % 12,
+                        std::max(volume - 50, 30), bent ? detuning + offset : -1});
         row.erase(along);
       }
       for (int i = 0; i < 6; ++i) {
         const auto& tone = tones[static_cast<std::size_t>(i)];
-        const Sounded& note = row[static_cast<std::size_t>(i)];
-        EXPECT_EQ(note.note, tone.chr);
-        EXPECT_EQ(note.channel, bent ? i + 2 : 0);
-        EXPECT_NEAR(note.at_ms - row[0].at_ms, i * bed.beat(), 0.5);
-        EXPECT_NEAR(note.length_ms, 0.9 * bed.beat(), 1);
-        EXPECT_EQ(note.velocity, volume);
         const int own = deviation(stimm_g, tone.chr, tone.qz - tones[0].qz);
-        EXPECT_EQ(note.bend, bent ? 64 + detuning + own : -1);
+        expect_sounded(row[static_cast<std::size_t>(i)],
+                       {row[0].at_ms + i * bed.beat(), 0.9 * bed.beat(), bent ? i + 2 : 0, tone.chr,
+                        volume, bent ? 64 + detuning + own : -1});
       }
 
       bed.answer_row(window);
@@ -124,13 +120,11 @@ TEST(SoundFlow, RowsAndChordsGoOverTheWireAsTuned) {
       EXPECT_EQ(root % 12, tones[0].chr % 12);
       EXPECT_NEAR(root, 48.5, 5.5) << "the lowest keynote of the range";
       for (int i = 0; i < 4; ++i) {
-        const Sounded& note = chord[static_cast<std::size_t>(i)];
-        EXPECT_EQ(note.note, root + semitones[i]);
-        EXPECT_EQ(note.channel, bent ? i + 2 : 0);
-        EXPECT_EQ(note.at_ms, chord[0].at_ms);
-        EXPECT_NEAR(note.length_ms, 0.9 * bed.beat(), 1);
-        EXPECT_EQ(note.velocity, volume);
-        EXPECT_EQ(note.bend, bent ? 64 + detuning + deviation(stimm_g, note.note, fifths[i]) : -1);
+        const int note = root + semitones[i];
+        const int own = deviation(stimm_g, note, fifths[i]);
+        expect_sounded(chord[static_cast<std::size_t>(i)],
+                       {chord[0].at_ms, 0.9 * bed.beat(), bent ? i + 2 : 0, note, volume,
+                        bent ? 64 + detuning + own : -1});
       }
     }
   }
