@@ -7,11 +7,8 @@
 #include "base/windows/theme.h"
 #include "figure.h"
 #include "host/local/catalogue_folder.h"
+#include "results/result_bed.h"
 #include "results/windows/result_view.h"
-#include "support/fake_dialogs.h"
-#include "support/fake_host.h"
-#include "support/recording_printer.h"
-#include "support/virtual_scheduler.h"
 
 // Milliseconds from the start of the result sheet to its last painted pixel, with every row of both
 // columns and seventeen settings: the slowest of twenty sheets, the first one of the process among
@@ -20,10 +17,6 @@
 namespace {
 
 using namespace tonarix;
-
-struct StandingClock final : WallClock {
-  CivilTime now() const override { return {2026, 11, 21, 14, 40, 0}; }
-};
 
 /// Notes when the sheet and its chart were painted.
 struct PaintWatch final : QObject {
@@ -38,40 +31,16 @@ struct PaintWatch final : QObject {
 class Bed {
  public:
   Bed() {
-    language_.SprachInit();
-    language_.SprachWahl("Deutsch");
-    names_ = std::make_unique<IntervalNames>(language_);
-    host_.answers["LOGIN"] = Variant::Array{"Lovelace", "Ada", "4711"};
-    server_.ServerInit("vemo06");
-    settings_.Uebungsmodus = Level::training;
-    settings_.abfr_iv = Naming::from_tone_before;
-    settings_.EinstDatSave = {"34"};
-    for (std::size_t pair = 0; pair < ResultWindow::kSettingRows; ++pair) {
-      settings_.EinstDatSave.insert(settings_.EinstDatSave.end(),
-                                    {"Iv-Bestimmung", "gemischt (0 - 2 Okt)"});
-    }
-    statistics_.init_arr(3, 42);
-    for (std::int16_t row = 1; row <= 42; ++row) {
-      statistics_.Increment(StatisticRow(row), 3);
-      statistics_.Save(StatisticRow(row), 0, 4);
-      statistics_.Save(StatisticRow(row), 1, -1.5F * static_cast<float>(row));
-    }
-    presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
+    Language german(catalogue_folder(CATALOGUES));
+    german.SprachInit();
+    german.SprachWahl("Deutsch");
+    for (int key = 1; key < 3000; ++key) bed_.texts.given[key] = german.Wort({key});
+    bed_.fill();
+    presenter_.add<ResultWindow, ResultView>("testergebnis", bed_.texts);
   }
 
   double sheet_ms() {
-    ResultWindow& window = windows_.open(std::make_unique<ResultWindow>(
-        ResultContext{.common = {scheduler_, windows_, language_, dialogs_},
-                      .server = server_,
-                      .errors = errors_,
-                      .clock = clock_,
-                      .settings = settings_,
-                      .statistics = statistics_,
-                      .interval_names = *names_,
-                      .printer = printer_,
-                      .computer_user = "praxis-3",
-                      .show_help = {}},
-        [] {}));
+    ResultWindow& window = bed_.open();
     QApplication::processEvents();  // the window stands, still empty
     WindowView& view = *presenter_.view_of(window);
     PaintWatch watch;
@@ -80,30 +49,19 @@ class Bed {
     }
     using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();
-    scheduler_.advance_ms(100);
+    bed_.scheduler.advance_ms(100);
     while (!watch.both()) QApplication::processEvents();
     QApplication::processEvents();  // what a new size of the window asks for
     const std::chrono::duration<double, std::milli> passed = Clock::now() - start;
     window.cmdOk_click();
-    scheduler_.settle();
+    bed_.scheduler.settle();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return passed.count();
   }
 
  private:
-  VirtualScheduler scheduler_;
-  WindowList windows_{scheduler_};
-  Language language_{catalogue_folder(CATALOGUES)};
-  FakeHost host_;
-  Server server_{host_.factory(), {"vemo06", "bench"}};
-  RecordingDialogs dialogs_{scheduler_};
-  ErrorReport errors_{server_, language_, dialogs_};
-  StandingClock clock_;
-  Settings settings_;
-  Auswertung statistics_;
-  std::unique_ptr<IntervalNames> names_;
-  RecordingPrinter printer_;
-  Presenter presenter_{windows_};
+  ResultBed bed_;
+  Presenter presenter_{bed_.windows};
 };
 
 }  // namespace

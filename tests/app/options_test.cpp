@@ -16,10 +16,6 @@ TEST(Options, AreReadInEitherForm) {
   EXPECT_EQ(options.language, "English");
   EXPECT_EQ(options.midi, 0);
   EXPECT_EQ(options.parameters, (std::vector<std::string>{"a", "", "b"}));
-}
-
-TEST(Options, AnEmptyHostListIsAccepted) {
-  Options options;
   EXPECT_FALSE(parse_options({"/P="}, options));
   EXPECT_TRUE(options.parameters.empty());
 }

@@ -7,19 +7,16 @@
 namespace tonarix {
 namespace {
 
-TEST(Arithmetic, FourRoundingsDiffer) {
+TEST(Arithmetic, TheRoundingsDiffer) {
   struct Row {
     double value, down, half_even;
-    int truncated;
   };
-  const Row rows[] = {{2.5, 2, 2, 2},     {3.5, 3, 4, 3},      {-2.5, -3, -2, -2},
-                      {-3.5, -4, -4, -3}, {0.5, 0, 0, 0},      {-0.5, -1, 0, 0},
-                      {2.51, 2, 3, 2},    {-2.51, -3, -3, -2}, {1.49, 1, 1, 1}};
+  const Row rows[] = {{2.5, 2, 2},   {3.5, 3, 4},  {-2.5, -3, -2},  {-3.5, -4, -4}, {0.5, 0, 0},
+                      {-0.5, -1, 0}, {2.51, 2, 3}, {-2.51, -3, -3}, {1.49, 1, 1}};
   for (const Row& row : rows) {
     EXPECT_EQ(Int(row.value), row.down) << row.value;
     EXPECT_EQ(Round(row.value), row.half_even) << row.value;
     EXPECT_EQ(round_to_int16(row.value), row.half_even) << row.value;
-    EXPECT_EQ(static_cast<int>(row.value), row.truncated) << row.value;
   }
 }
 

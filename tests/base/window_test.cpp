@@ -12,23 +12,17 @@ class StoryWindow final : public Window {
   explicit StoryWindow(const WindowContext& common) : Window(common, "story") {}
 
   void title_bar_close() override { common().windows.unload(*this); }
-  void failed(std::string_view tag, std::exception_ptr) override { failures += tag; }
+  void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
 
   void press_go() {
     press(go, "go_click.", [this] { return story(); });
   }
-  void press_break() {
-    handle("break_click.", [] { throw RuntimeError::overflow("break"); });
-  }
-  using Window::tell;
-  void stop_waiting() { waits().close(); }
+  using Window::handle, Window::tell, Window::waits;
 
   Control go{*this, "go"};
   ControlArray<Control, 1, 3> mark{*this, "mark"};
   std::string told;
-  std::string failures;
-  bool leave_at_end = false;
-  bool break_at_end = false;
+  std::function<void()> at_end = [this] { told += ')'; };
 
  private:
   Sequence chapter(char letter) {
@@ -40,9 +34,7 @@ class StoryWindow final : public Window {
     co_await chapter('a');
     if (waits().closed()) co_return;
     co_await chapter('b');
-    if (break_at_end) throw RuntimeError::overflow("story");
-    told += ')';
-    if (leave_at_end) common().windows.unload(*this);
+    at_end();
   }
 };
 
@@ -66,31 +58,27 @@ TEST_F(WindowTest, ARoutineWaitsInVirtualTimeAndAnnouncesEachStep) {
 
 TEST_F(WindowTest, ClosingTheWaitsEndsThemAtOnceAndDestroyingTheOwnerForgetsThem) {
   window.press_go();
-  window.stop_waiting();
+  window.waits().close();
   scheduler.settle();
   EXPECT_EQ(window.told, "(a");
   EXPECT_TRUE(scheduler.idle());
 
-  auto& other = windows.open(std::make_unique<StoryWindow>(common));
-  other.press_go();
-  other.title_bar_close();
+  windows.open(std::make_unique<StoryWindow>(common)).press_go();
+  windows.newest()->title_bar_close();
   scheduler.settle();
   EXPECT_TRUE(scheduler.idle());
 }
 
-TEST_F(WindowTest, ARoutineMayCloseItsOwnWindow) {
-  window.leave_at_end = true;
+TEST_F(WindowTest, FailuresReachTheOneErrorPathWithTheirTagAndARoutineMayCloseItsOwnWindow) {
+  window.handle("break_click.", [] { throw RuntimeError::overflow("break"); });
+  window.at_end = [] { throw RuntimeError::overflow("story"); };
+  window.press_go();
+  scheduler.advance_ms(100);
+  EXPECT_EQ(window.told, "break_click.(abgo_click.");
+  window.at_end = [this] { windows.unload(window); };
   window.press_go();
   scheduler.advance_ms(100);
   EXPECT_EQ(windows.count(), 0);
-}
-
-TEST_F(WindowTest, FailuresReachTheOneErrorPathWithTheirTag) {
-  window.press_break();
-  window.break_at_end = true;
-  window.press_go();
-  scheduler.advance_ms(100);
-  EXPECT_EQ(window.failures, "break_click.go_click.");
 }
 
 TEST_F(WindowTest, ControlsAreFoundByNameAndClosedOnesTakeNoLateClicks) {
@@ -113,16 +101,13 @@ TEST_F(WindowTest, AnAnswerThatComesAfterTheRoutineOrTheWindowIsForgotten) {
     const Message question;
     reply = co_await ask(w, d, question);
   };
-  {
-    Sequence asking = routine(waits, dialogs, got);
-    asking.start();
+  for (const bool lives : {false, true}) {
+    std::optional<Sequence> asking(routine(waits, dialogs, got));
+    asking->start();
+    if (!lives) asking.reset();
+    dialogs.answer(Reply::no);
+    EXPECT_EQ(got, lives ? Reply::no : Reply::ok);
   }
-  dialogs.answer(Reply::yes);
-  EXPECT_EQ(got, Reply::ok);
-  Sequence asking = routine(waits, dialogs, got);
-  asking.start();
-  dialogs.answer(Reply::no);
-  EXPECT_EQ(got, Reply::no);
 
   window.tell("a warning", [&] { window.told += "read"; });
   dialogs.answer(Reply::ok);

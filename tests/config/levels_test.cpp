@@ -14,11 +14,7 @@ const std::vector<std::string> kSaved{"1", "3", "1", "2", "0", "0", "1", "2",
 
 /// The state of a training just begun that fits `kSaved`: a degree of Dur-moll.
 std::vector<std::string> begun_state() {
-  Settings settings;
-  settings.tongeschl = 2;
-  settings.abfr_iv = Naming::from_tone_before;
-  settings.ton_st_wahl = 1;
-  settings.stufe_wahl = 4;
+  const Settings settings = read_EinstSicherung({}, SettingsKind::einstellung1, kSaved);
   Key key;
   build_scale(key, settings.tongeschl, settings.abfr_iv);
   SavedTraining training{{}, 3, 5};
@@ -38,19 +34,6 @@ std::vector<int> locked_frames(const Einstellung1& window) {
   return frames;
 }
 
-// What a state without its flag does, the flow tests show.
-TEST(Levels, OffersASavedTrainingOnlyWithBothRecords) {
-  for (const bool settings : {false, true}) {
-    SettingsBed bed;
-    settings ? bed.store("E1", kSaved) : bed.store("A1", kState);
-    EXPECT_EQ(bed.open().training_Combo.items[2].text, "---------------");
-    bed.choose_level(2);
-    EXPECT_EQ(bed.settings.Uebungsmodus, Level::training);
-    EXPECT_EQ(bed.window->training_Combo.selected, 1);
-    EXPECT_TRUE(bed.dialogs.shown.empty());
-  }
-}
-
 TEST(Levels, GoesOnWithTheSavedSettingsAndLocksThem) {
   SettingsBed bed;
   bed.store("E1", kSaved);
@@ -60,15 +43,10 @@ TEST(Levels, GoesOnWithTheSavedSettingsAndLocksThem) {
   EXPECT_EQ(bed.settings.Uebungsmodus, Level::continued);
   EXPECT_EQ(build_EinstSicherung(bed.settings, SettingsKind::einstellung1), kSaved);
   EXPECT_EQ(bed.settings.AntwSicherung, kState);
-  EXPECT_EQ(bed.saved_training.value().whlgzaehler, 5);
-  EXPECT_EQ(bed.settings.tonraum_max, 84);
-  EXPECT_TRUE(window.tongeschl[2].value && window.stimm_g[2].value);
   EXPECT_EQ(window.temp_Combo.selected, 3);
-  EXPECT_TRUE(window.degree_list.visible);
-  EXPECT_EQ(window.degree_list.selected, 4);
+  EXPECT_TRUE(window.degree_list.visible && window.degree_list.selected == 4);
   EXPECT_THAT(locked_frames(window), ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13));
-  EXPECT_FALSE(window.temp_Combo.enabled);
-  EXPECT_EQ(window.temp_Combo.fore, signal::locked);
+  EXPECT_TRUE(!window.temp_Combo.enabled && window.temp_Combo.fore == signal::locked);
   window.click(window.Tonart[0]);
   EXPECT_EQ(bed.settings.Tonart, 1) << "locked";
 
@@ -78,66 +56,58 @@ TEST(Levels, GoesOnWithTheSavedSettingsAndLocksThem) {
   EXPECT_EQ(window.temp_Combo.fore, blue_green_red(0xFF0000));
 }
 
-TEST(Levels, ABrokenRecordIsToldAndLeadsToLevelOne) {
-  std::vector<std::string> text = kSaved;
-  text[7] = "Dur";
-  std::vector<std::string> other_mode = kSaved;  // whole records, but not of one exercise
-  other_mode[7] = "1";
-  const std::vector<std::string> half(kSaved.begin(), kSaved.begin() + 6);
+// What a state without its flag does, the flow tests show.
+TEST(Levels, HalfATrainingIsNotOfferedAndABrokenOneToldAndLevelOneChosen) {
   using Record = std::vector<std::string>;
-  for (const auto& [settings, state] : std::initializer_list<std::pair<Record, Record>>{
-           {text, kState}, {half, kState}, {kSaved, {"true"}}, {other_mode, kState}}) {
+  Record text = kSaved, other_mode = kSaved;  // whole records, but not of one exercise
+  text[7] = "Dur";
+  other_mode[7] = "1";
+  const std::pair<Record, Record> records[] = {{kSaved, {}},       {{}, kState},
+                                               {text, kState},     {{"1", "3"}, kState},
+                                               {kSaved, {"true"}}, {other_mode, kState}};
+  for (const auto& [settings, state] : records) {
+    const bool offered = !settings.empty() && !state.empty();
     SettingsBed bed;
-    bed.store("E1", settings);
-    bed.store("A1", state);
+    if (!settings.empty()) bed.store("E1", settings);
+    if (!state.empty()) bed.store("A1", state);
     Einstellung1& window = bed.open();
-    const auto stores = bed.host.calls_of("STORE").size();
+    EXPECT_EQ(window.training_Combo.items[2].text, offered ? "[565]" : "---------------");
     bed.choose_level(2);
-    EXPECT_EQ(bed.settings.Uebungsmodus, Level::training);
-    ASSERT_EQ(bed.dialogs.shown.size(), 1U);
-    EXPECT_EQ(bed.dialogs.shown[0].text, "[196] [565]");
-    EXPECT_EQ(bed.dialogs.shown[0].style, MessageStyle::warning);
-    EXPECT_TRUE(locked_frames(window).empty());
-    EXPECT_TRUE(bed.settings.AntwSicherung.empty());
+    EXPECT_TRUE(bed.settings.Uebungsmodus == Level::training &&
+                window.training_Combo.selected == 1);
+    std::string told;
+    for (const Message& message : bed.dialogs.shown) told += message.text;
+    EXPECT_EQ(told, offered ? "[196] [565]" : "");
+    EXPECT_TRUE(locked_frames(window).empty() && bed.settings.AntwSicherung.empty());
     EXPECT_EQ(bed.settings.tongeschl, 0) << "nothing half restored";
-    EXPECT_EQ(bed.host.calls_of("STORE").size(), stores);
+    EXPECT_TRUE(bed.host.calls_of("STORE").empty());
   }
 }
 
-TEST(Levels, ATrainingKeepsItsSettingsAndATestItsOrder) {
+TEST(Levels, ATrainingKeepsItsSettingsATestItsOrderAndAnExamLocksWhatItGoverns) {
   SettingsBed bed;
   Einstellung1& window = bed.open();
+  const auto accept = [&] {
+    window.click(window.cmdOk);
+    window.show_again();
+  };
   bed.choose_level(1);
   window.click(window.ton_st_wahl[1]);
-  window.click(window.cmdOk);
+  accept();
   EXPECT_EQ(bed.settings.EinstSicherung.size(), 15U);
   EXPECT_EQ(bed.settings.EinstDatSave[0], "32");
   EXPECT_EQ(bed.settings.EinstDatSave.back(), "[450]/[433]");
-  window.show_again();
   bed.choose_level(3);
-  window.click(window.cmdOk);
+  accept();
   EXPECT_EQ(bed.settings.abfrage, 1);
-  EXPECT_TRUE(window.abfrage[1].value);
   EXPECT_THAT(bed.settings.EinstDatSave, testing::Contains("[1066]")) << "the order in force";
-}
-
-TEST(Levels, AnExamSetsAndLocksWhatItGoverns) {
-  SettingsBed bed;
-  Einstellung1& window = bed.open();
-  window.click(window.ton_st_wahl[1]);
   bed.choose_level(4);
   window.choose(window.prfnr_Comb, 4);
-  EXPECT_EQ(window.temp_Combo.selected, 3);
-  EXPECT_TRUE(window.invzahl[3].value && window.tongeschl[2].value && window.abfr_iv[1].value);
-  EXPECT_TRUE(window.abfrage[1].value && window.ton_st_wahl[0].value);
-  EXPECT_FALSE(window.degree_list.visible);
   EXPECT_THAT(locked_frames(window), ElementsAre(4, 5, 6, 7, 8, 12));
-  window.click(window.cmdOk);
+  accept();
   EXPECT_EQ(bed.settings.EinstDatSave[4], "[426] 5");
-  window.show_again();
   bed.choose_level(0);
-  EXPECT_FALSE(window.prfnr_Comb.visible);
-  EXPECT_TRUE(locked_frames(window).empty());
+  EXPECT_TRUE(!window.prfnr_Comb.visible && locked_frames(window).empty());
 }
 
 /// A window with nothing of its own: an exam's intervals and naming have no control here.

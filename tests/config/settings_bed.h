@@ -6,14 +6,13 @@
 #include <vector>
 
 #include "config/einstellung1.h"
-#include "support/fake_host.h"
+#include "support/host_bed.h"
 #include "support/recording_midi.h"
-#include "support/window_bed.h"
 
 namespace tonarix {
 
 /// One settings window with all that it needs, on virtual time.
-struct SettingsBed : WindowBed {
+struct SettingsBed : HostBed {
   explicit SettingsBed(ExerciseKind ueb_typ = ExerciseKind::determine) {
     server.ServerInit("vemo06");
     tables.load(texts);
@@ -60,10 +59,7 @@ struct SettingsBed : WindowBed {
             .put_listing = [this](const std::string& document) { listing = document; }};
   }
 
-  FakeHost host;
   std::map<std::string, Variant>& records = host.records;
-  Server server{host.factory(), {"vemo06", "vemo06"}};
-  ErrorReport errors{server, texts, dialogs};
   Midi midi;
   RecordingDevices devices{scheduler};
   MidiEvent midi_event;

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -82,14 +81,15 @@ class FlowBed {
   std::int16_t right_code(int iv_nr) const {
     return static_cast<std::int16_t>(std::abs(module.row().iv[static_cast<std::size_t>(iv_nr)]));
   }
-  /// An offered code that is wrong and still open.
-  std::int16_t wrong_code(const Arbeitsblatt1& window, int iv_nr) const {
+  /// Any offered code that is wrong and still open.
+  std::int16_t wrong_code(const Arbeitsblatt1& window, int iv_nr) {
     const std::string panel = window.by_degree() ? "st_int_" : "intervall_";
+    std::vector<std::int16_t> open;
     for (std::int16_t code = 1; code <= 21; ++code) {
       const Control* button = window.find(panel + std::to_string(code));
-      if (button && button->open() && code != right_code(iv_nr)) return code;
+      if (button && button->open() && code != right_code(iv_nr)) open.push_back(code);
     }
-    return 0;
+    return open.at(static_cast<std::size_t>(draw(student, static_cast<int>(open.size()))));
   }
   static void press(Arbeitsblatt1& window, std::int16_t code) {
     window.by_degree() ? window.st_int_click(code) : window.intervall_click(code);
@@ -146,7 +146,6 @@ class FlowBed {
     }
     return found;
   }
-  int playbacks() const { return devices.queues_started; }
 
   Server::HostFactory factory;
   VirtualScheduler scheduler;

@@ -8,6 +8,7 @@
 
 #include "base/arithmetic.h"
 #include "flow/flow_bed.h"
+#include "settings/offered_intervals.h"
 
 namespace tonarix {
 namespace {
@@ -29,25 +30,22 @@ float earned(const Handling& how, int free_tenths) {
 }
 
 TEST(ScoreFlow, WhatAnIntervalEarns) {
-  struct Case {
-    int free_tenths;
-    Handling how;
-    float earned;
-  };
-  for (const Case& one :
-       {Case{20, {0, 0, 2, 20}, -4}, Case{20, {0, 0, 0, 21}, -3}, Case{20, {0, 0, 0, 30}, -2.5F},
-        Case{20, {0, 1, 2, 20}, -2}, Case{20, {0, 3, 1, 20}, 0}, Case{25, {0, 0, 0, 26}, -3},
-        Case{25, {0, 0, 0, 30}, -2.8F}, Case{25, {2, 1, 1, 20}, 6}, Case{25, {4, 0, 0, 20}, 8}}) {
-    EXPECT_FLOAT_EQ(earned(one.how, one.free_tenths), one.earned);
+  const std::tuple<int, Handling, float> cases[] = {
+      {20, {0, 0, 2, 20}, -4},    {20, {0, 0, 0, 21}, -3}, {20, {0, 0, 0, 30}, -2.5F},
+      {20, {0, 1, 2, 20}, -2},    {20, {0, 3, 1, 20}, 0},  {25, {0, 0, 0, 26}, -3},
+      {25, {0, 0, 0, 30}, -2.8F}, {25, {2, 1, 1, 20}, 6},  {25, {4, 0, 0, 20}, 8}};
+  for (const auto& [free_tenths, how, expected] : cases) {
+    EXPECT_FLOAT_EQ(earned(how, free_tenths), expected);
   }
 }
 
 /// One press of an answer button: tenths of a second, repeats, the code of a wrong one or 0.
 using Press = std::array<double, 3>;
-struct Answered {
-  int interval;  ///< signed code
-  Handling how;
-  std::vector<int> mistakes;  ///< codes
+/// The books of one interval in one direction.
+struct Account {
+  int weight = 4;
+  std::vector<float> results;
+  int confused = 0;  ///< times it was taken for another
 };
 
 /// A student who remembers what must be told and booked.
@@ -59,7 +57,13 @@ struct ScoreBed : FlowBed {
   }
   Arbeitsblatt1& start(int level) {
     settings().choose(settings().training_Combo, level);
-    return *(window = &open_exercise());
+    window = &open_exercise();
+    const Settings& now = module.settings();
+    Key key;
+    build_scale(key, now.tongeschl, now.abfr_iv);
+    const IntervalList offered = offered_intervals(now, key);
+    for (const int value : offered) accounts[value];
+    return *window;
   }
   void wait_until(const std::function<bool()>& done) {
     for (int ms = 0; ms < 3000 && !done(); ++ms) scheduler.advance_ms(1);
@@ -71,7 +75,7 @@ struct ScoreBed : FlowBed {
   }
   /// Answers the next row; from an answered one the keynote chord leads there.
   void answer_task(const std::function<Handling()>& next) {
-    if (!all.empty()) window->grundton_click();
+    if (!presses.empty()) window->grundton_click();
     wait_until([&] {
       window->CmdNextAufg_click();
       return asked(*window) >= 0;
@@ -83,7 +87,7 @@ struct ScoreBed : FlowBed {
   /// no time from the answer and no answers, a wrong answer starts the time anew.
   void answer(const Handling& how) {
     const int place = asked(*window);
-    Answered& done = all.emplace_back(module.row().iv.at(static_cast<std::size_t>(place)), how);
+    const int interval = module.row().iv.at(static_cast<std::size_t>(place));
     const int last = std::min(how.wrong, 3);
     for (int attempt = 0; attempt <= last; ++attempt) {
       const int repeats = attempt == 0 ? how.repeats : 0;
@@ -100,73 +104,52 @@ struct ScoreBed : FlowBed {
       const int wrong = attempt < how.wrong ? wrong_code(*window, place) : 0;
       press(*window, wrong != 0 ? to_int16(wrong) : right_code(place));
       presses.push_back({tenths * 1.0, repeats + checks / 2.0, wrong * 1.0});
-      if (wrong != 0) done.mistakes.push_back(wrong);
+      if (wrong == 0) continue;
+      // It leads in the same direction, unless the box has it in the other one only.
+      const int value = interval > 0 ? wrong : -wrong;
+      Account& taken = accounts.at(accounts.contains(value) ? value : -value);
+      ++taken.weight;
+      ++taken.confused;
     }
     EXPECT_NE(asked(*window), place);
+    const float amount = earned(how, window->by_degree() ? 20 : 25);
+    Account& booked = accounts.at(interval);
+    booked.weight = static_cast<int>(static_cast<float>(booked.weight) + amount);
+    booked.results.push_back((amount < 0 ? 2 * amount : amount) - 8);
+    ++answered;
+    total = {total.wrong + how.wrong, total.repeats + how.repeats, total.checks + how.checks, 0};
   }
-  std::string sum(int Handling::*part) const {
-    int total = 0;
-    for (const Answered& one : all) total += one.how.*part;
-    return std::to_string(total);
-  }
-
   Arbeitsblatt1* window = nullptr;
-  std::vector<Answered> all;
+  std::map<int, Account> accounts;  ///< by signed code
   std::vector<Press> presses;
+  int answered = 0;
+  Handling total{};
 };
-
-/// The books of one interval in one direction.
-struct Account {
-  int weight = 4;
-  std::vector<float> results;
-  int confused = 0;  ///< times it was taken for another
-};
-
-/// Books what was answered, by signed code. An interval taken for the asked one leads in the same
-/// direction, unless `known` has it in the other one only.
-std::map<int, Account> books(const std::vector<Answered>& all, int abfr_iv,
-                             const std::map<int, Account>& known = {}) {
-  std::map<int, Account> accounts = known;
-  for (const Answered& one : all) {
-    const float amount = earned(one.how, abfr_iv == 0 ? 20 : 25);
-    Account& asked = accounts[one.interval];
-    asked.weight = static_cast<int>(static_cast<float>(asked.weight) + amount);
-    asked.results.push_back((amount < 0 ? 2 * amount : amount) - 8);
-    for (const int code : one.mistakes) {
-      int value = one.interval > 0 ? code : -code;
-      if (!known.empty() && known.count(value) == 0) value = -value;
-      ++accounts[value].weight;
-      ++accounts[value].confused;
-    }
-  }
-  return accounts;
-}
 
 /// The saved training against the books: weights, statistics, the shown percentage.
-void expect_saved(const std::vector<Answered>& all, const Variant::Array& record, int abfr_iv,
-                  int box_zeilen, const std::string& shown) {
+/// Falling intervals have their statistics `half` rows behind the rising ones.
+void expect_saved(const ScoreBed& bed, const Variant::Array& record, int half,
+                  const std::string& shown) {
   const auto number = [&](std::size_t place) { return std::stof(record.at(place).text()); };
-  ASSERT_EQ(record.size(), static_cast<std::size_t>(6 * box_zeilen + 3));
-  const auto rows = static_cast<std::size_t>(box_zeilen);
-  std::map<int, Account> offered;
-  for (std::size_t i = 1; i <= rows; ++i) offered[static_cast<int>(number(i))];
-  std::map<int, Account> accounts = books(all, abfr_iv, offered);
-  ASSERT_EQ(accounts.size(), rows) << "an interval outside the box";
+  const std::size_t rows = bed.accounts.size();
+  ASSERT_EQ(record.size(), 6 * rows + 3);
   int sum = 0;
   for (std::size_t i = 1; i <= rows; ++i) {
     const int value = static_cast<int>(number(i));
     SCOPED_TRACE(value);
-    const Account& account = accounts[value];
+    const Account& account = bed.accounts.at(value);
     const std::size_t statistics = 1 + 2 * rows + 4 * (i - 1);
     const float results = std::accumulate(account.results.begin(), account.results.end(), 0.0F);
     EXPECT_EQ(number(i + rows), account.weight);
-    EXPECT_EQ(number(statistics), std::abs(value) + (value > 0 ? 0 : abfr_iv == 0 ? 11 : 21));
+    EXPECT_EQ(number(statistics), value > 0 ? value : half - value);
     EXPECT_EQ(number(statistics + 1), account.results.size());
     EXPECT_NEAR(number(statistics + 2), results, 1e-3);
     EXPECT_EQ(number(statistics + 3), account.confused);
     sum += std::max(account.weight, 0);
   }
-  EXPECT_EQ(shown, std::to_string(100 * sum / (8 * box_zeilen)));
+  EXPECT_EQ(number(record.size() - 2), bed.total.wrong);
+  EXPECT_EQ(number(record.size() - 1), bed.total.repeats);
+  EXPECT_EQ(shown, std::to_string(100 * sum / (8 * std::ssize(bed.accounts))));
 }
 
 std::vector<Press> told(const std::vector<std::vector<FlowBed::Facts>>& lessons) {
@@ -199,23 +182,25 @@ TEST(ScoreFlow, ATrainingBooksEveryWayToAnswer) {
     ScoreBed bed(host, window_nr, abfr_iv);
     Einstellung1& settings = bed.settings();
     if (one_degree) {
+      settings.click(settings.tongeschl[window_nr % 3]);
       settings.click(settings.ton_st_wahl[1]);
-      settings.choose(settings.degree_list, window_nr % 7);
+      settings.choose(settings.degree_list,
+                      window_nr % static_cast<int>(settings.degree_list.items.size()));
     } else {
       settings.click(settings.invzahl[window_nr % 2 == 0 ? 1 : 3]);
     }
     Arbeitsblatt1& window = bed.start(1);
-    while (bed.all.size() < 4) bed.answer_task(next);
+    while (bed.answered < 4) bed.answer_task(next);
+    EXPECT_TRUE(one_degree || bed.accounts.size() == (abfr_iv == 0 ? 14U : 26U));
+    EXPECT_EQ(window.zaehler[1].text, std::to_string(bed.total.wrong));
+    EXPECT_EQ(window.whlgzaehler.text, std::to_string(bed.total.repeats));
+    EXPECT_EQ(window.GrdtonWhlg.text, std::to_string(bed.total.checks));
+    EXPECT_TRUE(!one_degree || window.ergebnis[0].back == signal::right) << "as given";
     const std::string shown = window.matboxanz[15].text;
-    EXPECT_EQ(window.zaehler[1].text, bed.sum(&Handling::wrong));
-    EXPECT_EQ(window.whlgzaehler.text, bed.sum(&Handling::repeats));
-    EXPECT_EQ(window.GrdtonWhlg.text, bed.sum(&Handling::checks));
     bed.dialogs.script = {Reply::yes};
-    EXPECT_EQ(told(FlowBed::lessons(bed.leave(window))), bed.presses);
-    const Variant::Array record = host.records["vemo06/A1"].array();
-    expect_saved(bed.all, record, abfr_iv, abfr_iv == 1 && !one_degree ? 26 : 14, shown);
-    EXPECT_EQ(record.at(record.size() - 2).text(), bed.sum(&Handling::wrong));
-    EXPECT_EQ(record.back().text(), bed.sum(&Handling::repeats));
+    const auto lessons = FlowBed::lessons(bed.leave(window));
+    EXPECT_EQ(told(lessons), bed.presses);
+    expect_saved(bed, host.records["vemo06/A1"].array(), abfr_iv == 0 ? 11 : 21, shown);
     if (testing::Test::HasFailure()) break;
   }
 }
@@ -244,27 +229,13 @@ TEST(ScoreFlow, ATestKeepsTheTwoBestResultsOfEachInterval) {
   for (const Control& button : window.intervall) code_of[button.text] = *button.index();
   window.zurueck_click();
   bed.scheduler.advance_ms(400);
-  std::map<int, Account> accounts = books(bed.all, 1);
   for (const ResultRow& row : bed.result().content().table.rows) {
     const int code = code_of.at(row.label);
-    const Account& account = accounts[row.column == 0 ? code : -code];
+    const Account& account = bed.accounts.at(row.column == 0 ? code : -code);
     ASSERT_EQ(row.field.text.empty(), account.results.empty());
     if (account.results.empty()) continue;
     EXPECT_NEAR(std::stod(row.field.text), percent(account), 0.0501) << row.label;
   }
-  EXPECT_TRUE(host.records.empty());
-}
-
-TEST(ScoreFlow, WithoutALevelNothingIsScored) {
-  FakeHost host;
-  FlowBed bed(host);
-  Arbeitsblatt1& window = bed.begin(0);
-  bed.answer_row(window, 1, 1);
-  EXPECT_FALSE(window.matboxanz[15].visible || window.lab_aufgaben.visible);
-  window.zurueck_click();
-  bed.scheduler.advance_ms(400);
-  EXPECT_TRUE(bed.result().content().table.rows.empty());
-  EXPECT_EQ(bed.result().content().table.total.text, "0.0 %");
   EXPECT_TRUE(host.records.empty());
 }
 

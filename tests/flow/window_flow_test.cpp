@@ -63,11 +63,11 @@ TEST_F(WindowFlowTest, TheDocumentTellsTheBendsAndTheFieldsTheDirection) {
     if (task > 0) bed.next_task(window);
     bed.hear_row();
     for (int place = 0; place < bed.tones(); ++place) {
-      const auto messages = bed.devices.messages();
-      const auto bend = std::find_if(messages.rbegin(), messages.rend(), [&](const auto& message) {
-        return message.status == 0xE2 + place;
+      const auto& log = bed.devices.log;
+      const auto bend = std::find_if(log.rbegin(), log.rend(), [&](const auto& entry) {
+        return entry.message.status == 0xE2 + place;
       });
-      bends.push_back(bend->data2 - 64);
+      bends.push_back(bend->message.data2 - 64);
     }
     bed.answer_row(window);
     for (int i = 0; i <= 1; ++i) {

@@ -1,48 +1,39 @@
 #include "protocol/protokoll.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <sys/resource.h>
 
-#include <fstream>
+#include <csignal>
 #include <locale>
 
 #include "support/fake_document_writer.h"
-#include "support/fake_host.h"
+#include "support/host_bed.h"
+#include "support/temporary_folder.h"
 
 namespace tonarix {
 namespace {
 
-struct StandingClock final : WallClock {
-  CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
-};
-
-struct ProtokollTest : testing::Test {
+struct ProtokollTest : testing::Test, HostBed {
   ProtokollTest() {
     server.ServerInit("vemo06");
     host.answers["LOGIN"] = Variant::Array{"Lovelace & Söhne", "Ada", "4711"};
   }
   void task(std::int16_t interval, bool tones_alone, std::int16_t iv_nr,
             std::vector<std::int16_t> pb_abweichung) {
-    LessonFacts facts;
-    facts.interval = interval;
-    facts.tones_alone = tones_alone;
-    facts.qz_tones = {17, 18, 14};
-    facts.intervals = {{"+ Quinte", "+ Quinte"}, {"Stufe nicht leitereigen", "- große Terz"}};
-    facts.pb_abweichung = std::move(pb_abweichung);
-    facts.iv_nr = iv_nr;
-    protokoll.ProtokollAufgabe(facts);
+    protokoll.ProtokollAufgabe(
+        {.interval = interval,
+         .tones_alone = tones_alone,
+         .qz_tones = {17, 18, 14},
+         .intervals = {{"+ Quinte", "+ Quinte"}, {"Stufe nicht leitereigen", "- große Terz"}},
+         .pb_abweichung = std::move(pb_abweichung),
+         .iv_nr = iv_nr});
   }
   const std::string& document() const { return writer.written.at(0).content; }
 
-  FakeHost host;
-  Server server{host.factory(), {"vemo06", "test"}};
-  StandingClock clock;
   FakeDocumentWriter writer;
   std::string logged;
-  Protokoll protokoll{
-      server, clock, writer, {"/usual", "/data"}, [this](std::string_view tag, std::exception_ptr) {
-        logged += tag;
-      }};
+  const Protokoll::Logger log = [this](std::string_view tag, std::exception_ptr) { logged += tag; };
+  Protokoll protokoll{server, clock, writer, {"/usual", "/data"}, log};
 };
 
 struct Comma final : std::numpunct<char> {
@@ -71,8 +62,7 @@ TEST_F(ProtokollTest, AnExerciseReadsAsTheExampleWhateverTheLocale) {
   protokoll.ProtokollSchluss("bestimmen", "tonale Intervalle",
                              {"4", "Tempo", "40 (Largo)", "Nr.:", ""});
   std::locale::global(before);
-  std::ifstream example(TONARIX_EXAMPLES "/exercise.xml");
-  EXPECT_EQ(document(), std::string(std::istreambuf_iterator<char>(example), {}));
+  EXPECT_EQ(document(), TemporaryFolder().content(TONARIX_EXAMPLES "/exercise.xml"));
 }
 
 TEST_F(ProtokollTest, NothingIsLostWhileNoFolderTakesIt) {
@@ -100,6 +90,72 @@ TEST_F(ProtokollTest, ATaskThatCannotBeRecordedIsLoggedAllElseSurfaces) {
   EXPECT_THROW(protokoll.ProtokollAntwort(1), RuntimeError);
   EXPECT_THROW(protokoll.ProtokollProperty("key", 1), RuntimeError);
   EXPECT_THROW(protokoll.ProtokollSchluss("", "", {}), RuntimeError);
+}
+
+TEST(Document, AnyTextComesBackFromAReaderUnharmedAndListsCountFromOne) {
+  FakeDocumentWriter writer;
+  DocumentBuilder builder{writer};
+  const std::string hard = "\"<a>&'\n\t ü 𝄞 \u202Eabc e\u0301";
+  builder.CreateDocument("exercise");
+  builder.Root().Children().Add(hard, "part").Attributes().Add(hard, "key");
+  pugi::xml_document read;
+  ASSERT_TRUE(read.load_string(builder.text().c_str()));
+  const pugi::xml_node part = read.child("exercise").child("part");
+  EXPECT_EQ(part.attribute("key").value(), hard);
+  EXPECT_EQ(part.text().get(), hard);
+  const ElementList parts = builder.Root().Children().Find("part");
+  EXPECT_TRUE(parts.Item(1).exists());
+  EXPECT_THROW(parts.Item(0), RuntimeError);
+  EXPECT_THROW(parts.Item(2), RuntimeError);
+}
+
+TEST(XmlText, WhatIsNoCharacterOfXmlIsReplaced) {
+  const struct {
+    std::string bytes, text;
+  } examples[] = {
+      {std::string("a\0b\x1F", 4), "a?b?"},
+      {"\xC3", "?"},                 // cut off
+      {"\xC0\xAF", "??"},            // longer than need be
+      {"\xED\xA0\x80", "???"},       // surrogate
+      {"\xEF\xBF\xBF", "???"},       // U+FFFF
+      {"\xF4\x90\x80\x80", "????"},  // above U+10FFFF
+      {"\xF0\x9D\x84\x9E\t\n", "\xF0\x9D\x84\x9E\t\n"},
+  };
+  for (const auto& [bytes, text] : examples) {
+    std::string expected;
+    for (const char letter : text) expected += letter == '?' ? "\uFFFD" : std::string(1, letter);
+    EXPECT_EQ(xml_text(bytes), expected);
+  }
+}
+
+TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
+  TemporaryFolder folder;
+  FileDocumentWriter writer;
+  const auto path = folder.path / "deep" / "EXR.xml";
+  ASSERT_TRUE(writer.write(path, "first").written);
+  ASSERT_TRUE(writer.write(path, "second").written);
+  using std::filesystem::perms;
+  EXPECT_EQ(status(path).permissions(), perms::owner_read | perms::owner_write);
+
+  const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit old_limit{};
+  getrlimit(RLIMIT_FSIZE, &old_limit);
+  const rlimit full{4096, old_limit.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  const WriteResult result = writer.write(path, std::string(10'000, 'x'));
+  setrlimit(RLIMIT_FSIZE, &old_limit);
+  std::signal(SIGXFSZ, old_handler);
+
+  EXPECT_FALSE(result.written);
+  EXPECT_EQ(result.reason, "File too large");
+  EXPECT_EQ(folder.content("deep/EXR.xml"), "second");
+  const WriteResult below_a_file = writer.write(path / "EXR.xml", "text");
+  EXPECT_FALSE(below_a_file.written);
+  EXPECT_THAT(below_a_file.reason, testing::HasSubstr("irectory"));
+  std::filesystem::create_directory(folder.path / "deep/taken.xml");
+  EXPECT_FALSE(writer.write(folder.path / "deep/taken.xml", "text").written);
+  const std::filesystem::directory_iterator files(path.parent_path());
+  EXPECT_EQ(std::distance(begin(files), end(files)), 2) << "no temporary file is left";
 }
 
 }  // namespace

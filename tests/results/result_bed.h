@@ -3,32 +3,43 @@
 #include <memory>
 
 #include "results/result_window.h"
-#include "support/fake_host.h"
+#include "support/host_bed.h"
 #include "support/recording_printer.h"
-#include "support/window_bed.h"
 
 namespace tonarix {
 
-/// A result sheet with all it needs: a known user at level 1, naming from the tone before, a rising
-/// second always right, a falling one always wrong, a further interval without an answer.
-struct ResultBed : WindowBed {
-  struct StandingClock final : WallClock {
-    CivilTime now() const override { return {2026, 11, 21, 14, 40, 0}; }
-  };
-
+/// A result sheet with all it needs, in a training of intervals named from the tone before, of
+/// which none was offered yet.
+struct ResultBed : HostBed {
   ResultBed() {
     server.ServerInit("vemo06");
-    host.answers["LOGIN"] = Variant::Array{"Lovelace", "Ada", "4711"};
     settings.Uebungsmodus = Level::training;
     settings.abfr_iv = Naming::from_tone_before;
     settings.EinstDatSave = {"4", "Übungsmodus", "Training", "Tempo", "40 (Largo)"};
     statistics.init_arr(3, 42);
-    for (const std::int16_t row : {4, 25, 11}) statistics.Increment(StatisticRow(row), 3);
-    statistics.Save(StatisticRow(4), 0, 1);
-    statistics.Save(StatisticRow(4), 1, -16);
-    statistics.Save(StatisticRow(25), 0, 1);
   }
   ~ResultBed() { windows.clear(); }
+
+  void offered(std::int16_t row) { statistics.Increment(StatisticRow(row), 3); }
+  /// Offered and answered: the columns 0 to 2 of the statistics.
+  void answered(std::int16_t row, float times, float sum, float wrong = 0) {
+    offered(row);
+    statistics.Save(StatisticRow(row), 0, times);
+    statistics.Save(StatisticRow(row), 1, sum);
+    statistics.Save(StatisticRow(row), 2, wrong);
+  }
+  /// The longest sheet there is and more: a known user, all intervals in all colours.
+  void fill() {
+    host.answers["LOGIN"] = Variant::Array{"Lovelace", "Ada", "4711"};
+    for (std::size_t pair = 0; pair < ResultWindow::kSettingRows; ++pair) {
+      settings.EinstDatSave.insert(settings.EinstDatSave.end(),
+                                   {"Iv-Bestimmung", "gemischt (0 - 2 Okt)"});
+    }
+    for (std::int16_t row = 1; row <= 42; ++row) {
+      answered(row, 1, -0.4F * static_cast<float>(row));
+    }
+  }
+
   ResultWindow& open() {
     const ResultContext context{common,     server, errors,  clock,      settings,
                                 statistics, names,  printer, "praxis-3", {}};
@@ -43,10 +54,6 @@ struct ResultBed : WindowBed {
     return window;
   }
 
-  FakeHost host;
-  Server server{host.factory(), {"vemo06", "test"}};
-  ErrorReport errors{server, texts, dialogs};
-  StandingClock clock;
   Settings settings;
   Auswertung statistics;
   IntervalNames names{texts};

@@ -1,7 +1,6 @@
 #include "results/result_window.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "results/result_bed.h"
 
@@ -9,27 +8,40 @@ namespace tonarix {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
-struct ResultWindowTest : testing::Test, ResultBed {
-  ResultWindowTest() { texts.given = {{700, ": "}, {83, "Downward"}, {132, "Upward"}}; }
-};
+struct ResultWindowTest : testing::Test, ResultBed {};
 
-TEST_F(ResultWindowTest, FillsItselfOnce) {
+TEST_F(ResultWindowTest, FillsItselfOnceWithWhatASheetSays) {
+  texts.given = {{700, ": "}, {83, "Downward"}, {132, "Upward"}, {1217, "Instruments"}};
+  host.answers["LOGIN"] = Variant::Array{"Lovelace", "<b>Ada</b>\r\n&amp; עדה"};
+  settings.EinstDatSave = {
+      "18",   "Übungsmodus", "Training", "Nr.:",  "3",    "Klangfarben: ", "2",
+      "Töne", "Piano",       "Ton 2:",   "Oboe",  "Mine", " 40 (Largo)  ", "Oktavbereich",
+      "",     "Grdton zus.", "ja",       "Tempo", "60",   "cut off"};
+  answered(4, 1, -16);
+  answered(25, 1, 0);
+  offered(11);
   ResultWindow& window = open_filled();
   EXPECT_EQ(window.caption, "[1200]: Training");
   statistics.Clear();
   scheduler.advance_ms(10'000);
   EXPECT_EQ(spoken_sheet(window.content()), R"([724]: [291]
- [189]:  21.11.2026 14:40
+ [189]:  21.11.2026 09:05
  [586]:  [154]
  [109]:  praxis-3
  [1235] Lovelace
- [1236] Ada
- [1237] 4711
+ [1236] <b>Ada</b>  &amp; עדה
+ [1237] 
 [1201]
 [1214]: Training
-[1218]: 40 (Largo)
+[1215]: 3
+Instruments: Töne: Piano; Ton 2: Oboe
+Mine: 40 (Largo)
+[1226]: [1234] ja
+[1218]: 60
 [1202]
 [275] 50.0%
 [358] Upward: 
@@ -37,8 +49,13 @@ TEST_F(ResultWindowTest, FillsItselfOnce) {
 [281] Downward: 0.0%
 )");
   settings.abfr_iv = Naming::from_keynote;
-  EXPECT_THAT(spoken_sheet(open_filled().content()), testing::Not(testing::HasSubstr("Upward")))
-      << "degrees have no direction";
+  host.answers.clear();
+  const std::string other = spoken_sheet(open_filled().content());
+  EXPECT_THAT(other, Not(HasSubstr("Upward"))) << "degrees have no direction";
+  EXPECT_THAT(other, Not(HasSubstr("[1235]"))) << "nobody has no name";
+  for (const auto& cut_off : {std::vector<std::string>{}, {"0"}, {"2", "Klangfarben: ", "9"}}) {
+    EXPECT_THAT(setting_lines(cut_off, texts), IsEmpty());
+  }
 }
 
 TEST_F(ResultWindowTest, EachWayOutUnloadsFirstAndAnnouncesOnce) {
@@ -91,6 +108,35 @@ TEST_F(ResultWindowTest, ThePageIsTheSheetAndTheWindowOpenAgainHoweverItEnds) {
   printer.finish({End::failed, "after the sheet is gone"});
   ASSERT_EQ(dialogs.shown.size(), 1U) << "only a failure is told";
   EXPECT_EQ(dialogs.shown[0].text, "[1204]\nno paper");
+}
+
+bool overlap(const SheetBox& a, const SheetBox& b) {
+  return a.left < b.right() && b.left < a.right() && a.top < b.bottom() && b.top < a.bottom();
+}
+
+TEST_F(ResultWindowTest, TheLongestSheetHasAllItsTextsApartAndOnThePageAndPaperSaysThemInWhite) {
+  fill();
+  SheetContent content = open_filled().content();
+  const SheetPicture paper = sheet_picture(content, SheetGround::paper);
+  for (const SheetSurface& surface : paper.surfaces) EXPECT_EQ(surface.fill, signal::white);
+  for (const SheetShape shape : {SheetShape::wide, SheetShape::tall}) {
+    const SheetPicture picture = sheet_picture(content, SheetGround::screen, shape);
+    ASSERT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
+    for (const SheetText& text : picture.texts) {
+      EXPECT_GE(text.box.left, 0);
+      EXPECT_LE(text.box.right(), picture.width);
+      EXPECT_LE(text.box.bottom(), picture.height);
+      for (const SheetText& other : picture.texts) {
+        EXPECT_FALSE(&other != &text && overlap(text.box, other.box)) << text.text << other.text;
+      }
+    }
+    const auto same = [](const SheetText& a, const SheetText& b) { return a.text == b.text; };
+    EXPECT_TRUE(shape == SheetShape::tall || std::ranges::equal(picture.texts, paper.texts, same));
+  }
+  for (std::size_t i = 3; i < 6; ++i) content.head[i].visible = false;
+  const SheetPicture shorter = sheet_picture(content, SheetGround::paper);
+  EXPECT_EQ(paper.surfaces[0].box.height - shorter.surfaces[0].box.height, 3 * 20);
+  EXPECT_EQ(shorter.surfaces[0].box.bottom() - shorter.texts[6].box.bottom(), 7) << "105 twips";
 }
 
 }  // namespace

@@ -16,10 +16,10 @@ float cell(const Auswertung& statistics, std::int16_t row, float column) {
 TEST(Auswertung, CountsAndSumsByRow) {
   Auswertung statistics;
   statistics.init_arr(3.0F, 42.0F);
-  statistics.Increment(StatisticRow(42), 0);
-  statistics.Increment(StatisticRow(42), 0);
-  statistics.Add(StatisticRow(42), -16.0F);
-  statistics.Add(StatisticRow(42), 2.5F);
+  for (const float value : {-16.0F, 2.5F}) {
+    statistics.Increment(StatisticRow(42), 0);
+    statistics.Add(StatisticRow(42), value);
+  }
   statistics.Save(StatisticRow(0), 3, 7.0F);
   EXPECT_EQ(cell(statistics, 42, 0.0F), 2.0F);
   EXPECT_EQ(cell(statistics, 42, 1.0F), -13.5F);
@@ -34,11 +34,7 @@ TEST(Auswertung, BestValueMovesToTheSecondColumn) {
   Auswertung statistics;
   statistics.init_arr(3.0F, 1.0F);
   // value given, then columns 0 and 1 afterwards; nothing above zero enters
-  const float steps[][3] = {{2.0F, 0.0F, 0.0F},
-                            {-8.0F, 0.0F, -8.0F},
-                            {-4.0F, -4.0F, -8.0F},
-                            {-16.0F, -8.0F, -16.0F},
-                            {-2.0F, -8.0F, -16.0F}};
+  const float steps[][3] = {{2, 0, 0}, {-8, 0, -8}, {-4, -4, -8}, {-16, -8, -16}, {-2, -8, -16}};
   for (const auto& step : steps) {
     statistics.SaveBest(StatisticRow(1), step[0]);
     EXPECT_EQ(cell(statistics, 1, 0.0F), step[1]);

@@ -19,21 +19,21 @@ class RecordingDialogs final : public Dialogs {
 
   void show(const Message& message, std::function<void(Reply)> done) override {
     shown.push_back(message);
-    open_.push_back(std::move(done));
-    if (!script.empty()) {
-      const Reply reply = script.front();
-      script.pop_front();
-      post_answer(reply);
-    } else if (!hold && message.style != MessageStyle::yes_no) {
-      post_answer(Reply::ok);
+    if (!done) done = [](Reply) {};
+    if (script.empty() && (hold || message.style == MessageStyle::yes_no)) {
+      open_.push_back(std::move(done));
+      return;
     }
+    const Reply reply = script.empty() ? Reply::ok : script.front();
+    if (!script.empty()) script.pop_front();
+    scheduler_.post([done = std::move(done), reply] { done(reply); });
   }
 
   /// Answers the newest box that is open, here and now.
   void answer(Reply reply) {
     const std::function<void(Reply)> done = std::move(open_.back());
     open_.pop_back();
-    if (done) done(reply);
+    done(reply);
   }
   /// True while a box waits for its answer.
   bool open() const { return !open_.empty(); }
@@ -43,14 +43,6 @@ class RecordingDialogs final : public Dialogs {
   bool hold = false;  ///< every box without a scripted answer stays open
 
  private:
-  void post_answer(Reply reply) {
-    std::function<void(Reply)> done = std::move(open_.back());
-    open_.pop_back();
-    scheduler_.post([done = std::move(done), reply] {
-      if (done) done(reply);
-    });
-  }
-
   Scheduler& scheduler_;
   std::vector<std::function<void(Reply)>> open_;
 };

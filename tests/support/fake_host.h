@@ -4,7 +4,6 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "base/runtime_error.h"
@@ -24,25 +23,17 @@ class FakeHost {
     Variant preset;  ///< the output as the module set it
   };
 
-  FakeHost() = default;
-  FakeHost(const FakeHost&) = delete;
-  FakeHost& operator=(const FakeHost&) = delete;
-
   Server::HostFactory factory() {
-    return [this]() -> std::unique_ptr<Host> {
+    return [this] {
       if (!can_create) throw RuntimeError(429, "The host cannot be reached", "FakeHost");
-      ++created;
-      ++living;
-      return std::make_unique<Object>(*this, created);
+      return std::make_unique<Object>(*this);
     };
   }
 
   /// The calls with this key, oldest first.
   std::vector<Call> calls_of(const std::string& key) const {
-    std::vector<Call> found;
-    for (const Call& call : calls) {
-      if (call.key == key) found.push_back(call);
-    }
+    std::vector<Call> found = calls;
+    std::erase_if(found, [&](const Call& call) { return call.key != key; });
     return found;
   }
   /// The keys of all calls in their order, "STATUS MIDI ".
@@ -50,12 +41,6 @@ class FakeHost {
     std::string all;
     for (const Call& call : calls) all += call.key + " ";
     return all;
-  }
-  /// The lines given to the host's log.
-  std::vector<std::string> log_lines() const {
-    std::vector<std::string> lines;
-    for (const Call& call : calls_of("LOGMESS")) lines.push_back(call.input.text());
-    return lines;
   }
   /// The places of the failures given to the host's log, with the module's name before them.
   std::vector<std::string> error_places() const {
@@ -74,41 +59,28 @@ class FakeHost {
   int living = 0;
 
  private:
-  class Object final : public Host {
-   public:
-    Object(FakeHost& owner, int instance) : owner_(owner), instance_(instance) {}
-    ~Object() override { --owner_.living; }
+  struct Object final : Host {
+    explicit Object(FakeHost& host) : owner(host), instance(++host.created) { ++host.living; }
+    ~Object() override { --owner.living; }
     bool Request(std::string& key, Variant& input, Variant& output) override {
-      owner_.calls.push_back({instance_, key, input, output});
-      if (owner_.failing.count(key) ||
-          (key == "STORE" && owner_.failing_records.count(record(input)))) {
-        throw RuntimeError(RuntimeError::kHostFailure, "The host does not answer", "FakeHost");
-      }
-      return owner_.answer(key, input, output);
+      owner.calls.push_back({instance, key, input, output});
+      return owner.answer(key, input, output);
     }
-
-   private:
-    FakeHost& owner_;
-    int instance_;
+    FakeHost& owner;
+    int instance;
   };
 
   bool answer(const std::string& key, const Variant& input, Variant& output) {
-    const auto own = answers.find(key);
-    if (own != answers.end()) {
-      output = own->second;
-      return true;
-    }
-    if (key == "MIDI") return false;
+    const bool stores = key == "STORE", reads = key == "READ";
+    const std::string record =
+        stores || reads ? input.at(0).text() + "/" + input.at(1).text() : std::string();
+    const bool fails = failing.contains(key) || (stores && failing_records.contains(record));
+    if (fails) throw RuntimeError(RuntimeError::kHostFailure, "No answer", "FakeHost");
     if (key == "STATUS") output = Variant::Array{0, 2};
-    if (key == "STORE") records[record(input)] = input.at(2);
-    if (key == "READ") {
-      const auto found = records.find(record(input));
-      output = found == records.end() ? Variant(Variant::Array{"NIL"}) : found->second;
-    }
-    return true;
-  }
-  static std::string record(const Variant& input) {
-    return input.at(0).text() + "/" + input.at(1).text();
+    if (stores) records[record] = input.at(2);
+    if (reads) output = records.contains(record) ? records[record] : Variant(Variant::Array{"NIL"});
+    if (answers.contains(key)) output = answers[key];
+    return key != "MIDI" || answers.contains(key);
   }
 };
 

@@ -8,19 +8,16 @@
 
 namespace tonarix {
 
-/// Texts that show their key: "[629s]".
-struct KeyLanguage final : LanguageObject {
-  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
-};
-struct TwoLanguages final : LanguageList {
+/// Two languages whose texts show their key: "[629s]".
+struct KeyLanguage final : LanguageObject, LanguageList {
   std::vector<LanguageRow> languages() override {
     return {{"English", "english"}, {"Deutsch", "deutsch"}};
   }
+  std::string Wort(const std::string& key) override { return "[" + key + "]"; }
 };
 
-/// Two languages of such texts.
 inline LanguageLibraries key_languages() {
-  return {[] { return std::make_unique<TwoLanguages>(); },
+  return {[] { return std::make_unique<KeyLanguage>(); },
           [](const std::string&) { return std::make_unique<KeyLanguage>(); }};
 }
 

@@ -7,12 +7,10 @@
 
 namespace tonarix {
 
-/// Texts that show their key, "[629]", unless a text of their own is given to them. The keys asked
-/// for are counted.
+/// Texts that show their key, "[629]", unless a text of their own is given to them.
 class KeyTexts final : public Texts {
  public:
   std::string Wort(TextKey nr) const override {
-    ++asked[nr.number];
     const auto found = given.find(nr.number);
     return found == given.end() ? shown(nr) : found->second;
   }
@@ -21,7 +19,6 @@ class KeyTexts final : public Texts {
   static std::string shown(TextKey nr) { return "[" + std::to_string(nr.number) + "]"; }
 
   std::map<int, std::string> given;  ///< by key
-  mutable std::map<int, int> asked;  ///< how often, by key
 };
 
 }  // namespace tonarix

@@ -2,10 +2,10 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <functional>
 #include <mutex>
 #include <utility>
+#include <vector>
 
 namespace tonarix {
 
@@ -28,7 +28,10 @@ class MainThread {
     return arrived_.wait_for(lock, std::chrono::seconds(10), [this] { return !tasks_.empty(); });
   }
   void run_posted() {
-    while (auto task = take()) task();
+    std::unique_lock lock(mutex_);
+    const auto due = std::exchange(tasks_, {});
+    lock.unlock();
+    for (const auto& task : due) task();
   }
   /// Runs what is posted until the condition holds; false when it never does.
   bool run_until(const std::function<bool()>& condition) {
@@ -40,17 +43,9 @@ class MainThread {
   }
 
  private:
-  std::function<void()> take() {
-    const std::lock_guard lock(mutex_);
-    if (tasks_.empty()) return {};
-    auto task = std::move(tasks_.front());
-    tasks_.pop_front();
-    return task;
-  }
-
   std::mutex mutex_;
   std::condition_variable arrived_;
-  std::deque<std::function<void()>> tasks_;
+  std::vector<std::function<void()>> tasks_;
 };
 
 }  // namespace tonarix

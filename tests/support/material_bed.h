@@ -26,7 +26,6 @@ class MaterialBed {
         material(settings, key, row, box, chance) {
     begin();
   }
-  MaterialBed(const MaterialBed&) = delete;
 
   /// A new exercise with the same settings, as if the window had been opened again.
   void begin() {
@@ -70,31 +69,23 @@ class MaterialBed {
 /// was only found beyond the range.
 inline std::string broken_law(const MaterialBed& bed, bool strict_range = true) {
   const Settings& s = bed.settings;
-  const auto in_key = [&](Tone tone) {
-    for (int r = 0; r < bed.key.anz_stufen; ++r) {
-      const Tone row = bed.key.skala[static_cast<std::size_t>(r)];
-      if (row.qz == tone.qz && (tone.chr - row.chr) % 12 == 0) return true;
-    }
-    return false;
-  };
   int thirds = 0;
-  for (int i = 0; i <= s.invzahl + 1; ++i) {
-    const Tone tone = bed.row.inv_ton[static_cast<std::size_t>(i)];
+  for (std::size_t i = 0; i <= static_cast<std::size_t>(s.invzahl) + 1; ++i) {
+    const Tone tone = bed.row.inv_ton[i];
     if (!has_name(tone.qz)) return "qz outside the table";
     if (tone.chr % 12 != pitch_class(tone.qz)) return "a tone that is not what its name says";
-    if (!in_key(tone)) return "a tone outside the key";
+    if (!skala_row(bed.key, tone.qz)) return "a tone outside the key";
     const int above = tone.chr - bed.key.tonart_offset;
     if (strict_range && (above < s.tonraum_min || above > s.tonraum_max)) return "out of range";
     if (i == 0 && tone.qz != bed.key.skala[0].qz) return "a row without the keynote first";
-    if (i >= 2 && tone.chr == bed.row.inv_ton[static_cast<std::size_t>(i - 2)].chr) {
-      return "a tone equal to the one two before";
-    }
     if (i == 0) continue;
+    const Tone before = bed.row.inv_ton[i - 1];
+    if (i >= 2 && tone.chr == bed.row.inv_ton[i - 2].chr)
+      return "a tone equal to the one two before";
     const int pitch_over_keynote = (tone.chr - bed.key.skala[0].chr + 120) % 12;
     if (pitch_over_keynote == 3) thirds |= 1;
     if (pitch_over_keynote == 4) thirds |= 2;
-    const Tone before = bed.row.inv_ton[static_cast<std::size_t>(i - 1)];
-    const int iv = bed.row.iv[static_cast<std::size_t>(i - 1)];
+    const int iv = bed.row.iv[i - 1];
     const int direction = tone.chr > before.chr ? 1 : -1;
     if (tone.chr == before.chr || (iv > 0) != (direction > 0)) return "a false direction";
     const int fifths = tone.qz - before.qz;

@@ -12,43 +12,37 @@ namespace tonarix {
 
 /// Every combination of settings that the drawing of a row looks at and the windows allow: level,
 /// naming, degree, mode, key, size with its ranges, place of the range, count. Sizes above an
-/// octave need four octaves; a chosen degree needs a single interval. `step` takes every step-th
-/// only.
-inline std::vector<Settings> material_settings(int step = 1) {
-  std::vector<Settings> all;
-  int number = 0;
-  Settings s;
-  const auto add_counts = [&] {
-    for (s.invzahl = 1; s.invzahl <= (s.ton_st_wahl == 1 ? 1 : 4); ++s.invzahl) {
-      if (number++ % step == 0) all.push_back(s);
-    }
-  };
-  const auto add_degrees = [&] {
-    constexpr std::int16_t kDegrees[] = {7, 9, 11};
-    for (s.ton_st_wahl = 0; s.ton_st_wahl <= 1; ++s.ton_st_wahl) {
-      const std::int16_t degrees = s.ton_st_wahl == 1 ? kDegrees[s.tongeschl] : std::int16_t{1};
-      for (s.stufe_wahl = 0; s.stufe_wahl < degrees; ++s.stufe_wahl) add_counts();
-    }
-  };
-  const auto add_ranges = [&] {
-    for (s.ivg = 0; s.ivg <= 2; ++s.ivg) {
-      for (s.E_Oktav = s.ivg == 0 ? 0 : 2; s.E_Oktav <= 3; ++s.E_Oktav) {
-        for (int place = 0; place <= 3 - s.E_Oktav; ++place) {
-          s.tonraum_min = static_cast<std::int16_t>(36 + 12 * place);
-          s.tonraum_max = static_cast<std::int16_t>(s.tonraum_min + 24 + 12 * s.E_Oktav);
-          add_degrees();
-        }
+/// octave need four octaves; a chosen degree needs a single interval.
+inline std::vector<Settings> material_settings() {
+  std::vector<Settings> all(1);
+  const auto vary = [&all]<typename Value>(Value Settings::*field, int first, int last,
+                                           bool (*allowed)(const Settings&)) {
+    std::vector<Settings> varied;
+    for (Settings& s : all) {
+      for (int value = first; value <= last; ++value) {
+        s.*field = static_cast<Value>(value);
+        if (allowed(s)) varied.push_back(s);
       }
     }
+    all = std::move(varied);
   };
-  for (int level = 0; level <= 4; ++level) {
-    s.Uebungsmodus = static_cast<Level>(level);
-    for (const Naming naming : {Naming::from_keynote, Naming::from_tone_before}) {
-      s.abfr_iv = naming;
-      for (s.tongeschl = 0; s.tongeschl <= 2; ++s.tongeschl) {
-        for (s.Tonart = 0; s.Tonart <= 1; ++s.Tonart) add_ranges();
-      }
-    }
+  const auto always = [](const Settings&) { return true; };
+  vary(&Settings::Uebungsmodus, 0, 4, always);
+  vary(&Settings::abfr_iv, 0, 1, always);
+  vary(&Settings::tongeschl, 0, 2, always);
+  vary(&Settings::Tonart, 0, 1, always);
+  vary(&Settings::ivg, 0, 2, always);
+  vary(&Settings::E_Oktav, 0, 3, [](auto& s) { return s.ivg == 0 || s.E_Oktav >= 2; });
+  // At first the number of octaves over the lowest place.
+  vary(&Settings::tonraum_min, 0, 3, [](auto& s) { return s.tonraum_min <= 3 - s.E_Oktav; });
+  vary(&Settings::ton_st_wahl, 0, 1, always);
+  vary(&Settings::stufe_wahl, 0, 10, [](auto& s) {
+    return s.stufe_wahl == 0 || (s.ton_st_wahl == 1 && s.stufe_wahl < 7 + 2 * s.tongeschl);
+  });
+  vary(&Settings::invzahl, 1, 4, [](auto& s) { return s.ton_st_wahl == 0 || s.invzahl == 1; });
+  for (Settings& s : all) {
+    s.tonraum_min = static_cast<std::int16_t>(36 + 12 * s.tonraum_min);
+    s.tonraum_max = static_cast<std::int16_t>(s.tonraum_min + 24 + 12 * s.E_Oktav);
   }
   return all;
 }

@@ -24,9 +24,7 @@ class RecordingDevices final : public MidiDevices {
   /// A note that began.
   struct Note {
     double at_ms = 0;
-    int channel = 0;
-    int note = 0;
-    int velocity = 0;
+    int channel = 0, note = 0, velocity = 0;
     friend bool operator==(const Note&, const Note&) = default;
   };
 
@@ -35,19 +33,11 @@ class RecordingDevices final : public MidiDevices {
 
   std::vector<MidiDeviceInfo> list() override { return devices; }
   std::unique_ptr<MidiPort> open(int number) override {
-    if (refuses) {
-      throw RuntimeError(RuntimeError::kDeviceError, "The MIDI device is gone", "RecordingDevices");
-    }
+    if (refuses) throw RuntimeError(RuntimeError::kDeviceError, "The MIDI device is gone", "test");
     opened = number;
     return std::make_unique<Port>(*this);
   }
 
-  double now_ms() const { return seconds(scheduler_.now() - started_) * 1000.0; }
-  std::vector<MidiMessage> messages() const {
-    std::vector<MidiMessage> found;
-    for (const Entry& entry : log) found.push_back(entry.message);
-    return found;
-  }
   std::vector<Note> notes() const {
     std::vector<Note> found;
     for (const auto& [at_ms, message] : log) {
@@ -59,8 +49,8 @@ class RecordingDevices final : public MidiDevices {
   /// The last program sent to the channel, -1 when there was none.
   int program(int channel) const {
     int last = -1;
-    for (const Entry& entry : log) {
-      if (entry.message.status == (0xC0 | channel)) last = entry.message.data1;
+    for (const auto& [at_ms, message] : log) {
+      if (message.status == (0xC0 | channel)) last = message.data1;
     }
     return last;
   }
@@ -74,17 +64,16 @@ class RecordingDevices final : public MidiDevices {
   int queues_started = 0;
 
  private:
-  class Port final : public MidiPort {
-   public:
-    explicit Port(RecordingDevices& owner) : owner_(owner) {}
+  struct Port final : MidiPort {
+    explicit Port(RecordingDevices& devices) : owner(devices) {}
     ~Port() override { stop_queue(); }
     void send(const MidiMessage& message) override {
-      owner_.log.push_back({owner_.now_ms(), message});
+      owner.log.push_back({seconds(owner.scheduler_.now() - owner.started_) * 1000.0, message});
     }
     void start_queue(std::vector<MidiMessage> queue, std::function<void()> ran_out) override {
       stop_queue();
-      owner_.queue = queue;
-      ++owner_.queues_started;
+      owner.queue = queue;
+      ++owner.queues_started;
       std::int32_t end = 0;
       for (const MidiMessage& message : queue) {
         post(message.time, [this, message] { send(message); });
@@ -93,20 +82,18 @@ class RecordingDevices final : public MidiDevices {
       post(end, std::move(ran_out));
     }
     void stop_queue() override {
-      for (const Scheduler::TaskId id : pending_) owner_.scheduler_.cancel(id);
-      pending_.clear();
+      for (const Scheduler::TaskId id : pending) owner.scheduler_.cancel(id);
+      pending.clear();
     }
     void set_volume(std::int32_t left, std::int32_t right) override {
-      owner_.volumes.emplace_back(left, right);
+      owner.volumes.emplace_back(left, right);
     }
-
-   private:
     void post(std::int32_t ms, Scheduler::Task task) {
-      pending_.push_back(owner_.scheduler_.post(milliseconds(ms), std::move(task)));
+      pending.push_back(owner.scheduler_.post(milliseconds(ms), std::move(task)));
     }
 
-    RecordingDevices& owner_;
-    std::vector<Scheduler::TaskId> pending_;
+    RecordingDevices& owner;
+    std::vector<Scheduler::TaskId> pending;
   };
 
   Scheduler& scheduler_;

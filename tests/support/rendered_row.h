@@ -18,38 +18,31 @@ inline double worst_onset_error_ms(const std::shared_ptr<Synthesizer>& synthesiz
   constexpr std::uint8_t kNote = 72;
   constexpr std::uint8_t kWoodBlock = 115;
   constexpr double kFramesPerMs = Synthesizer::kSampleRate / 1000.0;
+  constexpr int kSilence = 1000;  // frames
   VirtualScheduler scheduler;
   SynthPort port(synthesizer, scheduler);
-  port.send({0xC0, kWoodBlock, 0, 0, 0});
+  port.send({0xC0, kWoodBlock, 0});
   std::vector<MidiMessage> queue;
   for (int i = 0; i < notes; ++i) {
-    queue.push_back({0x90, kNote, 100, i * beat_ms, 0});
-    queue.push_back({0x80, kNote, 100, i * beat_ms + beat_ms / 4, 0});
+    queue.push_back({0x90, kNote, 100, i * beat_ms});
+    queue.push_back({0x80, kNote, 100, i * beat_ms + beat_ms / 4});
   }
   port.start_queue(queue, [] {});
   const std::vector<float> sound =
       synthesizer->render(static_cast<int>((notes + 0.5) * beat_ms * kFramesPerMs));
 
-  const auto sounds = [&](std::size_t frame) {
-    return std::abs(sound[2 * frame]) + std::abs(sound[2 * frame + 1]) > 1e-6F;
-  };
-  std::vector<double> onsets;
-  std::size_t quiet = 1000;
-  for (std::size_t frame = 0; frame < sound.size() / 2; ++frame) {
-    if (!sounds(frame)) {
-      ++quiet;
-      continue;
+  double first_ms = 0, worst_ms = 0;
+  int onsets = 0, quiet = kSilence;
+  for (std::size_t frame = 0; frame < sound.size() / 2; ++frame, ++quiet) {
+    if (std::abs(sound[2 * frame]) + std::abs(sound[2 * frame + 1]) <= 1e-6F) continue;
+    const double at_ms = static_cast<double>(frame) / kFramesPerMs;
+    if (onsets == 0) first_ms = at_ms;
+    if (quiet >= kSilence) {
+      worst_ms = std::max(worst_ms, std::abs(at_ms - first_ms - onsets++ * beat_ms));
     }
-    if (quiet >= 1000) onsets.push_back(static_cast<double>(frame));
     quiet = 0;
   }
-  if (static_cast<int>(onsets.size()) != notes) return INFINITY;
-  double worst = 0;
-  for (int i = 0; i < notes; ++i) {
-    const double at_ms = (onsets[static_cast<std::size_t>(i)] - onsets[0]) / kFramesPerMs;
-    worst = std::max(worst, std::abs(at_ms - i * beat_ms));
-  }
-  return worst;
+  return onsets == notes ? worst_ms : INFINITY;
 }
 
 }  // namespace tonarix

@@ -13,18 +13,16 @@ class VirtualScheduler final : public Scheduler {
   void cancel(TaskId id) override { queue_.remove(id); }
 
   /// Runs everything that falls due within the span, then stands at its end.
-  void advance(Time span) {
-    const Time end = now_ + span;
+  void advance_ms(double ms) {
+    const Time end = now_ + milliseconds(ms);
     while (!queue_.empty() && queue_.next_due() <= end) {
       now_ = std::max(now_, queue_.next_due());
       queue_.take()();
     }
     now_ = end;
   }
-  void advance_ms(double ms) { advance(milliseconds(ms)); }
-
   /// Runs what is due now, without letting time pass.
-  void settle() { advance(Time::zero()); }
+  void settle() { advance_ms(0); }
 
   bool idle() const { return queue_.empty(); }
 

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QVBoxLayout>
+#include <string>
+#include <thread>
 
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
+#include "base/windows/qt_scheduler.h"
 #include "support/window_bed.h"
 
 namespace tonarix {
@@ -27,19 +29,13 @@ class KitWindow final : public Window {
   }
   void title_bar_close() override { told += "close "; }
   void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
-  void tell(const std::string& what) {
-    handle("tell.", [&] { told += what; });
-  }
   void mode_click(int index) {
-    handle("mode.", [&] {
-      told += "mode" + std::to_string(index) + " ";
-      if (index != 3) select_option(mode, index);
-    });
+    told += "mode" + std::to_string(index) + " ";
+    if (index != 3) select_option(mode, index);
+    changed();
   }
-  void leave() {
-    handle("leave.", [&] { common().windows.unload(*this); });
-  }
-  void say_changed() { changed(); }
+  void leave() { common().windows.unload(*this); }
+  using Window::changed;
 
   Control frame{*this, "frame"};
   Control title{*this, "title"};
@@ -56,35 +52,29 @@ class KitView final : public WindowView {
  public:
   KitView(KitWindow& window, const Texts& texts) : WindowView(window, texts) {
     auto* rows = new QVBoxLayout(&content());
-    group_card = card(&window.frame, &window.title);
-    rows->addWidget(group_card);
-    choices = options(window.mode, group_card->body(), [&window](int i) { window.mode_click(i); });
-    entries = list(window.entries, [&window](int i) {
-      window.entries.selected = i;
-      window.tell("entry" + std::to_string(i) + " ");
-    });
-    group_card->body().addWidget(entries);
-    volume = slider(window.volume, [&window](int value) {
-      window.volume.value = value;
-      window.tell("volume" + std::to_string(value) + " ");
-    });
-    rows->addWidget(volume);
-    field = label(window.field, TextRole::plain, {.keep_place = true, .signs = true});
-    rows->addWidget(field);
-    back = button(window.back, [&window] { window.leave(); });
-    go = button(window.go, [&window] { window.tell("go "); });
-    actions().addWidget(back);
-    actions().addWidget(go);
+    rows->addWidget(frame = card(&window.frame, &window.title));
+    choices = options(window.mode, frame->body(), [&window](int i) { window.mode_click(i); });
+    frame->body().addWidget(entries = list(window.entries, [&window](int i) {
+                              window.entries.selected = i;
+                              window.told += "entry" + std::to_string(i) + " ";
+                            }));
+    rows->addWidget(volume = slider(window.volume, [&window](int value) {
+                      window.volume.value = value;
+                      window.told += "volume" + std::to_string(value) + " ";
+                    }));
+    const Binding look{.keep_place = true, .signs = true};
+    rows->addWidget(field = label(window.field, TextRole::plain, look));
+    actions().addWidget(back = button(window.back, [&window] { window.leave(); }));
+    actions().addWidget(go = button(window.go, [&window] { window.told += "go "; }));
     way_on({go, back});
     way_back({back});
   }
-  Card* group_card;
+  Card* frame;
   std::vector<Option*> choices;
   ListBox* entries;
   Slider* volume;
   Label* field;
-  Button* back;
-  Button* go;
+  Button *back, *go;
 };
 
 void stroke(QWidget& target, int key, const QString& text = {}) {
@@ -104,19 +94,17 @@ struct BindingsTest : testing::Test, WindowBed {
 };
 
 TEST_F(BindingsTest, RealButtonsPressAndShowTheStateOfTheLogic) {
-  EXPECT_EQ(view->windowTitle(), "Kit");
-  EXPECT_EQ(view->findChild<QPushButton*>("go"), view->go);
   EXPECT_EQ(view->field->objectName(), "field_2");
   EXPECT_EQ(view->go->accessibleName(), "Save & go");
   // Each letter for Alt is given once.
   EXPECT_EQ(view->back->text(), "&go back");
   EXPECT_EQ(view->go->text(), "&Save && go");
-  EXPECT_EQ(view->group_card->title().text(), "G&roup");
+  EXPECT_EQ(view->frame->title().text(), "G&roup");
   view->go->click();
   window->go.enabled = false;
   window->caption = "Other";
   window->field.back = signal::right;
-  window->say_changed();
+  window->changed();
   EXPECT_EQ(view->windowTitle(), "Other");
   EXPECT_EQ(view->field->sign(), Label::Sign::right) << "beside its colour";
   view->go->click();
@@ -125,23 +113,21 @@ TEST_F(BindingsTest, RealButtonsPressAndShowTheStateOfTheLogic) {
   window->field.visible = false;
   window->field.back = signal::black;
   window->field.fore = signal::wrong;
-  window->say_changed();
+  window->changed();
   EXPECT_EQ(view->field->sign(), Label::Sign::wrong);
   EXPECT_FALSE(view->field->isVisible());
   EXPECT_TRUE(view->field->sizePolicy().retainSizeWhenHidden());
 }
 
 TEST_F(BindingsTest, AChoiceReachesTheLogicAndARefusedOneLeavesTheScreen) {
-  view->choices[1]->click();
-  EXPECT_EQ(window->told, "mode2 ");
+  for (const std::size_t choice : {1, 2}) view->choices[choice]->click();
   EXPECT_TRUE(window->mode[2].value);
-  view->choices[2]->click();
   EXPECT_EQ(window->told, "mode2 mode3 ");
   EXPECT_TRUE(view->choices[1]->isChecked());
   EXPECT_FALSE(view->choices[2]->isChecked());
   EXPECT_EQ(view->choices[1]->accessibleName(), "Group" + to_qstring(texts.Wort(700_text)) + "2");
   for (OptionControl& choice : window->mode) choice.value = false;
-  window->say_changed();
+  window->changed();
   for (const Option* choice : view->choices) EXPECT_FALSE(choice->isChecked());
 }
 
@@ -150,7 +136,7 @@ TEST_F(BindingsTest, OnlyTheUserSpeaksThroughListsAndSliders) {
   for (const char* entry : {" 30  ", "100  ", "120  "}) window->entries.add(entry);
   window->entries.selected = 2;
   window->volume.value = 100;
-  window->say_changed();
+  window->changed();
   EXPECT_EQ(window->told, "");
   EXPECT_EQ(view->entries->currentIndex(), 2);
   EXPECT_EQ(view->entries->itemText(0), "  30");
@@ -163,9 +149,9 @@ TEST_F(BindingsTest, OnlyTheUserSpeaksThroughListsAndSliders) {
 TEST_F(BindingsTest, ALockedFrameHoldsWhatIsInsideAndSaysSo) {
   window->frame.enabled = false;
   window->frame.back = signal::locked;
-  window->say_changed();
-  EXPECT_TRUE(view->group_card->locked());
-  EXPECT_TRUE(view->group_card->accessibleName().contains(to_qstring(texts.Wort(1250_text))));
+  window->changed();
+  EXPECT_TRUE(view->frame->locked());
+  EXPECT_TRUE(view->frame->accessibleName().contains(to_qstring(texts.Wort(1250_text))));
   EXPECT_FALSE(view->choices[0]->isEnabled());
   EXPECT_FALSE(view->entries->isEnabled());
   EXPECT_TRUE(view->volume->isEnabled());
@@ -177,12 +163,12 @@ TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
   view->activateWindow();
   view->back->setFocus();
   window->back.enabled = false;
-  window->say_changed();
+  window->changed();
   EXPECT_EQ(view->focusWidget(), view) << "the focus must not jump to a neighbour";
   stroke(*view, Qt::Key_Escape);
   EXPECT_EQ(windows.count(), 1);
   window->back.enabled = true;
-  window->say_changed();
+  window->changed();
   EXPECT_EQ(view->focusWidget(), view->back);
   stroke(*view, Qt::Key_Escape);
   EXPECT_EQ(windows.count(), 0);
@@ -191,8 +177,8 @@ TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
 TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
   EXPECT_FALSE(view->close());
   EXPECT_EQ(window->told, "close ");
-  EXPECT_TRUE(view->isVisible());
   const QPointer<KitView> gone = view;
+  EXPECT_TRUE(gone->isVisible());
   view->back->click();
   EXPECT_FALSE(gone->isVisible());
   EXPECT_EQ(presenter.newest_visible(), nullptr);
@@ -219,6 +205,30 @@ TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
   boxes.current()->findChild<QPushButton*>("no")->click();
   EXPECT_EQ(boxes.current(), nullptr);
   EXPECT_EQ(replies, "oyn");
+}
+
+TEST(QtSchedulerTest, TasksRunByDueTimeThenByPostingAlsoThoseOfOtherThreads) {
+  QtScheduler scheduler;
+  std::string order;
+  bool over = false;
+  std::thread::id ran_on;
+  const Scheduler::Time start = scheduler.now();
+  scheduler.post(milliseconds(12), [&] { over = true; });
+  scheduler.post(milliseconds(6), [&] { order += 'd'; });
+  const auto forgotten = scheduler.post(milliseconds(2), [&] { order += 'x'; });
+  scheduler.post([&] {
+    order += 'a';
+    scheduler.post([&] { order += 'c'; });
+  });
+  scheduler.post([&] { order += 'b'; });
+  scheduler.cancel(forgotten);
+  const auto work = [&] { ran_on = std::this_thread::get_id(); };
+  std::thread([&] { scheduler.post_from_thread(work); }).join();
+  EXPECT_EQ(ran_on, std::thread::id());
+  while (!over) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  EXPECT_EQ(order, "abcd");
+  EXPECT_GE(scheduler.now() - start, milliseconds(12));
+  EXPECT_EQ(ran_on, std::this_thread::get_id());
 }
 
 }  // namespace

@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <set>
+#include <span>
 
 #include "base/runtime_error.h"
+#include "engine/material/range_repair.h"
 #include "engine/material/worked_examples.h"
-#include "settings/offered_intervals.h"
 #include "support/material_bed.h"
 #include "support/material_settings.h"
 
@@ -29,57 +30,30 @@ TEST(Material, EveryRowInEverySettingKeepsTheLaws) {
 }
 
 TEST(Material, FirstDegreesStandAsOftenAsWorkedOutByHand) {
-  for (std::istringstream& example : worked_examples("steps")) {
-    int mode = 0;
-    example >> mode;
+  for (const std::vector<double>& example : worked_examples("steps")) {
     Key key;
-    build_scale(key, to_int16(mode), Naming::from_tone_before);
+    build_scale(key, to_int16(example.at(0)), Naming::from_tone_before);
     std::vector<std::int16_t> expected;
-    std::int16_t row = 0;
-    for (std::size_t count = 0; example >> count; ++row) {
-      expected.insert(expected.end(), count, row);
+    for (std::size_t row = 1; row < example.size(); ++row) {
+      expected.insert(expected.end(), static_cast<std::size_t>(example[row]), to_int16(row - 1));
     }
-    EXPECT_EQ(StufenGewichte(key), expected) << mode;
+    EXPECT_EQ(StufenGewichte(key), expected) << example[0];
   }
 }
 
 TEST(Material, KeyStaysOrChangesWithEachTask) {
-  for (const std::int16_t changing : {std::int16_t{0}, std::int16_t{1}}) {
+  for (const bool changing : {false, true}) {
     Settings settings;
     settings.Tonart = changing;
     MaterialBed bed(settings, 5);
-    EXPECT_TRUE(bed.material.mat_wahl());
-    std::map<int, int> keys;
+    std::set<int> keys;
     for (int n = 0; n < 300; ++n) {
-      EXPECT_EQ(bed.material.mat_wahl(), changing == 1);
-      ++keys[bed.key.qz_transpos];
+      EXPECT_EQ(bed.material.mat_wahl(), n == 0 || changing);
+      keys.insert(bed.key.qz_transpos);
     }
-    EXPECT_EQ(keys.size(), changing == 1 ? 12u : 1u);
+    EXPECT_EQ(keys.size(), changing ? 12U : 1U);
     bed.begin();
     EXPECT_TRUE(bed.material.mat_wahl());
-  }
-}
-
-// In a whole test nearly every interval of the list is asked: only the first one of each row is
-// drawn without looking at it, and what is not on the list there costs a place.
-TEST(Material, ATestAsksItsList) {
-  for (const Naming abfr_iv : {Naming::from_keynote, Naming::from_tone_before}) {
-    const Settings settings = material_of(3, 0, static_cast<int>(abfr_iv));
-    MaterialBed bed(settings, 12);
-    int missing = 0;
-    constexpr int kTests = 50;
-    for (int test = 0; test < kTests; ++test) {
-      bed.begin();
-      do {
-        bed.material.mat_wahl();
-      } while (bed.answer(0.2));
-      for (const std::int16_t value : offered_intervals(settings, bed.key)) {
-        if (bed.box.test.test_haeufgk[place_of(statistic_row(value, abfr_iv))] == 0) {
-          ++missing;
-        }
-      }
-    }
-    EXPECT_LT(missing, kTests * bed.box.box_zeilen / 20) << static_cast<int>(abfr_iv);
   }
 }
 
@@ -103,6 +77,55 @@ TEST(Material, OnlyTheRangeGivesWay) {
     ASSERT_EQ(broken_law(bed, false), "");
   }
   EXPECT_GT(bed.material.refused()[static_cast<std::size_t>(Refusal::out_of_range)], 100 * kRows);
+}
+
+constexpr Naming kDegree = Naming::from_keynote;
+constexpr Naming kStep = Naming::from_tone_before;
+
+struct Repair {
+  Naming naming;
+  bool pruef_frei;
+  std::int16_t okt_zusatz;
+  std::vector<std::int16_t> chr, iv;     // as drawn, the last interval rising
+  std::vector<std::int16_t> to_chr, to;  // repaired; none when it must be drawn again
+};
+
+// In C major from 48 to 72.
+const Repair kRepairs[] = {
+    {kStep, false, 0, {60, 64, 67}, {8, 7}, {60, 64, 67}, {8, 7}},  // inside
+    {kStep, false, 0, {60, 67, 60}, {2, -2}, {}, {}},               // as two before
+    {kDegree, false, 0, {60, 67, 74}, {5, 2}, {60, 67, 62}, {5, -2}},
+    {kDegree, false, 0, {60, 67, 79}, {5, 5}, {60, 67, 55}, {5, -5}},
+    {kStep, false, 0, {60, 67, 74}, {2, 2}, {60, 67, 62}, {2, -3}},
+    {kStep, false, 12, {60, 67, 86}, {2, 2}, {60, 67, 50}, {2, -3}},
+    {kStep, false, 0, {60, 67, 79}, {2, 1}, {60, 67, 55}, {2, -1}},  // a prime
+    {kStep, true, 0, {62, 69, 76}, {2, 2}, {50, 57, 64}, {2, 2}},    // the row shifts
+    {kStep, true, 0, {60, 64, 71, 78}, {8, 2, 2}, {60, 64, 59, 66}, {8, -2, 2}},
+    {kStep, true, 0, {60, 64, 76, 83}, {8, 1, 2}, {60, 64, 52, 59}, {8, -1, 2}},
+    {kStep, true, 0, {60, 64, 76, 88}, {8, 1, 1}, {}, {}},  // two primes
+    {kStep, true, 0, {60, 64, 67, 74}, {8, -2, 2}, {60, 64, 67, 62}, {8, -2, -3}},
+    {kDegree, true, 0, {60, 67, 71, 76}, {5, 7, 3}, {60, 67, 71, 64}, {5, 7, -3}},
+};
+
+TEST(RangeRepair, ChangesTheMelodyAsWorkedOutByHand) {
+  for (const Repair& one : kRepairs) {
+    SCOPED_TRACE(&one - kRepairs);
+    Settings settings;
+    settings.abfr_iv = one.naming;
+    settings.tonraum_min = 48;
+    settings.tonraum_max = 72;
+    Key key;
+    build_scale(key, 0, one.naming);
+    TaskRow row;
+    for (std::size_t i = 0; i < one.chr.size(); ++i) row.inv_ton[i] = {one.chr[i], 19};
+    std::ranges::copy(one.iv, row.iv.begin());
+    RowUnderWay built{row, 1, one.okt_zusatz, one.pruef_frei};
+    const int last = static_cast<int>(one.iv.size());
+    ASSERT_EQ(TonraumTest(built, last, settings, key), !one.to_chr.empty());
+    EXPECT_TRUE(std::ranges::equal(one.to, std::span(row.iv).first(one.to.size())));
+    const auto tones = std::span(row.inv_ton).first(one.to_chr.size());
+    EXPECT_TRUE(std::ranges::equal(one.to_chr, tones, {}, {}, &Tone::chr));
+  }
 }
 
 }  // namespace

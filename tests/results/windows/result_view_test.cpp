@@ -1,12 +1,21 @@
 #include "results/windows/result_view.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QBitmap>
+#include <QFileDialog>
+#include <QPointer>
+#include <QPrinter>
 #include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include "base/windows/presenter.h"
+#include "base/windows/theme.h"
 #include "results/result_bed.h"
+#include "results/windows/qt_sheet_printer.h"
+#include "results/windows/sheet_painter.h"
 
 namespace tonarix {
 namespace {
@@ -14,13 +23,12 @@ namespace {
 struct ResultViewTest : testing::Test, ResultBed {
   ResultViewTest() {
     presenter.add<ResultWindow, ResultView>("testergebnis", texts);
-    window = &open_filled();
-    view = presenter.view_of(*window);
+    answered(4, 1, -16);
+    view = presenter.view_of(open_filled());
   }
   QPushButton& button(const char* name) { return *view->findChild<QPushButton*>(name); }
 
   Presenter presenter{windows};
-  ResultWindow* window = nullptr;
   WindowView* view = nullptr;
 };
 
@@ -39,7 +47,7 @@ TEST_F(ResultViewTest, NothingIsClippedNorScrolledToTheSideOnASmallScreen) {
 }
 
 TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
-  EXPECT_EQ(view->windowTitle().toStdString(), window->caption);
+  EXPECT_EQ(view->windowTitle(), "[1200][700]Training");
   const auto spoken = [&](const char* name) {
     return view->findChild<QWidget*>(name)->accessibleDescription();
   };
@@ -52,6 +60,117 @@ TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
   button("cmdOk").click();
   scheduler.settle();
   EXPECT_EQ(closed, 1);
+}
+
+QImage painted(const SheetPicture& picture, double factor) {
+  QImage image(int(picture.width * factor), int(picture.height * factor),
+               QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  paint_sheet(painter, picture, image.rect());
+  painter.end();
+  return image;
+}
+
+struct SheetPrinterTest : testing::Test, ResultBed {
+  QtSheetPrinter printer{texts, [] { return nullptr; }};
+  QTemporaryDir folder;
+  const SheetContent sheet = (fill(), open_filled().content());
+  SheetPicture page = sheet_picture(sheet, SheetGround::paper);
+};
+
+TEST_F(SheetPrinterTest, FieldsHaveTheirColourAtAnyResolution) {
+  const SheetPicture screen = sheet_picture(sheet, SheetGround::screen);
+  const QImage image = painted(screen, 1.5);
+  for (const SheetSurface& surface : screen.surfaces) {
+    const SheetBox& box = surface.box;
+    const QPointF inside((box.left + 4) * 1.5, (box.top + box.height / 2) * 1.5);
+    if (surface.framed) continue;
+    EXPECT_EQ(image.pixelColor(inside.toPoint()), theme::colour(surface.fill));
+  }
+}
+
+TEST_F(SheetPrinterTest, NoTextLeavesItsBoxHoweverLong) {
+  SheetPicture picture;
+  picture.width = 300;
+  picture.height = 40;
+  for (const char* name :
+       {"Wolfeschlegelsteinhausenbergerdorff von und zu", "עדה לאבלייס עדה לאבלייס עדה",
+        "<h1>x</h1> &amp; <img src=\"file:///etc/passwd\">", "Z\u0301\u0302\u0303\u0304\u0305"}) {
+    picture.texts = {{{100, 10, 60, 20}, name, SheetFont::plain, false}};
+    const QImage ink = painted(picture, 1.0).convertToFormat(QImage::Format_Mono);
+    const QRect place = QRegion(QBitmap::fromImage(ink)).boundingRect();
+    EXPECT_FALSE(place.isEmpty());
+    EXPECT_TRUE(QRect(99, 0, 63, 40).contains(place)) << name << place.left() << place.right();
+  }
+}
+
+TEST_F(SheetPrinterTest, TheFullSheetIsOneSmallLandscapePageWithItsText) {
+  const QString path = folder.filePath("sheet.pdf");
+  ASSERT_EQ(printer.write_pdf(page, path).end, PrintResult::End::printed);
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray written = file.readAll();
+  EXPECT_TRUE(written.startsWith("%PDF"));
+  EXPECT_LT(written.size(), 300'000);
+  EXPECT_TRUE(written.contains("/ToUnicode")) << "its text can be searched";
+  EXPECT_TRUE(written.contains("/Count 1"));
+  const QByteArray box = written.mid(written.indexOf("/MediaBox [") + 11).split(']').first();
+  const QList<QByteArray> corners = box.simplified().split(' ');
+  EXPECT_GT(corners.at(2).toDouble(), corners.at(3).toDouble());
+}
+
+TEST_F(SheetPrinterTest, WhatCannotBeWrittenIsToldAndLeavesNothing) {
+  const QString path = folder.filePath("missing/sheet.pdf");
+  const PrintResult result = printer.write_pdf(page, path);
+  EXPECT_EQ(result.end, PrintResult::End::failed);
+  EXPECT_THAT(result.reason, testing::StartsWith("[1212]" + path.toStdString() + "\n"));
+  EXPECT_EQ(printer.write_pdf(page, folder.path()).end, PrintResult::End::failed);
+  QPrinter device(QPrinter::HighResolution);
+  device.setOutputFormat(QPrinter::PdfFormat);
+  device.setOutputFileName(path);
+  EXPECT_EQ(printer.print_on(page, device).end, PrintResult::End::failed);
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
+  device.setOutputFileName(folder.filePath("printed.pdf"));
+  EXPECT_EQ(printer.print_on(page, device).end, PrintResult::End::printed);
+  EXPECT_TRUE(QFile::exists(folder.filePath("printed.pdf")));
+}
+
+struct PrintDialogTest : SheetPrinterTest {
+  PrintDialogTest() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    QSettings(QSettings::UserScope, "QtProject").setValue("FileDialog/lastVisited", "/mine");
+    printer.print(page, [this](const PrintResult& result) { results.push_back(result); });
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (auto* found = qobject_cast<QDialog*>(widget)) dialog = found;
+    }
+  }
+  void let_go() {
+    QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  QPointer<QDialog> dialog;
+  std::vector<PrintResult> results;
+};
+
+TEST_F(PrintDialogTest, ADialogThatIsClosedCancels) {
+  ASSERT_TRUE(dialog);
+  EXPECT_TRUE(results.empty()) << "it does not block";
+  dialog->reject();
+  let_go();
+  EXPECT_EQ(results.at(0).end, PrintResult::End::cancelled);
+  EXPECT_FALSE(dialog);
+}
+
+TEST_F(PrintDialogTest, WithoutAPrinterTheSheetGoesIntoAFileAndNothingIsRemembered) {
+  QPointer<QFileDialog> files = qobject_cast<QFileDialog*>(dialog);
+  if (!files) GTEST_SKIP() << "this machine has a printer";
+  files->selectFile(folder.filePath("mine.pdf"));
+  QMetaObject::invokeMethod(files, "accept");
+  let_go();
+  EXPECT_EQ(results.at(0).end, PrintResult::End::printed) << results[0].reason;
+  EXPECT_TRUE(QFile::exists(folder.filePath("mine.pdf")));
+  EXPECT_EQ(QSettings(QSettings::UserScope, "QtProject").value("FileDialog/lastVisited"), "/mine");
 }
 
 }  // namespace

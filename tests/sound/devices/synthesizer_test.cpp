@@ -1,19 +1,22 @@
 #include "sound/devices/synthesizer.h"
 
+#include <fluidsynth.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <complex>
+#include <memory>
 #include <numbers>
 
+#include "sound/instruments.h"
+#include "support/main_thread.h"
 #include "support/rendered_row.h"
 
 namespace tonarix {
 namespace {
 
 constexpr int kRate = Synthesizer::kSampleRate;
-constexpr int kFlute = 73;
-constexpr int kAccordion = 21;  // of the steadiest pitch
+constexpr std::uint8_t kFlute = 73;
+constexpr std::uint8_t kAccordion = 21;  // of the steadiest pitch
 
 using Sound = std::vector<float>;  // frames of left and right
 
@@ -46,11 +49,6 @@ double cents_above_440(const Sound& sound) {
   return 1200 * std::log2(1 + turned / kTurn * kRate / static_cast<double>(at) / 440.0);
 }
 
-MidiMessage message(int status, int data1, int data2, std::int32_t time = 0) {
-  return {static_cast<std::uint8_t>(status), static_cast<std::uint8_t>(data1),
-          static_cast<std::uint8_t>(data2), time, 0};
-}
-
 struct SynthesizerTest : testing::Test {
   SynthesizerTest() { EXPECT_EQ(synthesizer->reason(), ""); }
   Sound render_ms(double ms) { return synthesizer->render(static_cast<int>(ms * kRate / 1000)); }
@@ -59,18 +57,13 @@ struct SynthesizerTest : testing::Test {
     render_ms(500);
     return render_ms(1000);
   }
-  void run_posted() {
-    for (const auto& task : std::exchange(posted, {})) task();
-  }
-
   VirtualScheduler scheduler;
-  std::vector<std::function<void()>> posted;
-  std::shared_ptr<Synthesizer> synthesizer =
-      std::make_shared<Synthesizer>(Synthesizer::Output::rendered_by_caller, sound_font_places(),
-                                    [this](std::function<void()> task) { posted.push_back(task); });
+  MainThread main;
+  std::shared_ptr<Synthesizer> synthesizer = std::make_shared<Synthesizer>(
+      Synthesizer::Output::rendered_by_caller, sound_font_places(), main.poster());
   int ended = 0;
   const std::function<void()> at_end = [this] { ++ended; };
-  const std::vector<MidiMessage> note{message(0x90, 60, 100), message(0x80, 60, 0, 300)};
+  const std::vector<MidiMessage> note{{0x90, 60, 100}, {0x80, 60, 0, 300}};
 };
 
 TEST_F(SynthesizerTest, OnsetsLieWithinOneBlockOfTheirTimes) {
@@ -81,77 +74,75 @@ TEST_F(SynthesizerTest, OnsetsLieWithinOneBlockOfTheirTimes) {
 }
 
 TEST_F(SynthesizerTest, ABendStepIsAnEvenThirtySecondOfASemitone) {
-  for (const int bend : {48, 60, 63, 64, 65, 70, 80}) {
+  for (const std::uint8_t bend : {48, 60, 63, 64, 65, 70, 80}) {
     SynthPort port(synthesizer, scheduler);
-    port.send(message(0xC2, kAccordion, 0));
-    port.send(message(0xE2, 0, bend));
-    port.send(message(0x92, 69, 100));
+    port.send({0xC2, kAccordion, 0});
+    port.send({0xE2, 0, bend});
+    port.send({0x92, 69, 100});
     EXPECT_NEAR(cents_above_440(settled()), (bend - 64) * 3.125, 1.5) << bend;
   }
 }
 
 TEST_F(SynthesizerTest, StoppingOrClosingSilencesAtOnceAndOpeningCentresTheBends) {
-  SynthPort port(synthesizer, scheduler);
-  port.start_queue(note, at_end);
-  EXPECT_GT(loudness(render_ms(200)), 0.001);
-  port.stop_queue();
-  render_ms(20);
-  EXPECT_EQ(loudness(render_ms(1000)), 0);
-  EXPECT_TRUE(posted.empty());
   {
-    SynthPort other(synthesizer, scheduler);
-    other.send(message(0xC0, kAccordion, 0));
-    other.send(message(0xE0, 0, 80));
-    other.send(message(0x90, 60, 100));
+    SynthPort port(synthesizer, scheduler);
+    port.start_queue(note, at_end);
+    EXPECT_GT(loudness(render_ms(200)), 0.001);
+    port.stop_queue();
+    render_ms(20);
+    EXPECT_EQ(loudness(render_ms(1000)), 0);
+    main.run_posted();
+    EXPECT_EQ(ended, 0);
+    port.send({0xC0, kAccordion, 0});
+    port.send({0xE0, 0, 80});
+    port.send({0x90, 60, 100});
     EXPECT_GT(loudness(render_ms(100)), 0.001);
   }
   render_ms(20);
   EXPECT_EQ(loudness(render_ms(100)), 0);
   SynthPort reopened(synthesizer, scheduler);
-  reopened.send(message(0x90, 69, 100));
+  reopened.send({0x90, 69, 100});
   EXPECT_NEAR(cents_above_440(settled()), 0, 1.5);
 }
 
 TEST_F(SynthesizerTest, AQueueTellsItsEndOnceAndNeverAfterItWasStopped) {
   SynthPort port(synthesizer, scheduler);
+  const auto ended_after = [&](double ms) {
+    render_ms(ms);
+    main.run_posted();
+    return ended;
+  };
   port.start_queue(note, at_end);
-  render_ms(299);
-  EXPECT_TRUE(posted.empty());
-  render_ms(1000);
-  run_posted();
-  EXPECT_EQ(ended, 1);
-
+  EXPECT_EQ(ended_after(299), 0);
+  EXPECT_EQ(ended_after(1000), 1);
   port.start_queue({note[0]}, at_end);
   render_ms(10);
-  ASSERT_EQ(posted.size(), 1u);
+  ASSERT_TRUE(main.wait_for_post());
   port.stop_queue();
-  run_posted();
-  EXPECT_EQ(ended, 1);
-
+  EXPECT_EQ(ended_after(0), 1);
   port.start_queue({}, at_end);
-  render_ms(10);
-  run_posted();
-  EXPECT_EQ(ended, 2);
+  EXPECT_EQ(ended_after(10), 2);
 }
 
 TEST_F(SynthesizerTest, AQueueWhoseSoundNobodyTakesIsEnded) {
   SynthPort port(synthesizer, scheduler);
   port.start_queue(note, at_end);
-  scheduler.advance_ms(1500);
+  scheduler.advance_ms(2299);
   EXPECT_EQ(ended, 0);
-  scheduler.advance_ms(1000);
+  scheduler.advance_ms(1);
   EXPECT_EQ(ended, 1);
   EXPECT_TRUE(synthesizer->stalled());
   render_ms(1000);
-  EXPECT_TRUE(posted.empty());
+  main.run_posted();
+  EXPECT_EQ(ended, 1);
 }
 
 TEST_F(SynthesizerTest, TheVolumeScalesTheSoundEvenly) {
   const auto loudness_at = [&](std::int32_t left, std::int32_t right) {
     SynthPort port(synthesizer, scheduler);
     port.set_volume(left, right);
-    port.send(message(0xC0, kFlute, 0));
-    port.send(message(0x90, 69, 100));
+    port.send({0xC0, kFlute, 0});
+    port.send({0x90, 69, 100});
     return loudness(settled());
   };
   const double full = loudness_at(65535, 65535);
@@ -162,9 +153,41 @@ TEST_F(SynthesizerTest, TheVolumeScalesTheSoundEvenly) {
 
 TEST_F(SynthesizerTest, SixLoudTonesAndTheKeynoteStayUnclipped) {
   SynthPort port(synthesizer, scheduler);
-  for (int i = 1; i < 8; ++i) port.send(message(0x90 | i, 48 + 4 * i, 127));
+  for (std::uint8_t note_on = 0x91, tone = 52; note_on <= 0x97; ++note_on, tone += 4) {
+    port.send({note_on, tone, 127});
+  }
   const Sound sound = render_ms(500);
   EXPECT_LT(*std::max_element(sound.begin(), sound.end()), 1.0F);
+}
+
+TEST(ProgramNames, NoTwoExchangedWouldFitTheSoundFontBetter) {
+  const std::unique_ptr<fluid_settings_t, void (*)(fluid_settings_t*)> settings(
+      new_fluid_settings(), delete_fluid_settings);
+  const std::unique_ptr<fluid_synth_t, void (*)(fluid_synth_t*)> synth(
+      new_fluid_synth(settings.get()), delete_fluid_synth);
+  fluid_settings_setint(settings.get(), "synth.dynamic-sample-loading", 1);
+  ASSERT_GE(fluid_synth_sfload(synth.get(), sound_font_places().front().c_str(), 0), 0);
+  std::array<std::string, 128> presets;
+  for (int program = 0; program < 128; ++program) {
+    presets[program] = fluid_preset_get_name(
+        fluid_sfont_get_preset(fluid_synth_get_sfont(synth.get(), 0), 0, program));
+  }
+  const auto fit = [&presets](std::size_t name, std::size_t sound) {
+    const std::string_view words = general_midi_programs[name];
+    int shared_pairs = 0;
+    for (std::size_t at = 0; at + 2 <= words.size(); ++at) {
+      shared_pairs += presets[sound].find(words.substr(at, 2)) != std::string::npos;
+    }
+    return shared_pairs;
+  };
+  for (std::size_t one = 0; one < 128; ++one) {
+    for (std::size_t other = 0; other < one; ++other) {
+      EXPECT_NE(general_midi_programs[one], general_midi_programs[other]);
+      if (one == 91 && other == 85) continue;  // the lead is a "Solo Vox", the pad a "Space Voice"
+      EXPECT_GE(fit(one, one) + fit(other, other), fit(one, other) + fit(other, one))
+          << general_midi_programs[one] << ", " << general_midi_programs[other];
+    }
+  }
 }
 
 }  // namespace

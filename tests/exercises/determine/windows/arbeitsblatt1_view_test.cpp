@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include "base/windows/presenter.h"
+#include "exercises/determine/windows/scale_picture.h"
 #include "flow/flow_bed.h"
 
 namespace tonarix {
@@ -22,26 +23,27 @@ struct Arbeitsblatt1ViewTest : testing::Test {
   }
   void open() {
     window = &bed.open_exercise();
-    bed.scheduler.advance_ms(100);
     view = presenter.view_of(*window);
     view->resize(1024, 600);
-    QApplication::processEvents();
+    apply();
   }
   void apply() {
     view->apply();
     QApplication::processEvents();
   }
-  Button& button(const char* name) const { return *view->findChild<Button*>(name); }
+  template <typename Kind = Button>
+  Kind& child(const QString& name) const {
+    return *view->findChild<Kind*>(name);
+  }
+  AnswerButton& answer(int code) const {
+    return child<AnswerButton>(QStringLiteral("intervall_%1").arg(code));
+  }
+  AnswerField& field(int index) const {
+    return static_cast<AnswerField&>(child<Label>(QStringLiteral("ergebnis_%1").arg(index)));
+  }
   void stroke(int key, const QString& text = {}) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
     QApplication::sendEvent(view, &press);
-  }
-  AnswerButton& answer(int code) const {
-    return *view->findChild<AnswerButton*>(QStringLiteral("intervall_%1").arg(code));
-  }
-  AnswerField& field(int index) const {
-    return *static_cast<AnswerField*>(
-        view->findChild<Label*>(QStringLiteral("ergebnis_%1").arg(index)));
   }
 
   FakeHost host;
@@ -52,51 +54,34 @@ struct Arbeitsblatt1ViewTest : testing::Test {
   WindowView* view = nullptr;
 };
 
-TEST_F(Arbeitsblatt1ViewTest, RealButtonsAnswerAndActWhenTheRowHasSounded) {
+TEST_F(Arbeitsblatt1ViewTest, RealButtonsAndDigitsInReadingOrderAnswerWhenTheRowHasSounded) {
   open();
   const int right = bed.right_code(0);
   EXPECT_FALSE(answer(right).isEnabled()) << "while the row sounds";
-  bed.hear_row();
-  const int wrong = bed.wrong_code(*window, 0);
-  answer(wrong).click();
-  EXPECT_FALSE(answer(wrong).isEnabled());
-  EXPECT_EQ(field(0).sign(), Label::Sign::wrong);
-  button("wieder").click();
-  bed.hear_row();
-  EXPECT_EQ(view->findChild<Label*>("whlgzaehler")->text(), "1");
-  answer(right).click();
-  EXPECT_EQ(field(0).sign(), Label::Sign::right);
-  EXPECT_EQ(FlowBed::asked(*window), 1);
-}
-
-TEST_F(Arbeitsblatt1ViewTest, DigitsPressTheShownAnswersInReadingOrder) {
-  open();
   std::string digits;
   int wrong = 0;
   for (const int code : kAnswerOrder) {
     if (!answer(code).isVisible() || answer(code).digit() < 0) continue;
     digits += std::to_string(answer(code).digit());
-    if (code != bed.right_code(0)) wrong = code;
+    if (code != right) wrong = code;
   }
   EXPECT_EQ(digits, "1234567890");
+  const auto counts = [&] { return window->zaehler[0].text + window->zaehler[1].text; };
   stroke(Qt::Key_1);
-  EXPECT_EQ(window->zaehler[0].text + window->zaehler[1].text, "00") << "while the row sounds";
+  EXPECT_EQ(counts(), "00") << "while the row sounds";
   bed.hear_row();
   for (int presses = 1; presses <= 2; ++presses) {
     stroke(Qt::Key_0 + answer(wrong).digit());
     EXPECT_FALSE(answer(wrong).isEnabled());
-    EXPECT_EQ(window->zaehler[1].text, "1") << "a locked answer is not given twice";
+    EXPECT_EQ(counts(), "01") << "a locked answer is not given twice";
   }
-}
-
-TEST_F(Arbeitsblatt1ViewTest, AnswersKeepTheirPlacesWhileOthersHide) {
-  open();
-  const QRect before = answer(3).geometry();
-  window->intervall[2].visible = window->intervall[8].visible = false;
-  apply();
-  EXPECT_FALSE(answer(2).isVisible());
-  EXPECT_EQ(answer(3).geometry(), before);
-  EXPECT_LT(answer(1).y(), answer(5).y()) << "by size of interval";
+  EXPECT_EQ(field(0).sign(), Label::Sign::wrong);
+  child("wieder").click();
+  bed.hear_row();
+  EXPECT_EQ(child<Label>("whlgzaehler").text(), "1");
+  answer(right).click();
+  EXPECT_EQ(field(0).sign(), Label::Sign::right);
+  EXPECT_EQ(counts(), "11");
 }
 
 TEST_F(Arbeitsblatt1ViewTest, TheWayOnIsReturnAndNothingIsLeftByAccident) {
@@ -105,12 +90,11 @@ TEST_F(Arbeitsblatt1ViewTest, TheWayOnIsReturnAndNothingIsLeftByAccident) {
   stroke(Qt::Key_Return);
   EXPECT_TRUE(window->zurueck.enabled);
   bed.answer_row(*window);
-  const Button& repeat = button("wieder2");
+  const Button &repeat = child("wieder2"), &next = child("CmdNextAufg");
   EXPECT_TRUE(repeat.primary());
   const QRect place = repeat.parentWidget()->geometry();
   stroke(Qt::Key_Return);
   bed.hear_row();
-  const Button& next = button("CmdNextAufg");
   EXPECT_TRUE(next.isVisible() && next.primary() && !repeat.primary());
   stroke(Qt::Key_Return);
   EXPECT_EQ(FlowBed::asked(*window), 0);
@@ -127,7 +111,7 @@ TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButEscapeEndsNoTe
   window->wieder.text = "xylophone";
   apply();
   stroke(Qt::Key_X, "x");
-  EXPECT_FALSE(button("wieder").isEnabled()) << "it plays";
+  EXPECT_FALSE(child("wieder").isEnabled()) << "it plays";
 }
 
 TEST_F(Arbeitsblatt1ViewTest, WhatSoundsIsMarkedByItsPlaceAndNothingNamesTheSolution) {
@@ -135,11 +119,11 @@ TEST_F(Arbeitsblatt1ViewTest, WhatSoundsIsMarkedByItsPlaceAndNothingNamesTheSolu
   bed.scheduler.advance_ms(bed.beat());
   int marks = 0;
   for (int i = 0; i <= 5; ++i) {
-    const auto* mark = view->findChild<QWidget*>(QStringLiteral("sounding_%1").arg(i));
-    if (!mark->isVisible()) continue;
+    const auto& mark = child<QWidget>(QStringLiteral("sounding_%1").arg(i));
+    if (!mark.isVisible()) continue;
     ++marks;
-    EXPECT_TRUE(i == 0 || mark->x() > field(i - 1).geometry().right());
-    EXPECT_LT(mark->geometry().right(), field(i).x());
+    EXPECT_TRUE(i == 0 || mark.x() > field(i - 1).geometry().right());
+    EXPECT_LT(mark.geometry().right(), field(i).x());
   }
   EXPECT_EQ(marks, 1);
   bed.hear_row();
@@ -147,22 +131,27 @@ TEST_F(Arbeitsblatt1ViewTest, WhatSoundsIsMarkedByItsPlaceAndNothingNamesTheSolu
   for (const QWidget* widget : view->findChildren<QWidget*>()) {
     if (dynamic_cast<const AnswerButton*>(widget)) continue;
     const auto* label = dynamic_cast<const QLabel*>(widget);
-    EXPECT_FALSE(widget->accessibleName().contains(name)) << widget->objectName().toStdString();
-    EXPECT_FALSE(label && label->text().contains(name)) << widget->objectName().toStdString();
+    const QString told = widget->accessibleName() + (label ? label->text() : QString());
+    EXPECT_FALSE(told.contains(name)) << widget->objectName().toStdString();
   }
 }
 
-TEST_F(Arbeitsblatt1ViewTest, AllAnswersFitWithLongCaptionsAndNarrowWindowsScroll) {
+TEST_F(Arbeitsblatt1ViewTest, AnswersKeepTheirPlacesAllFitAndNarrowWindowsScroll) {
   settings.click(settings.invzahl[4]);
   open();
+  const QRect before = answer(3).geometry();
+  window->intervall[2].visible = window->intervall[8].visible = false;
+  apply();
+  EXPECT_FALSE(answer(2).isVisible());
+  EXPECT_EQ(answer(3).geometry(), before) << "while others hide";
+  EXPECT_LT(answer(1).y(), answer(5).y()) << "by size of interval";
   for (Control& button : window->intervall) {
     button.visible = true;
     button.text = "Augmented seventh, and more";
   }
   apply();
   const auto* area = view->findChild<QScrollArea*>();
-  EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
-  EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+  EXPECT_EQ(area->verticalScrollBar()->maximum() + area->horizontalScrollBar()->maximum(), 0);
   for (const QSize size : {QSize(1024, 600), QSize(512, 300), QSize(341, 200)}) {
     view->resize(size);
     QApplication::processEvents();
@@ -174,6 +163,26 @@ TEST_F(Arbeitsblatt1ViewTest, AllAnswersFitWithLongCaptionsAndNarrowWindowsScrol
     }
   }
   EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+}
+
+/// "C Db D= Eb" for the notes c, d flat, d natural, e flat.
+std::string written(std::int16_t tongeschl) {
+  using Sign = ScalePicture::Sign;
+  const std::map<Sign, std::string> signs{
+      {Sign::flat, "b "}, {Sign::natural, "= "}, {Sign::sharp, "# "}};
+  std::string text;
+  const ScalePicture picture(tongeschl, nullptr);
+  for (const ScalePicture::Note& note : picture.notes()) {
+    const auto sign = signs.find(note.sign);
+    text += "CDEFGABc"[note.step] + (sign == signs.end() ? " " : sign->second);
+  }
+  return text;
+}
+
+TEST(ScalePictureTest, WritesEachScaleOnC) {
+  EXPECT_EQ(written(0), "C D E F G A B c ");
+  EXPECT_EQ(written(1), "C D Eb F G Ab A= Bb B= c ");
+  EXPECT_EQ(written(2), "C Db D= Eb E= F G Ab A= Bb B= c ");
 }
 
 }  // namespace
