@@ -13,22 +13,22 @@ using enum Choice;
 // where they are asked for, rows transposed only where they are written: so the two share a place.
 // clang-format off
 constexpr FrameRow kFrames[] = {
-    // frame   title      holds                     locked          while open   row column columns
-    {10,       text::level_title, {Uebungsmodus, prfnr},    Lock::never,    signal::open,  0, 0, 2},
-    {7,        text::order_title, {abfrage},                Lock::exam,     signal::open,  0, 2},
-    {0,        text::key_title, {Tonart},                 Lock::training, signal::open,  0, 3},
-    {5,        text::mode_title, {tongeschl},              Lock::exam,     signal::open,  1, 0},
-    {4,        text::count_title, {invzahl},                Lock::exam,     signal::open,  1, 1},
-    {3,        text::size_title, {ivg},                    Lock::training, signal::open,  1, 2},
-    {1,        text::range_title, {E_Oktav, Combo_tonraum}, Lock::training, signal::open,  1, 3},
-    {6,        text::naming_title, {abfr_iv},                Lock::exam,     signal::open,  2, 0},
-    {kNoFrame,  345_text, {trans_dfg, trans_iv},    Lock::never,    signal::open,  2, 0},
-    {8,         556_text, {ton_st_wahl, stufe_wahl}, Lock::exam,    signal::open,  2, 1},
-    {9,        text::keynote_title, {grd_ton},                Lock::training, signal::open,  2, 2},
-    {11,       text::frequency_title, {frequenz},               Lock::training, signal::open,  2, 3},
-    {13,        635_text, {stimm_g},                Lock::training, signal::open,  3, 0},
-    {12,       text::tempo_title, {tempo},                  Lock::exam,     signal::sound, 3, 1},
-    {2,        text::sound_title, {kanal, patch},           Lock::training, signal::sound, 3, 2, 2},
+    // frame  title                   holds                      locked          while open     row, column, columns
+    {10,       text::level_title,      {Uebungsmodus, prfnr},     Lock::never,    signal::open,  0, 0, 2},
+    {7,        text::order_title,      {abfrage},                 Lock::exam,     signal::open,  0, 2},
+    {0,        text::key_title,        {Tonart},                  Lock::training, signal::open,  0, 3},
+    {5,        text::mode_title,       {tongeschl},               Lock::exam,     signal::open,  1, 0},
+    {4,        text::count_title,      {invzahl},                 Lock::exam,     signal::open,  1, 1},
+    {3,        text::size_title,       {ivg},                     Lock::training, signal::open,  1, 2},
+    {1,        text::range_title,      {E_Oktav, Combo_tonraum},  Lock::training, signal::open,  1, 3},
+    {6,        text::naming_title,     {abfr_iv},                 Lock::exam,     signal::open,  2, 0},
+    {kNoFrame, 345_text,               {trans_dfg, trans_iv},     Lock::never,    signal::open,  2, 0},
+    {8,        556_text,               {ton_st_wahl, stufe_wahl}, Lock::exam,     signal::open,  2, 1},
+    {9,        text::keynote_title,    {grd_ton},                 Lock::training, signal::open,  2, 2},
+    {11,       text::frequency_title,  {frequenz},                Lock::training, signal::open,  2, 3},
+    {13,       635_text,               {stimm_g},                 Lock::training, signal::open,  3, 0},
+    {12,       text::tempo_title,      {tempo},                   Lock::exam,     signal::sound, 3, 1},
+    {2,        text::sound_title,      {kanal, patch},            Lock::training, signal::sound, 3, 2, 2},
 };
 // clang-format on
 constexpr Choice kPairs[] = {

@@ -53,7 +53,7 @@ struct Actions {
 
 // clang-format off
 inline constexpr std::array<Actions, kPhases> kActions{{
-    // phase                   answers wieder         wieder2        grundton next  way on          asks   hint
+    // phase                   answers wieder         wieder2        grundton next  way on          asks   hint, other
     {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}, {}},
     {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::row_sounds, text::keynote_sounds},
     {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}, {}},
