@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "flow/flow_bed.h"
 
 namespace tonarix {
@@ -93,6 +95,26 @@ TEST_F(WindowFlowTest, ATestThatIsDoneHasNoMoreTimeToLose) {
   bed.scheduler.advance_ms(3600 * 1000.0);
   EXPECT_EQ(window.stop_uhr.text, left);
   EXPECT_EQ(window.phase(), Phase::test_finished);
+}
+
+TEST(TestListFlow, ATestAsksEveryIntervalOnceInEachHalf) {
+  FakeHost host;
+  FlowBed bed(host, 5);
+  Einstellung1& settings = bed.open_settings();
+  settings.click(settings.abfr_iv[1]);
+  settings.choose(settings.temp_Combo, 9);
+  settings.choose(settings.training_Combo, 3);
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
+  std::map<int, int> asked;
+  for (int task = 0; window.phase() != Phase::test_finished; ++task) {
+    ASSERT_LT(task, 300);
+    if (task > 0) bed.next_task(window);
+    for (const int i : {0, 1}) ++asked[bed.module.row().iv.at(i)];
+    bed.answer_row(window, 0.1);
+  }
+  EXPECT_EQ(asked.size(), 26U);
+  for (const auto& [code, times] : asked) EXPECT_GE(times, 2) << code;
 }
 
 TEST_F(WindowFlowTest, TheSheetStandsAWhileAndTheProtocolWaitsForItsEnd) {
