@@ -23,12 +23,12 @@ TEST_F(KeynoteTest, DurMollTakesTheThirdOfTheRowAndChanceAnOpenOne) {
   settings.tongeschl = 2;
   chord();
   const Tone minor_third = key.skala[3], major_third = key.skala[4], fifth = key.skala[6];
-  chance.add_draw(0, 2);
   chance.add_draw(1, 2);
+  chance.add_draw(0, 2);
   // terz_typ, just answered, third, terz_typ afterwards
   const std::tuple<std::int16_t, Tone, int, int> rows[] = {
       {1, fifth, 3, 1},       {2, minor_third, 4, 2}, {3, minor_third, 3, 1},
-      {3, major_third, 4, 2}, {0, fifth, 3, 0},       {3, fifth, 4, 3}};
+      {3, major_third, 4, 2}, {0, fifth, 4, 0},       {3, fifth, 3, 3}};
   for (const auto& [typ, answered, third, typ_afterwards] : rows) {
     terz_typ = typ;
     const KeynoteChord notes = chord(answered);
