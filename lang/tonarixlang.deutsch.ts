@@ -1432,16 +1432,16 @@ Vorzeichen!</translation>
         <translation>Ohne Speichern verlassen</translation>
     </message>
     <message id="1109s">
-        <source>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</source>
-        <translation>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</translation>
+        <source>„wiederholen (Kontrolle)“ spielt die Reihe noch einmal. Auch „Grundton-Kontrolle“ führt weiter.</source>
+        <translation>„wiederholen (Kontrolle)“ spielt die Reihe noch einmal. Auch „Grundton-Kontrolle“ führt weiter.</translation>
     </message>
     <message id="1110s">
         <source>Die Reihe erklingt.</source>
         <translation>Die Reihe erklingt.</translation>
     </message>
     <message id="1111s">
-        <source>Welches Intervall folgt?</source>
-        <translation>Welches Intervall folgt?</translation>
+        <source>Welches Intervall folgt auf Ton %1?</source>
+        <translation>Welches Intervall folgt auf Ton %1?</translation>
     </message>
     <message id="1112s">
         <source>Das Protokoll konnte nicht geschrieben werden nach</source>
@@ -1544,6 +1544,46 @@ Vorzeichen!</translation>
         <source>Es liegt stattdessen hier:</source>
         <translation>Es liegt stattdessen hier:</translation>
     </message>
+    <message id="1140s">
+        <source>Hören Sie zu.</source>
+        <translation>Hören Sie zu.</translation>
+    </message>
+    <message id="1141s">
+        <source>Hören Sie die Reihe zur Kontrolle.</source>
+        <translation>Hören Sie die Reihe zur Kontrolle.</translation>
+    </message>
+    <message id="1142s">
+        <source>Weiter zur nächsten Aufgabe</source>
+        <translation>Weiter zur nächsten Aufgabe</translation>
+    </message>
+    <message id="1143s">
+        <source>Vorher können Sie die Reihe oder den Grundton noch einmal hören.</source>
+        <translation>Vorher können Sie die Reihe oder den Grundton noch einmal hören.</translation>
+    </message>
+    <message id="1144s">
+        <source>Weiter zum Ergebnis</source>
+        <translation>Weiter zum Ergebnis</translation>
+    </message>
+    <message id="1145s">
+        <source>Die Zeit ist um.</source>
+        <translation>Die Zeit ist um.</translation>
+    </message>
+    <message id="1146s">
+        <source>Die Übung ist beendet.</source>
+        <translation>Die Übung ist beendet.</translation>
+    </message>
+    <message id="1147s">
+        <source>Das Ergebnis folgt.</source>
+        <translation>Das Ergebnis folgt.</translation>
+    </message>
+    <message id="1148s">
+        <source>Antworten Sie mit einer Schaltfläche oder mit der Taste, die darauf steht.</source>
+        <translation>Antworten Sie mit einer Schaltfläche oder mit der Taste, die darauf steht.</translation>
+    </message>
+    <message id="1149s">
+        <source>Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>Mit „weiter“ geht es zum Ergebnis.</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Stufen-Intervall über dem Grundton</translation>
@@ -1575,6 +1615,46 @@ Vorzeichen!</translation>
     <message id="1157s">
         <source>gegeben</source>
         <translation>gegeben</translation>
+    </message>
+    <message id="1158s">
+        <source>Auf welcher Stufe steht Ton %1?</source>
+        <translation>Auf welcher Stufe steht Ton %1?</translation>
+    </message>
+    <message id="1159s">
+        <source>Der Test läuft noch, die Zeit geht weiter. Soll er abgebrochen werden?</source>
+        <translation>Der Test läuft noch, die Zeit geht weiter. Soll er abgebrochen werden?</translation>
+    </message>
+    <message id="1160s">
+        <source>Die Prüfung läuft noch, die Zeit geht weiter. Soll sie abgebrochen werden?</source>
+        <translation>Die Prüfung läuft noch, die Zeit geht weiter. Soll sie abgebrochen werden?</translation>
+    </message>
+    <message id="1161s">
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="1162s">
+        <source>Weitermachen</source>
+        <translation>Weitermachen</translation>
+    </message>
+    <message id="1163s">
+        <source>noch %1 Versuche</source>
+        <translation>noch %1 Versuche</translation>
+    </message>
+    <message id="1164s">
+        <source>noch 1 Versuch</source>
+        <translation>noch 1 Versuch</translation>
+    </message>
+    <message id="1165s">
+        <source>Jetzt antworten.</source>
+        <translation>Jetzt antworten.</translation>
+    </message>
+    <message id="1166s">
+        <source>Reihe fertig.</source>
+        <translation>Reihe fertig.</translation>
+    </message>
+    <message id="1167s">
+        <source>Taste %1</source>
+        <translation>Taste %1</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

@@ -1432,16 +1432,16 @@ in any order.</translation>
         <translation>Leave without saving</translation>
     </message>
     <message id="1109s">
-        <source>Hören Sie die Reihe zur Kontrolle noch einmal, dann geht es weiter.</source>
-        <translation>Listen to the row once more to check, then go on.</translation>
+        <source>„wiederholen (Kontrolle)“ spielt die Reihe noch einmal. Auch „Grundton-Kontrolle“ führt weiter.</source>
+        <translation>“Repeat (check)” plays the row once more. “Keynote check” leads on too.</translation>
     </message>
     <message id="1110s">
         <source>Die Reihe erklingt.</source>
         <translation>The row is playing.</translation>
     </message>
     <message id="1111s">
-        <source>Welches Intervall folgt?</source>
-        <translation>Which interval follows?</translation>
+        <source>Welches Intervall folgt auf Ton %1?</source>
+        <translation>Which interval follows tone %1?</translation>
     </message>
     <message id="1112s">
         <source>Das Protokoll konnte nicht geschrieben werden nach</source>
@@ -1497,7 +1497,7 @@ in any order.</translation>
     </message>
     <message id="1125s">
         <source>gesucht</source>
-        <translation>asked</translation>
+        <translation>wanted</translation>
     </message>
     <message id="1126s">
         <source>Weiter ohne Protokoll</source>
@@ -1544,6 +1544,46 @@ in any order.</translation>
         <source>Es liegt stattdessen hier:</source>
         <translation>It has been saved here instead:</translation>
     </message>
+    <message id="1140s">
+        <source>Hören Sie zu.</source>
+        <translation>Listen.</translation>
+    </message>
+    <message id="1141s">
+        <source>Hören Sie die Reihe zur Kontrolle.</source>
+        <translation>Listen once more to check.</translation>
+    </message>
+    <message id="1142s">
+        <source>Weiter zur nächsten Aufgabe</source>
+        <translation>Go on to the next task</translation>
+    </message>
+    <message id="1143s">
+        <source>Vorher können Sie die Reihe oder den Grundton noch einmal hören.</source>
+        <translation>Before that you can hear the row or the keynote again.</translation>
+    </message>
+    <message id="1144s">
+        <source>Weiter zum Ergebnis</source>
+        <translation>Go on to the result</translation>
+    </message>
+    <message id="1145s">
+        <source>Die Zeit ist um.</source>
+        <translation>Time is up.</translation>
+    </message>
+    <message id="1146s">
+        <source>Die Übung ist beendet.</source>
+        <translation>The exercise is over.</translation>
+    </message>
+    <message id="1147s">
+        <source>Das Ergebnis folgt.</source>
+        <translation>The result follows.</translation>
+    </message>
+    <message id="1148s">
+        <source>Antworten Sie mit einer Schaltfläche oder mit der Taste, die darauf steht.</source>
+        <translation>Answer with a button or with the key printed on it.</translation>
+    </message>
+    <message id="1149s">
+        <source>Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>Continue to see the result.</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Degree interval above the keynote</translation>
@@ -1575,6 +1615,46 @@ in any order.</translation>
     <message id="1157s">
         <source>gegeben</source>
         <translation>given</translation>
+    </message>
+    <message id="1158s">
+        <source>Auf welcher Stufe steht Ton %1?</source>
+        <translation>Which degree is tone %1?</translation>
+    </message>
+    <message id="1159s">
+        <source>Der Test läuft noch, die Zeit geht weiter. Soll er abgebrochen werden?</source>
+        <translation>The test is still running and so is its time. Break it off?</translation>
+    </message>
+    <message id="1160s">
+        <source>Die Prüfung läuft noch, die Zeit geht weiter. Soll sie abgebrochen werden?</source>
+        <translation>The exam is still running and so is its time. Break it off?</translation>
+    </message>
+    <message id="1161s">
+        <source>Abbrechen</source>
+        <translation>Break off</translation>
+    </message>
+    <message id="1162s">
+        <source>Weitermachen</source>
+        <translation>Keep going</translation>
+    </message>
+    <message id="1163s">
+        <source>noch %1 Versuche</source>
+        <translation>%1 tries left</translation>
+    </message>
+    <message id="1164s">
+        <source>noch 1 Versuch</source>
+        <translation>1 try left</translation>
+    </message>
+    <message id="1165s">
+        <source>Jetzt antworten.</source>
+        <translation>Answer now.</translation>
+    </message>
+    <message id="1166s">
+        <source>Reihe fertig.</source>
+        <translation>Row done.</translation>
+    </message>
+    <message id="1167s">
+        <source>Taste %1</source>
+        <translation>Key %1</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

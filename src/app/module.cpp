@@ -35,7 +35,9 @@ void Module::open() {
                            .quit = outside_.quit,
                            .available = can_be_practised,
                            .join_companion = {}};
-  outside_.windows.open(std::make_unique<SelectionWindow>(std::move(context))).load();
+  auto& window = outside_.windows.open(std::make_unique<SelectionWindow>(std::move(context)));
+  selection_ = WindowRef(window);
+  window.load();
 }
 
 WindowContext Module::window_context() const {
@@ -73,7 +75,10 @@ void Module::open_settings(SettingsKind kind) {
       .interval_names = *interval_names_,
       .ProtokollNeu = [this] { protocol_.ProtokollNeu(); },
       .open_exercise = [this](SettingsWindow& caller) { open_exercise(caller); },
-      .show_selection = [this] { outside_.windows.at(0)->show(); },
+      .show_selection =
+          [this] {
+            if (auto* window = selection_.get()) window->show();
+          },
       .send_keys = [this](const std::string&) { show_help(); },
       .put_listing = outside_.put_listing};
   outside_.windows.open(factory->make(context));
@@ -85,6 +90,7 @@ void Module::open_exercise(SettingsWindow& caller) {
   if (factory == nullptr) {
     throw RuntimeError(RuntimeError::kOther, "This exercise has no window", "open_exercise");
   }
+  const WindowRef ref(caller);
   const ExerciseContext context{
       .common = window_context(),
       .server = server_,
@@ -102,9 +108,19 @@ void Module::open_exercise(SettingsWindow& caller) {
       .protocol = protocol_,
       .tone_names = *tone_names_,
       .interval_names = *interval_names_,
-      .caller = {.training_saved = [&caller] { caller.training_saved(); },
-                 .training_finished = [&caller] { caller.training_finished(); },
-                 .show_again = [&caller] { caller.show_again(); }},
+      .caller = {.training_saved =
+                     [ref] {
+                       if (auto* window = ref.get()) window->training_saved();
+                     },
+                 .training_finished =
+                     [ref] {
+                       if (auto* window = ref.get()) window->training_finished();
+                     },
+                 .show_again =
+                     [ref] {
+                       if (auto* window = ref.get()) window->show_again();
+                     }},
+      .show_help = [this] { show_help(); },
       .open_result = [this](std::function<void()> closed) { open_result(std::move(closed)); }};
   outside_.windows.open(factory->make(context));
 }

@@ -74,6 +74,7 @@ class Module {
   void show_help();
 
   Outside outside_;
+  WindowRef<SelectionWindow> selection_;
   Server server_;
   TextTables tables_;
   ErrorReport errors_;

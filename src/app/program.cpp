@@ -13,6 +13,7 @@
 #include <iostream>
 
 #include "base/module_texts.h"
+#include "base/windows/accessibility.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
@@ -82,12 +83,13 @@ Program::Program(const Options& options)
       windows_(scheduler_),
       language_(catalogue_folder(catalogue_place())),
       presenter_(windows_),
-      dialogs_(language_, presenter_),
+      dialogs_(scheduler_, language_, presenter_),
       printer_(language_, [this] { return presenter_.newest_visible(); }),
       devices_(scheduler_,
                [this](Scheduler::Task task) { scheduler_.post_from_thread(std::move(task)); }),
       host_(host_options(options), clock_),
       module_(outside(options)) {
+  install_accessibility();
   presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
   presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);

@@ -31,6 +31,7 @@ inline constexpr Colour sound = blue_green_red(0xFFC0C0);   // light blue: sound
 inline constexpr Colour marked = blue_green_red(0x80FF80);  // green: marked for a test
 inline constexpr Colour right = RGB(0, 255, 0);
 inline constexpr Colour wrong = RGB(255, 0, 0);
+inline constexpr Colour given = RGB(228, 228, 224);  // the solution, told by the program
 inline constexpr Colour black = RGB(0, 0, 0);
 inline constexpr Colour white = RGB(255, 255, 255);
 inline constexpr Colour finished = RGB(255, 255, 0);  // yellow: the way out is the way on

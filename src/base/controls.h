@@ -27,8 +27,9 @@ class Control {
   const std::string& name() const { return name_; }
   std::optional<int> index() const { return index_; }
   std::string object_name() const;
-  /// True when the user can act on it now.
-  bool open() const { return visible && enabled; }
+  /// True when it and every frame around it is shown and enabled.
+  bool open() const { return visible && enabled && (!container || container->open()); }
+  const Window& window() const { return window_; }
 
   bool visible = true;
   bool enabled = true;
@@ -40,6 +41,7 @@ class Control {
   std::optional<Colour> fore;
 
  private:
+  const Window& window_;
   std::string name_;
   std::optional<int> index_;
 };
@@ -58,6 +60,7 @@ class ListControl final : public Control {
   struct Item {
     std::string text;
     int item_data = kPlainEntry;
+    bool gap = false;  ///< only fills a place: the arrow keys pass over it
   };
   using Control::Control;
 

@@ -19,6 +19,7 @@ struct Message {
   MessageStyle style = MessageStyle::plain;
   std::string yes_caption;  ///< own words for the two buttons of a question; empty: the usual ones
   std::string no_caption;
+  Reply usual = Reply::yes;  ///< the answer of a question that Return gives
 };
 
 /// A warning under the program's name.

@@ -5,7 +5,7 @@
 namespace tonarix {
 
 Control::Control(Window& window, std::string name, std::optional<int> index)
-    : name_(std::move(name)), index_(index) {
+    : window_(window), name_(std::move(name)), index_(index) {
   window.controls_.push_back(this);
 }
 
@@ -73,8 +73,15 @@ void Window::tell(std::string text, std::function<void()> then) {
   });
 }
 
+void Window::announce(std::string news) {
+  if (news.empty()) return;
+  news_ += (news_.empty() ? "" : " ") + std::move(news);
+}
+
 void Window::changed() {
+  const std::string news = std::exchange(news_, {});
   if (on_changed) on_changed();
+  if (!news.empty() && on_announced) on_announced(news);
 }
 
 WindowList::~WindowList() {
@@ -94,7 +101,13 @@ void WindowList::adopt(std::unique_ptr<Window> window) {
   windows_.push_back(std::move(window));
   Window& opened = *windows_.back();
   opened.visible = true;
-  if (on_opened) on_opened(opened);
+  if (!on_opened) return;
+  try {
+    on_opened(opened);
+  } catch (...) {
+    unload(opened);  // a window that can't be shown is none
+    throw;
+  }
 }
 
 void WindowList::unload(Window& window) {
@@ -102,6 +115,8 @@ void WindowList::unload(Window& window) {
                                   [&](const auto& owned) { return owned.get() == &window; });
   if (found == windows_.end()) return;
   window.visible = false;
+  window.leaving_ = true;
+  window.alive_.reset();
   if (on_unloaded) on_unloaded(window);
   leaving_.push_back(std::move(*found));
   windows_.erase(found);

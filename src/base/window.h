@@ -7,11 +7,13 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "base/controls.h"
 #include "base/delay.h"
 #include "base/dialogs.h"
+#include "base/input_guard.h"
 #include "base/scheduler.h"
 #include "base/sequence.h"
 #include "base/texts.h"
@@ -42,30 +44,51 @@ class Window {
   /// The control with this object name ("st_int_3"), or nullptr.
   Control* find(std::string_view object_name) const;
 
-  /// What the title bar's close button does.
-  virtual void title_bar_close() = 0;
+  /// The title bar's close button was pressed.
+  void title_bar_close() {
+    if (takes_input()) close_requested();
+  }
 
   void show();
   void hide();
+
+  /// A window takes no input while it is hidden or disabled, nor on its way out.
+  bool takes_input() const { return visible && enabled && !leaving_; }
+  /// True when the user can act on the control now.
+  bool takes_input(const Control& control) const { return takes_input() && control.open(); }
+  /// Asked by whoever shows the window, before it hands on a press.
+  mutable InputGuard guard;
+  Scheduler::Time now() const { return common_.scheduler.now(); }
+  /// Expires when the window goes, for whoever may come too late.
+  std::weak_ptr<bool> alive() const { return alive_; }
 
   std::string caption;
   bool visible = false;
   bool enabled = true;
   bool busy = false;  ///< hourglass
   std::function<void()> on_changed;
+  /// Something to be told to who does not see the screen, in few words.
+  std::function<void(const std::string&)> on_announced;
 
  protected:
+  /// What the title bar's close button does.
+  virtual void close_requested() = 0;
+  /// The way out begins; false when it has begun before.
+  bool begin_leaving() { return !std::exchange(leaving_, true); }
+  /// Tells the news once the event that brings it has been dealt with; several become one.
+  void announce(std::string news);
+
   /// Runs an event's work. An exception goes to `failed` with the tag; then the change is
   /// announced.
   void handle(std::string_view tag, const std::function<void()>& work);
   /// Runs a routine that waits, with the same care as `handle`. The window owns it; closing the
   /// window's life ends it.
   void run(std::string tag, Sequence sequence);
-  /// `handle` for plain work, `run` for a routine that waits; nothing when the control is hidden or
-  /// disabled, as when a click comes late.
+  /// `handle` for plain work, `run` for a routine that waits; nothing when the window or the
+  /// control takes no input, as when a click comes late.
   template <typename Work>
   void press(const Control& control, std::string_view tag, Work&& work) {
-    if (!control.open()) return;
+    if (!takes_input(control)) return;
     if constexpr (std::is_same_v<std::invoke_result_t<Work>, Sequence>) {
       run(std::string(tag), work());
     } else {
@@ -79,8 +102,6 @@ class Window {
   /// A warning under the program's name. `then` runs once it has been read, unless the window has
   /// gone meanwhile.
   void tell(std::string text, std::function<void()> then = {});
-  /// Expires with the window, for answers that may come too late.
-  std::weak_ptr<bool> alive() const { return alive_; }
   /// A text in the language in force.
   std::string word(TextKey key) const { return common_.texts.Wort(key); }
   const WindowContext& common() const { return common_; }
@@ -98,12 +119,29 @@ class Window {
   };
   void reap();
 
+  friend class WindowList;
   WindowContext common_;
   std::string name_;
   std::vector<Control*> controls_;
   Waits waits_;
   std::list<Running> running_;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+  std::string news_;
+  bool leaving_ = false;
+};
+
+/// A window that may be gone by the time it is needed.
+template <typename Kind>
+class WindowRef {
+ public:
+  WindowRef() = default;
+  explicit WindowRef(Kind& window) : window_(&window), alive_(window.alive()) {}
+  /// The window, nullptr once it has been unloaded.
+  Kind* get() const { return alive_.expired() ? nullptr : window_; }
+
+ private:
+  Kind* window_ = nullptr;
+  std::weak_ptr<bool> alive_;
 };
 
 /// The open windows in the order of their opening. It owns them; a closed one is released by a

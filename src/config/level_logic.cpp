@@ -41,6 +41,7 @@ void LevelLogic::fill_levels(bool saved) {
   controls_.training_Combo.clear();
   for (const std::string& name : level_names(context_.tables, saved)) {
     controls_.training_Combo.add(name);
+    controls_.training_Combo.items.back().gap = name == kNoSavedTraining;
   }
 }
 

@@ -179,13 +179,12 @@ void SelectionWindow::cmdEnde_click() {
   press(cmdEnde, "cmdEnde_click.", [this] { return leave(); });
 }
 
-void SelectionWindow::title_bar_close() {
+void SelectionWindow::close_requested() {
   run("cmdEnde_click.", leave());
 }
 
 Sequence SelectionWindow::leave() {
-  if (leaving_) co_return;
-  leaving_ = true;
+  if (!begin_leaving()) co_return;
   start_.disable();
   std::exception_ptr error;
   try {

@@ -49,8 +49,6 @@ class SelectionWindow final : public Window {
   void cmdOk_click();
   void cmdEnde_click();
   void cmdHilfe_click();
-  /// The same way out as `cmdEnde`, so that the host gets control back.
-  void title_bar_close() override;
 
   // In the order of reading, which is the order of the Tab key.
   ControlArray<OptionControl, 0, 1> Theoriewahl{*this, "Theoriewahl"};
@@ -63,6 +61,8 @@ class SelectionWindow final : public Window {
   Control cmdOk{*this, "cmdOk"};
 
  protected:
+  /// The same way out as `cmdEnde`, so that the host gets control back.
+  void close_requested() override;
   void failed(std::string_view tag, std::exception_ptr error) override;
 
  private:
@@ -78,7 +78,6 @@ class SelectionWindow final : public Window {
 
   SelectionContext context_;
   Timer start_;
-  bool leaving_ = false;
 };
 
 }  // namespace tonarix

@@ -14,10 +14,6 @@ namespace {
 constexpr TextKey kLowestTones[] = {681_text, 682_text, 683_text, 684_text};
 constexpr TextKey kHighestTones[] = {694_text, 695_text, 696_text, 697_text};
 
-bool reachable(const Control& control) {
-  return control.open() && (!control.container || control.container->open());
-}
-
 }  // namespace
 
 SettingsWindow::SettingsWindow(const SettingsContext& context, const SettingsLayout& layout)
@@ -84,30 +80,31 @@ void SettingsWindow::on(Control& control, std::string tag, std::function<void()>
   events_[&control] = {std::move(tag), std::move(handler)};
 }
 
-void SettingsWindow::title_bar_close() {
+void SettingsWindow::close_requested() {
   handle("cmdZurueck_click.", [this] { go_back(); });
 }
 
 void SettingsWindow::click(Control& control) {
   const auto event = events_.find(&control);
-  if (reachable(control) && event != events_.end()) {
+  if (takes_input(control) && event != events_.end()) {
     handle(event->second.tag, event->second.handler);
   }
 }
 
 void SettingsWindow::choose(ListControl& list, int entry) {
-  if (!reachable(list) || entry < 0 || entry >= static_cast<int>(list.items.size())) return;
+  if (!takes_input(list) || entry < 0 || entry >= static_cast<int>(list.items.size())) return;
   list.selected = entry;
   click(list);
 }
 
 void SettingsWindow::slide(SliderControl& slider, int value) {
-  if (!reachable(slider)) return;
+  if (!takes_input(slider)) return;
   slider.value = std::clamp(value, slider.minimum, slider.maximum);
   click(slider);
 }
 
 void SettingsWindow::frame_menu(int frame) {
+  if (!takes_input()) return;
   marks_.open_menu(frame);
   changed();
 }
@@ -202,7 +199,7 @@ void SettingsWindow::accept() {
 }
 
 void SettingsWindow::go_back() {
-  if (waits().closed()) return;
+  if (!begin_leaving()) return;
   start_.disable();
   testtimer_.disable();
   try {

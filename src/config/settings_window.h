@@ -31,7 +31,6 @@ class SettingsWindow : public Window, public SettingsControls {
  public:
   SettingsWindow(const SettingsContext& context, const SettingsLayout& layout);
 
-  void title_bar_close() override;
   /// The user pressed a button or chose an option. Nothing happens when it is locked.
   void click(Control& control);
   /// The user chose an entry of a list.
@@ -61,6 +60,7 @@ class SettingsWindow : public Window, public SettingsControls {
   /// The handler of a control; `click`, `choose` and `slide` run it.
   void on(Control& control, std::string tag, std::function<void()> handler);
 
+  void close_requested() override;
   virtual void set_captions();
   /// Before the choices stand: what they need, lists and sound.
   virtual void prepare() {}

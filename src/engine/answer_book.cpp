@@ -54,6 +54,10 @@ int AnswerBook::wrong_tries(int place) const {
   return static_cast<int>(std::max(places_.at(at(place)).rf, 0.0F) / kWrongTry);
 }
 
+int AnswerBook::tries_left(int place) const {
+  return static_cast<int>(kErrorCeiling / kWrongTry) - wrong_tries(place);
+}
+
 // An answer uses up what was heard for it.
 AnsweredInterval& AnswerBook::answer_to(int place) {
   if (place < 0 || place >= count_ || !open(place)) throw RuntimeError::index_out_of_range("iv_nr");

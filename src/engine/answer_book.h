@@ -63,6 +63,8 @@ class AnswerBook {
   bool done() const { return asked() == count_; }
   /// Plain wrong tries on a place so far, 0 to 4.
   int wrong_tries(int place) const;
+  /// Tries until the solution is given.
+  int tries_left(int place) const;
   const AnsweredInterval& place(int place) const { return places_.at(at(place)); }
 
   // The verdicts. A place that is not open takes none: RuntimeError 9.

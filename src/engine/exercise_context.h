@@ -45,6 +45,7 @@ struct ExerciseContext {
   const ToneNames& tone_names;
   const IntervalNames& interval_names;
   ExerciseCaller caller;
+  std::function<void()> show_help;
   /// Opens the result sheet; `closed` runs when the student has left it.
   std::function<void(std::function<void()> closed)> open_result;
 };

@@ -12,6 +12,7 @@ struct ExerciseControls {
       : CmdNextAufg(window, "CmdNextAufg"),
         LbNextAufg(window, "LbNextAufg"),
         zurueck(window, "zurueck"),
+        cmdHilfe(window, "cmdHilfe"),
         cmd_test_ein(window, "cmd_test_ein"),
         cmd_test_aus(window, "cmd_test_aus"),
         ergebnis_anz(window, "ergebnis_anz"),
@@ -28,6 +29,7 @@ struct ExerciseControls {
   Control CmdNextAufg;  ///< next task, order by hand
   Control LbNextAufg;   ///< shown while the automatic order waits
   Control zurueck;
+  Control cmdHilfe;
   Control cmd_test_ein;
   Control cmd_test_aus;
   ControlArray<Control, 0, 2> ergebnis_anz;  ///< training status, solved, too difficult
@@ -38,9 +40,14 @@ struct ExerciseControls {
   ControlArray<Control, 0, 1> zaehler;  ///< right, wrong
   ControlArray<Control, 0, 1> true_false;
   Control WaitMeldung;
-  Control question;  ///< the one question of the window
-  Control hint;      ///< what comes next, where it would be a riddle
+  Control question;  ///< what to do now: the one question of the window
+  Control hint;      ///< how to do it, or what comes
 };
+
+/// A counter is read with its label.
+inline void count_by_name(Control& counter, const Control& label) {
+  counter.accessible_name = label.text + ": " + counter.text;
+}
 
 /// What a window has whose rows sound.
 struct SoundControls {
@@ -72,10 +79,12 @@ struct KeynoteControls {
 
 /// Answer fields with their numbers, as many as a window's row can have intervals.
 struct PlaceControls {
-  explicit PlaceControls(Window& window) : ergebnis(window, "ergebnis"), nriv(window, "nriv") {}
+  explicit PlaceControls(Window& window)
+      : ergebnis(window, "ergebnis"), nriv(window, "nriv"), tries(window, "tries") {}
 
   ControlArray<Control, 0, 4> ergebnis;  ///< answer fields
   ControlArray<Control, 0, 4> nriv;      ///< number of the interval being asked
+  ControlArray<Control, 0, 4> tries;     ///< how many tries are left, as a number
 };
 
 }  // namespace tonarix

@@ -32,7 +32,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       way_out_(context_, *this, *this, waits()),
       start_(context.common.scheduler, [this] { start_timer(); }),
       Uhrzeit_(context.common.scheduler, [this] { Uhrzeit_timer(); }),
-      testtimer_(context.common.scheduler, [this] { zurueck_click(); }) {
+      testtimer_(context.common.scheduler, [this] { run(kLeavingTag, leave()); }) {
   caption = word(exercise_row(context.settings).title);
   context_.statistics.init_arr(3, kStatisticRows - 1);
   context_.statistics.Clear();
@@ -47,6 +47,7 @@ void ExerciseWindow::start_timer() {
   handle("start_timer.", [this] {
     enter(Phase::starting);
     zurueck.text = word(640_text);
+    cmdHilfe.text = word(text::help_caption);
     true_false[0].text = word(468_text);
     true_false[1].text = word(232_text);
     WaitMeldung.text = word(text::one_moment);
@@ -130,9 +131,9 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   const bool automatic = context_.settings.abfrage == 1;
   next_task_.withdraw();
   if (actions.next_task) next_task_.offer(automatic);
-  if (phase != Phase::leaving) question.text = actions.asks ? question_text() : "";
-  const TextKey line = keynote || (actions.next_task && automatic) ? actions.other : actions.hint;
-  hint.text = line == TextKey{} ? "" : word(line);
+  const TextKey head = actions.next_task && automatic ? actions.other : actions.head;
+  question.text = head == TextKey{} ? question_text() : word(head);
+  hint.text = word(keynote ? actions.other : actions.hint);
   if (is_over(phase)) {
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
@@ -141,6 +142,15 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   zurueck.enabled = phase != Phase::leaving;
   open_answers(actions.answers);
   show_actions(actions);
+  tell_phase();
+}
+
+// For who does not see the screen: what sounds, what is asked, what comes.
+void ExerciseWindow::tell_phase() {
+  if (phase_ == Phase::starting || phase_ == Phase::broken || phase_ == Phase::leaving) return;
+  if (is_sounding(phase_)) return announce(hint.text);
+  if (phase_ == Phase::answering) announce(word(text::answer_now));
+  announce(question.text);
 }
 
 void ExerciseWindow::after_playing(bool heard) {
@@ -153,22 +163,31 @@ void ExerciseWindow::after_playing(bool heard) {
 
 void ExerciseWindow::go_on_after_answer() {
   update_counts();
-  if (answers_.book.done()) finish_row();
+  if (answers_.book.done()) return finish_row();
+  const std::string asked = question_text();
+  if (asked == question.text) return;
+  question.text = asked;
+  announce(asked);
 }
 
 void ExerciseWindow::update_counts() {
   zaehler[0].text = std::to_string(answers_.counts.right);
   zaehler[1].text = std::to_string(answers_.counts.wrong);
+  for (const int kind : {0, 1}) count_by_name(zaehler[kind], true_false[kind]);
   show_counts(answers_.counts);
 }
 
 void ExerciseWindow::finish_row() {
-  Phase next = player().audible() ? Phase::row_done : Phase::next_offered;
+  announce(word(text::row_is_done));
+  // In a test no time is lost: hearing the row again is left to the student.
+  const bool heard_again = player().audible() && !is_test(level());
+  Phase next = heard_again ? Phase::row_done : Phase::next_offered;
   BoxOutcome outcome{1, 0};
   if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book.answered());
   if (is_training(level())) {
     standing_.show_training();
     standing_.show_panel(outcome.ergebnis_anz);
+    if (outcome.finished()) announce(ergebnis_anz[outcome.ergebnis_anz].text);
     if (outcome.finished()) next = Phase::training_finished;
   }
   if (is_test(level())) {
@@ -222,11 +241,34 @@ const Control* ExerciseWindow::default_button() const {
   }
 }
 
+void ExerciseWindow::cmdHilfe_click() {
+  press(cmdHilfe, "cmdHilfe_click.", [this] { context_.show_help(); });
+}
+
 void ExerciseWindow::zurueck_click() {
-  if (phase_ != Phase::leaving) run(kLeavingTag, leave());
+  if (takes_input(zurueck)) way_out();
+}
+
+void ExerciseWindow::way_out() {
+  const bool running =
+      is_test(level()) && lesson_nr_ > 0 && !is_over(phase_) && phase_ != Phase::broken;
+  if (!asking_) run(kLeavingTag, running ? break_off() : leave());
+}
+
+// A test can't be gone on with, so a slip must not end it. Its time goes on meanwhile.
+Sequence ExerciseWindow::break_off() {
+  asking_ = true;
+  const TextKey text = level() == Level::exam ? text::break_off_exam : text::break_off_test;
+  const Message told{
+      caption,  word(text), MessageStyle::yes_no, word(text::break_off), word(text::keep_going),
+      Reply::no};
+  const Reply reply = co_await ask(waits(), common().dialogs, told);
+  asking_ = false;
+  if (reply == Reply::yes) co_await leave();
 }
 
 Sequence ExerciseWindow::leave() {
+  if (!begin_leaving()) co_return;
   const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
   const bool ended = is_over(phase_) || phase_ == Phase::broken;
   std::function<bool()> keep;

@@ -21,11 +21,11 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
  public:
   ExerciseWindow(std::string name, const ExerciseContext& context);
 
-  void title_bar_close() override { zurueck_click(); }
   void CmdNextAufg_click();
   void zurueck_click();
   void cmd_test_ein_click();
   void cmd_test_aus_click();
+  void cmdHilfe_click();
 
   Phase phase() const { return phase_; }
   Level level() const { return context_.settings.Uebungsmodus; }
@@ -35,10 +35,12 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
  protected:
   int first_scored() const override;
   LessonFacts lesson_facts() override;
+  void close_requested() override { way_out(); }
   void failed(std::string_view tag, std::exception_ptr error) override;
 
   const ExerciseContext& context() const { return context_; }
   TaskAnswers& answers() { return answers_; }
+  const TaskAnswers& answers() const { return answers_; }
   RowPlayer& player();
   /// `keynote`: what sounds in this phase is the keynote and not the row.
   void enter(Phase phase, bool keynote = false);
@@ -53,6 +55,9 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Sequence mat_wahl();
   void update_counts();
   void finish_row();
+  void tell_phase();
+  void way_out();
+  Sequence break_off();
   Sequence leave();
   void Uhrzeit_timer();
   void stop_all();
@@ -71,6 +76,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Timer testtimer_;
   Phase phase_ = Phase::starting;
   int lesson_nr_ = 0;
+  bool asking_ = false;  ///< whether to break off
 };
 
 }  // namespace tonarix

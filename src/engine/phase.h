@@ -37,7 +37,7 @@ enum class Shown : std::uint8_t {
 /// The action that Return presses.
 enum class Way : std::uint8_t { none, wieder2, next_task, zurueck };
 
-/// Which actions are open in a phase, and the two lines that go with it.
+/// Which actions are open in a phase, and the lines that say what to do.
 struct Actions {
   Phase phase;
   bool answers;
@@ -46,27 +46,28 @@ struct Actions {
   bool grundton;
   bool next_task;
   Way way_on;
-  bool asks;      ///< the question of the task stands above the row
-  TextKey hint;   ///< what comes, 0 for nothing
-  TextKey other;  ///< the same while the keynote sounds, or in the automatic order
+  bool asks;      ///< the interval that is asked is marked
+  TextKey head;   ///< what to do now, large; 0 for the question of the task
+  TextKey hint;   ///< how, or what comes
+  TextKey other;  ///< the hint while the keynote sounds, or the head in the automatic order
 };
 
 // clang-format off
 inline constexpr std::array<Actions, kPhases> kActions{{
-    // phase                   answers wieder         wieder2        grundton next  way on          asks   hint, other
-    {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, {}, {}},
-    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::row_sounds, text::keynote_sounds},
-    {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}, {}},
-    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, text::hear_once_more, {}},
-    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, text::row_sounds, text::keynote_sounds},
-    {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, {}, text::next_task_follows},
-    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, text::training_is_finished, {}},
-    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, text::row_sounds, text::keynote_sounds},
-    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, text::test_is_finished, {}},
-    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, text::row_sounds, text::keynote_sounds},
-    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, text::test_is_finished, {}},
-    {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}, {}},
-    {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, {}, {}},
+    // phase                   answers wieder         wieder2        grundton next  way on          asks   head, hint, other
+    {Phase::starting,          false, Shown::closed, Shown::hidden, false, false, Way::none,      false, text::listen, text::one_moment, {}},
+    {Phase::sounding,          false, Shown::closed, Shown::hidden, false, false, Way::none,      true,  text::listen, text::row_sounds, text::keynote_sounds},
+    {Phase::answering,         true,  Shown::open,   Shown::hidden, true,  false, Way::none,      true,  {}, text::how_to_answer, {}},
+    {Phase::row_done,          false, Shown::hidden, Shown::open,   true,  false, Way::wieder2,   false, text::listen_to_check, text::hear_once_more, {}},
+    {Phase::control_sounding,  false, Shown::hidden, Shown::closed, false, false, Way::none,      false, text::listen, text::row_sounds, text::keynote_sounds},
+    {Phase::next_offered,      false, Shown::hidden, Shown::open,   true,  true,  Way::next_task, false, text::go_on, text::may_hear_again, text::next_task_follows},
+    {Phase::training_finished, false, Shown::hidden, Shown::open,   true,  false, Way::zurueck,   false, text::to_the_result, text::training_is_finished, {}},
+    {Phase::finished_sounding, false, Shown::hidden, Shown::closed, false, false, Way::zurueck,   false, text::listen, text::row_sounds, text::keynote_sounds},
+    {Phase::test_finished,     false, Shown::closed, Shown::hidden, true,  false, Way::zurueck,   false, text::to_the_result, text::test_is_finished, {}},
+    {Phase::test_sounding,     false, Shown::closed, Shown::hidden, false, false, Way::zurueck,   false, text::listen, text::row_sounds, text::keynote_sounds},
+    {Phase::time_up,           false, Shown::shut,   Shown::shut,   false, false, Way::zurueck,   false, text::time_is_up, text::continue_to_result, {}},
+    {Phase::broken,            false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, text::exercise_ends, text::one_moment, {}},
+    {Phase::leaving,           false, Shown::shut,   Shown::shut,   false, false, Way::none,      false, text::exercise_ends, text::result_follows, {}},
 }};
 // clang-format on
 constexpr const Actions& actions_in(Phase phase) {
@@ -82,6 +83,10 @@ static_assert([] {
 /// The exercise has come to its end.
 constexpr bool is_over(Phase phase) {
   return actions_in(phase).way_on == Way::zurueck;
+}
+/// Something sounds.
+constexpr bool is_sounding(Phase phase) {
+  return actions_in(phase).head == text::listen && phase != Phase::starting;
 }
 /// The row of the task is still being asked.
 constexpr bool row_is_asked(Phase phase) {

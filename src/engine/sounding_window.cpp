@@ -70,13 +70,16 @@ void SoundingWindow::show_actions(const Actions& actions) {
 
 void SoundingWindow::show_counts(const TaskAnswers::Counts& counts) {
   whlgzaehler.text = std::to_string(counts.repeats);
-  if (keynote_) keynote_->GrdtonWhlg.text = std::to_string(counts.keynotes);
+  count_by_name(whlgzaehler, repeat_label);
+  if (!keynote_) return;
+  keynote_->GrdtonWhlg.text = std::to_string(counts.keynotes);
+  count_by_name(keynote_->GrdtonWhlg, keynote_->keynote_label);
 }
 
 const Control* SoundingWindow::default_button() const {
   const Control* button = ExerciseWindow::default_button();
   const Way way = actions_in(phase()).way_on;
-  return button == nullptr && (way == Way::wieder2 || way == Way::next_task) ? &wieder2 : button;
+  return button == nullptr && way == Way::wieder2 ? &wieder2 : button;
 }
 
 void SoundingWindow::wieder_click() {

@@ -39,6 +39,7 @@ Sequence WayOut::ask_to_save(std::function<bool()> keep) {
 
 Sequence WayOut::write_protocol() {
   window_.busy = true;
+  controls_.hint.visible = false;
   controls_.WaitMeldung.visible = true;
   co_await waits_.FullDelay(0);
   FinishResult result =

@@ -83,7 +83,7 @@ void ResultWindow::cmdHilfe_click() {
 }
 
 void ResultWindow::cmdOk_click() {
-  if (cmdOk.open()) leave();
+  if (takes_input(cmdOk)) leave();
 }
 
 void ResultWindow::failed(std::string_view tag, std::exception_ptr error) {
@@ -99,8 +99,7 @@ void ResultWindow::failed(std::string_view tag, std::exception_ptr error) {
 }
 
 void ResultWindow::leave() {
-  if (left_) return;
-  left_ = true;
+  if (!begin_leaving()) return;
   start_.disable();
   testtimer_.disable();
   const std::function<void()> closed = closed_;

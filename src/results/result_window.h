@@ -40,7 +40,6 @@ class ResultWindow final : public Window {
   /// `closed` runs after the sheet has been unloaded.
   ResultWindow(const ResultContext& context, std::function<void()> closed);
 
-  void title_bar_close() override { leave(); }
   void cmdOk_click();
   void cmdPrint_click();
   void cmdHilfe_click();
@@ -56,6 +55,7 @@ class ResultWindow final : public Window {
   Control cmdOk{*this, "cmdOk"};
 
  private:
+  void close_requested() override { leave(); }
   void failed(std::string_view tag, std::exception_ptr error) override;
   void start_timer();
   void LbGrdEinst();
@@ -70,7 +70,6 @@ class ResultWindow final : public Window {
   SheetContent content_;
   Chart chart_;
   bool filled_ = false;
-  bool left_ = false;
 };
 
 }  // namespace tonarix

@@ -11,7 +11,7 @@ class StoryWindow final : public Window {
  public:
   explicit StoryWindow(const WindowContext& common) : Window(common, "story") {}
 
-  void title_bar_close() override { common().windows.unload(*this); }
+  void close_requested() override { common().windows.unload(*this); }
   void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
 
   void press_go() {

@@ -89,7 +89,7 @@ TEST_F(ServerTest, RecordsComeBackWholeThroughAHostOfTheirOwnOrNotAtAll) {
 
 struct PlainWindow final : Window {
   using Window::Window;
-  void title_bar_close() override {}
+  void close_requested() override {}
   void failed(std::string_view, std::exception_ptr) override {}
 };
 

@@ -26,7 +26,7 @@ struct EngineBed : HostBed {
   Kind& open() {
     ExerciseContext context{common,     server,         errors, clock, chance,     midi, midi_event,
                             settings,   saved_training, key,    row,   statistics, best, protocol,
-                            tone_names, interval_names, {},     {}};
+                            tone_names, interval_names, {},     {},    {}};
     context.caller = {[] {}, [] {}, [] {}};
     context.open_result = [](const std::function<void()>& closed) { closed(); };
     Kind& window = windows.open(std::make_unique<Kind>(context));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "base/windows/accessibility.h"
 #include "base/windows/theme.h"
 
 int main(int argc, char** argv) {
@@ -9,5 +10,6 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   tonarix::theme::apply(application);
+  tonarix::install_accessibility();
   return RUN_ALL_TESTS();
 }

@@ -1,9 +1,12 @@
 #include "base/windows/bindings.h"
 
+#include <QApplication>
 #include <QButtonGroup>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include "base/module_texts.h"
+#include "base/windows/accessibility.h"
 #include "base/windows/mnemonics.h"
 
 namespace tonarix {
@@ -33,6 +36,7 @@ void set_entries(ListBox& list, const ListControl& control) {
   list.clear();
   for (const ListControl::Item& item : control.items) {
     list.addItem(entry_text(item.text), QByteArray::fromStdString(item.text));
+    list.setItemData(list.count() - 1, item.gap, ListBox::gap_role);
   }
 }
 
@@ -60,10 +64,6 @@ Label::Sign sign_of(const Control& control) {
 
 }  // namespace
 
-bool reachable(const Control& control) {
-  return control.open() && (!control.container || reachable(*control.container));
-}
-
 QString to_qstring(const std::string& text) {
   return QString::fromStdString(text);
 }
@@ -75,7 +75,7 @@ Bindings::Joint& Bindings::join(QWidget& widget, const Control& control, Binding
     policy.setRetainSizeWhenHidden(true);
     widget.setSizePolicy(policy);
   }
-  joints_.push_back({&control, &widget, look, {}, {}, {}, {}, false, false});
+  joints_.push_back({&control, &widget, look, {}, {}, {}, {}, nullptr, false, false});
   return joints_.back();
 }
 
@@ -84,8 +84,11 @@ void Bindings::bind(Button& button, const Control& control, Handler pressed, Bin
   joint.set_caption = [&button](const QString& caption) { button.setText(caption); };
   joint.set_colours = [&button](auto back, auto fore) { button.set_colours(back, fore); };
   joint.takes_mnemonic = look.mnemonic;
+  joint.button = &button;
   QObject::connect(&button, &QPushButton::clicked, &button,
-                   [this, &control, pressed = std::move(pressed)] { forward(control, pressed); });
+                   [this, &button, &control, pressed = std::move(pressed)] {
+                     forward(button, control, pressed, true);
+                   });
 }
 
 void Bindings::bind(Label& label, const Control& control, Binding look) {
@@ -103,15 +106,19 @@ void Bindings::bind(Option& option, const OptionControl& control, QButtonGroup& 
   Joint& joint = join(option, control, look);
   joint.is_option = true;
   joint.set_caption = [&option](const QString& caption) { option.setText(caption); };
-  joint.refresh = [&option, &control, &group] {
+  joint.refresh = [this, &option, &control, &group] {
     if (option.isChecked() == control.value) return;
+    const QScopedValueRollback applying(applying_, true);
     // The group would refuse to leave itself without a chosen option.
     group.setExclusive(false);
     option.setChecked(control.value);
     group.setExclusive(true);
   };
-  QObject::connect(&option, &QRadioButton::clicked, &option,
-                   [this, &control, chosen = std::move(chosen)] { forward(control, chosen); });
+  // A screen reader's action toggles without a click.
+  QObject::connect(&option, &QRadioButton::toggled, &option,
+                   [this, &option, &control, chosen = std::move(chosen)](bool on) {
+                     if (on && !applying_) forward(option, control, chosen);
+                   });
 }
 
 void Bindings::bind(ListBox& list, const ListControl& control, NumberHandler chosen, Binding look) {
@@ -123,9 +130,9 @@ void Bindings::bind(ListBox& list, const ListControl& control, NumberHandler cho
   };
   joint.set_colours = [&list](auto back, auto fore) { set_list_colours(list, back, fore); };
   QObject::connect(&list, &QComboBox::activated, &list,
-                   [this, &control, chosen = std::move(chosen)](int index) {
+                   [this, &list, &control, chosen = std::move(chosen)](int index) {
                      if (index == control.selected) return;
-                     forward(control, [&chosen, index] { chosen(index); });
+                     forward(list, control, [&chosen, index] { chosen(index); });
                    });
 }
 
@@ -138,8 +145,8 @@ void Bindings::bind(Slider& slider, const SliderControl& control, NumberHandler 
     slider.setValue(control.value);
   };
   QObject::connect(&slider, &QSlider::valueChanged, &slider,
-                   [this, &control, moved = std::move(moved)](int value) {
-                     forward(control, [&moved, value] { moved(value); });
+                   [this, &slider, &control, moved = std::move(moved)](int value) {
+                     forward(slider, control, [&moved, value] { moved(value); });
                    });
 }
 
@@ -160,7 +167,9 @@ void Bindings::bind(Card& card, const Control* frame, const Control* title) {
                                               : to_qstring(texts_.Wort(438_text));
     if (shown != mark) card.set_mark(mark, locked);
     shown = mark;
-    if (title) card.setAccessibleName(to_qstring(title->text) + QLatin1Char(' ') + mark);
+    if (!title) return;
+    const QString name = to_qstring(title->text);
+    set_accessible_name(card, mark.isEmpty() ? name : name + QLatin1String(", ") + mark);
   };
 }
 
@@ -168,9 +177,19 @@ void Bindings::bind(QWidget& widget, const Control& control, Handler refresh, Bi
   join(widget, control, look).refresh = std::move(refresh);
 }
 
-void Bindings::forward(const Control& control, const Handler& handler) {
+bool Bindings::admits(const QWidget& widget, const Control& control, bool button) const {
+  // A box in front holds back the pointer and the keys by itself, a screen reader's action not.
+  const QWidget* front = QApplication::activeModalWidget();
+  if (front && front != widget.window()) return false;
+  const Window& window = control.window();
+  if (!window.takes_input(control)) return false;
+  return button ? window.guard.admits(&control, window.now()) : window.guard.settled(window.now());
+}
+
+void Bindings::forward(const QWidget& widget, const Control& control, const Handler& handler,
+                       bool button) {
   if (!live_) return;
-  if (reachable(control)) handler();
+  if (admits(widget, control, button)) handler();
   apply();
 }
 
@@ -190,14 +209,23 @@ void Bindings::apply(Joint& joint) {
   Shown& shown = joint.shown;
   const bool frame = dynamic_cast<Card*>(joint.widget) != nullptr;
   const bool enabled =
-      frame || (control.enabled && (!control.container || reachable(*control.container)));
+      frame || (control.enabled && (!control.container || control.container->open()));
   if (shown.enabled != enabled || shown.visible != control.visible) {
     if ((!enabled || !control.visible) && joint.widget == joint.widget->window()->focusWidget()) {
-      // Left alone the focus would jump to a neighbour, and the next stroke press it.
-      parked_ = joint.widget;
-      joint.widget->window()->setFocus(Qt::OtherFocusReason);
+      // Left alone the focus would jump to a neighbour, and the next stroke press it. A button
+      // keeps it although it is closed; where that can't be, it comes back later.
+      if (control.visible && joint.button) {
+        joint.button->close_in_place();
+      } else {
+        parked_ = joint.widget;
+        joint.widget->window()->setFocus(Qt::OtherFocusReason);
+      }
     }
-    if (shown.enabled != enabled) joint.widget->setEnabled(enabled);
+    if (joint.button) {
+      joint.button->set_open(enabled);
+    } else if (shown.enabled != enabled) {
+      joint.widget->setEnabled(enabled);
+    }
     if (shown.visible != control.visible) {
       joint.widget->setVisible(control.visible);
       captions_changed_ |= joint.takes_mnemonic;
@@ -243,8 +271,14 @@ void Bindings::apply_name(Joint& joint) {
   // "ja" says nothing to who cannot see the title above it.
   if (!joint.shown.group->empty()) {
     name = to_qstring(*joint.shown.group + texts_.Wort(700_text)) + name;
+  } else if (joint.set_caption && control.accessible_name.empty()) {
+    name.clear();  // the caption serves
   }
-  joint.widget->setAccessibleName(name);
+  if (auto* list = dynamic_cast<ListBox*>(joint.widget)) {
+    list->set_name(name);
+  } else {
+    set_accessible_name(*joint.widget, name);
+  }
 }
 
 std::string Bindings::group_of(const Joint& joint) const {

@@ -22,8 +22,6 @@ struct Binding {
   bool signs = false;       ///< a label on the colours of right and wrong gets a check or a cross
 };
 
-/// True when the control and every frame around it is visible and enabled.
-bool reachable(const Control& control);
 QString to_qstring(const std::string& text);
 
 /// Joins the widgets of one window to the states of its controls. Each bound widget takes the
@@ -77,7 +75,8 @@ class Bindings {
     Shown shown;
     std::function<void(const QString&)> set_caption;  ///< null where there is none
     std::function<void(std::optional<QColor> back, std::optional<QColor> fore)> set_colours;
-    Handler refresh;  ///< value, items, surface
+    Handler refresh;           ///< value, items, surface
+    Button* button = nullptr;  ///< where the widget is one
     bool takes_mnemonic = false;
     bool is_option = false;
   };
@@ -88,13 +87,16 @@ class Bindings {
   void apply_name(Joint& joint);
   std::string group_of(const Joint& joint) const;
   void assign_mnemonics();
-  void forward(const Control& control, const Handler& handler);
+  bool admits(const QWidget& widget, const Control& control, bool button) const;
+  void forward(const QWidget& widget, const Control& control, const Handler& handler,
+               bool button = false);
 
   const Texts& texts_;
   std::deque<Joint> joints_;
   std::map<const Control*, const Control*> titles_;  ///< by frame
   bool live_ = true;
   bool captions_changed_ = false;
+  bool applying_ = false;
   QWidget* parked_ = nullptr;  ///< lost the focus when it was disabled; gets it back
 };
 

@@ -28,4 +28,13 @@ QString caption_with_mnemonic(const QString& caption, QSet<QChar>& taken) {
   return plain_caption(caption.left(found)) + QLatin1Char('&') + plain_caption(caption.mid(found));
 }
 
+QString without_mnemonic(const QString& caption) {
+  QString words;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == QLatin1Char('&') && i + 1 < caption.size()) ++i;
+    words += caption[i];
+  }
+  return words;
+}
+
 }  // namespace tonarix

@@ -12,4 +12,7 @@ QString plain_caption(const QString& caption);
 /// window, else any free letter of it, else none. The letter is added to `taken`.
 QString caption_with_mnemonic(const QString& caption, QSet<QChar>& taken);
 
+/// The caption as it reads, without the marks of letters.
+QString without_mnemonic(const QString& caption);
+
 }  // namespace tonarix

@@ -34,19 +34,34 @@ class MessageSign final : public QWidget {
 
 class MessageBox final : public QDialog {
  public:
-  explicit MessageBox(bool must_choose) : must_choose_(must_choose) {}
+  MessageBox(const Scheduler& scheduler, bool must_choose)
+      : scheduler_(scheduler), must_choose_(must_choose) {
+    guard_.shown();
+  }
   void reject() override {
     if (!must_choose_) QDialog::reject();
   }
+  // A press that was under way when the box came up was not meant for it.
+  void done(int result) override {
+    if (guard_.settled(scheduler_.now())) QDialog::done(result);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QDialog::paintEvent(event);
+    guard_.seen(scheduler_.now());
+  }
 
  private:
+  const Scheduler& scheduler_;
   bool must_choose_;
+  InputGuard guard_;
 };
 
 }  // namespace
 
-QtDialogs::QtDialogs(const Texts& texts, Presenter& presenter)
-    : texts_(texts), presenter_(presenter) {
+QtDialogs::QtDialogs(const Scheduler& scheduler, const Texts& texts, Presenter& presenter)
+    : scheduler_(scheduler), texts_(texts), presenter_(presenter) {
   presenter_.on_views_changed = [this] { attach(); };
 }
 
@@ -101,7 +116,7 @@ QString QtDialogs::caption(const std::string& own, TextKey key, const QString& u
 }
 
 std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
-  auto box = std::make_unique<MessageBox>(message.style == MessageStyle::yes_no);
+  auto box = std::make_unique<MessageBox>(scheduler_, message.style == MessageStyle::yes_no);
   box->setObjectName(QStringLiteral("message_box"));
   box->setWindowModality(Qt::ApplicationModal);
   box->setWindowTitle(to_qstring(message.title));
@@ -144,10 +159,11 @@ std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
     if (primary) button->setFocus();
   };
   if (message.style == MessageStyle::yes_no) {
+    const bool no_is_usual = message.usual == Reply::no;
     add("no", caption(message.no_caption, text::box_no, QStringLiteral("No")), QDialog::Rejected,
-        false);
+        no_is_usual);
     add("yes", caption(message.yes_caption, text::box_yes, QStringLiteral("Yes")),
-        QDialog::Accepted, true);
+        QDialog::Accepted, !no_is_usual);
   } else {
     add("ok", caption({}, 432_text, QStringLiteral("OK")), QDialog::Accepted, true);
   }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "base/dialogs.h"
+#include "base/input_guard.h"
 #include "base/texts.h"
 #include "base/windows/presenter.h"
 
@@ -17,7 +18,7 @@ namespace tonarix {
 /// its two answers, so that nothing is lost by a slip.
 class QtDialogs final : public Dialogs {
  public:
-  QtDialogs(const Texts& texts, Presenter& presenter);
+  QtDialogs(const Scheduler& scheduler, const Texts& texts, Presenter& presenter);
   ~QtDialogs() override;
 
   void show(const Message& message, std::function<void(Reply)> done) override;
@@ -35,6 +36,7 @@ class QtDialogs final : public Dialogs {
   QString caption(const std::string& own, TextKey key, const QString& usual) const;
   std::unique_ptr<QDialog> make(const Message& message);
 
+  const Scheduler& scheduler_;
   const Texts& texts_;
   Presenter& presenter_;
   std::deque<Waiting> waiting_;  ///< the first stands open

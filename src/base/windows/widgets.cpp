@@ -9,6 +9,7 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <utility>
 
 #include "base/windows/style.h"
 
@@ -112,6 +113,33 @@ void Button::set_colours(std::optional<QColor> back, std::optional<QColor> fore)
   update();
 }
 
+void Button::set_open(bool open) {
+  closed_ = !open && std::exchange(keeps_focus_, false) && hasFocus();
+  setEnabled(open || closed_);
+  update();
+}
+
+void Button::focusOutEvent(QFocusEvent* event) {
+  QPushButton::focusOutEvent(event);
+  // Another window in front takes the focus only for a while.
+  if (!closed_ || event->reason() == Qt::ActiveWindowFocusReason) return;
+  closed_ = false;
+  setEnabled(false);
+}
+
+void Button::initStyleOption(QStyleOptionButton* option) const {
+  QPushButton::initStyleOption(option);
+  if (!closed_) return;
+  option->state &= ~(QStyle::State_Enabled | QStyle::State_MouseOver);
+  option->palette.setCurrentColorGroup(QPalette::Disabled);
+}
+
+void Button::set_key(const QString& key) {
+  if (key_ == key) return;
+  key_ = key;
+  update();
+}
+
 QColor Button::ink() const {
   if (fore_) return *fore_;
   if (back_) return theme::ink_on(*back_);
@@ -188,6 +216,35 @@ ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(10);
   setMaxVisibleItems(16);
+}
+
+void ListBox::set_name(const QString& name) {
+  name_ = name;
+  if (!spoken_) {
+    spoken_ = new QLabel(parentWidget());
+    spoken_->hide();
+    spoken_->setBuddy(this);
+  }
+  if (spoken_->text() != name) spoken_->setText(name);
+}
+
+bool ListBox::event(QEvent* event) {
+  // A label names only its neighbours.
+  if (event->type() == QEvent::ParentChange && spoken_) spoken_->setParent(parentWidget());
+  return QComboBox::event(event);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+  const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+  int next = currentIndex() + step;
+  while (step != 0 && next >= 0 && next < count() && itemData(next, gap_role).toBool())
+    next += step;
+  if (step == 0 || event->modifiers() & Qt::AltModifier || next == currentIndex() + step) {
+    QComboBox::keyPressEvent(event);
+  } else if (next >= 0 && next < count()) {
+    setCurrentIndex(next);
+    Q_EMIT activated(next);
+  }
 }
 
 void ListBox::showPopup() {

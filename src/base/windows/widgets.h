@@ -16,7 +16,7 @@ class QHBoxLayout;
 namespace tonarix {
 
 /// A button. It takes the keyboard's focus by Tab only, so that a mouse click leaves it where it
-/// is.
+/// is. One that is closed while it has the focus keeps it: who works by keys stays where they were.
 class Button : public QPushButton {
  public:
   explicit Button(QWidget* parent = nullptr);
@@ -27,8 +27,24 @@ class Button : public QPushButton {
   const std::optional<QColor>& back() const { return back_; }
   /// Colour of the caption while enabled.
   QColor ink() const;
+  /// Opens it, or closes it and lets the focus go.
+  void set_open(bool open);
+  /// The next `set_open(false)` leaves it the focus.
+  void close_in_place() { keeps_focus_ = true; }
+  /// True when a press can count.
+  bool open() const { return isEnabled() && !closed_; }
+  /// The key that presses it, as it is printed on it: "3"; empty for none.
+  void set_key(const QString& key);
+  const QString& key() const { return key_; }
+
+ protected:
+  void initStyleOption(QStyleOptionButton* option) const override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  bool closed_ = false;
+  bool keeps_focus_ = false;
+  QString key_;
   bool primary_ = false;
   std::optional<QColor> back_;
   std::optional<QColor> fore_;
@@ -55,12 +71,24 @@ class Option : public QRadioButton {
 /// A drop-down list that the wheel does not change by accident.
 class ListBox : public QComboBox {
  public:
+  /// Data of an entry that the arrow keys pass over, true for one that only fills a place.
+  static constexpr int gap_role = Qt::UserRole + 1;
+
   explicit ListBox(QWidget* parent = nullptr);
   void showPopup() override;
+  /// What the list is called; a screen reader takes the entry that shows for its content.
+  void set_name(const QString& name);
+  const QString& name() const { return name_; }
 
  protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  QString name_;
+  QLabel* spoken_ = nullptr;  ///< hidden; its buddy is this list
 };
 
 /// A slider over whole numbers; the wheel passes it by.

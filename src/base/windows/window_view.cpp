@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <algorithm>
 
+#include "base/windows/accessibility.h"
 #include "base/windows/style.h"
 
 namespace tonarix {
@@ -16,7 +17,7 @@ namespace {
 
 Button* first_open(const std::vector<Button*>& buttons) {
   const auto found = std::find_if(buttons.begin(), buttons.end(), [](const Button* button) {
-    return button->isVisibleTo(button->window()) && button->isEnabled();
+    return button->isVisibleTo(button->window()) && button->open();
   });
   return found == buttons.end() ? nullptr : *found;
 }
@@ -59,11 +60,17 @@ WindowView::WindowView(Window& window, const Texts& texts) : WidgetMaker(texts),
   QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     if (now && content().isAncestorOf(now)) scroll_->ensureWidgetVisible(now, 16, 16);
   });
+  announcer_ = new Announcer(this);
   window.on_changed = [this] { apply(); };
+  window.on_announced = [this](const std::string& news) {
+    if (isVisible()) announcer_->announce(to_qstring(news));
+  };
 }
 
 WindowView::~WindowView() {
-  if (logic_) logic_->on_changed = nullptr;
+  if (!logic_) return;
+  logic_->on_changed = nullptr;
+  logic_->on_announced = nullptr;
 }
 
 void WindowView::apply() {
@@ -82,7 +89,10 @@ void WindowView::apply() {
   for (Button* button : way_on_) button->set_primary(button == next);
   applied();
   if (logic_->visible == isVisible()) return;
-  if (logic_->visible) place_first();
+  if (logic_->visible) {
+    logic_->guard.shown();
+    place_first();
+  }
   setVisible(logic_->visible);
   if (on_visibility) on_visibility();
 }
@@ -90,6 +100,7 @@ void WindowView::apply() {
 void WindowView::detach() {
   if (!logic_) return;
   logic_->on_changed = nullptr;
+  logic_->on_announced = nullptr;
   logic_ = nullptr;
   bindings().close();
   hide();
@@ -147,14 +158,15 @@ void WindowView::key(const QKeySequence& sequence, Button& button) {
 
 void WindowView::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (logic_) logic_->title_bar_close();
+  if (logic_ && logic_->guard.admits(this, logic_->now())) logic_->title_bar_close();
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
+  if (!logic_ || !logic_->takes_input()) return;
   Button* target = nullptr;
   if (is_return(*event)) {
     target = dynamic_cast<Button*>(focusWidget());
-    if (!target || !target->isEnabled()) target = first_open(way_on_);
+    if (!target || !target->open()) target = first_open(way_on_);
   } else if (event->key() == Qt::Key_Escape) {
     target = first_open(way_back_);
   } else if (event->key() == Qt::Key_F1) {
@@ -190,6 +202,11 @@ bool WindowView::eventFilter(QObject* watched, QEvent* event) {
 void WindowView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   fit();
+}
+
+void WindowView::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (logic_) logic_->guard.seen(logic_->now());
 }
 
 void WindowView::showEvent(QShowEvent* event) {

@@ -11,6 +11,8 @@ class QScrollArea;
 
 namespace tonarix {
 
+class Announcer;
+
 /// The toolkit half of a window. A subclass builds its layout in its constructor: widgets go into
 /// `content()`, which scrolls where the screen is too small, and into `actions()`, the one line
 /// below that always stays in view. Create widgets in reading order: that is the tab order too.
@@ -70,6 +72,7 @@ class WindowView : public QWidget, protected WidgetMaker {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -83,6 +86,7 @@ class WindowView : public QWidget, protected WidgetMaker {
   Window* logic_;
   QScrollArea* scroll_;
   QHBoxLayout* actions_;
+  Announcer* announcer_;
   std::vector<Button*> way_on_;
   std::vector<Button*> way_back_;
   Button* help_ = nullptr;

@@ -9,25 +9,33 @@
 namespace tonarix {
 namespace {
 
-constexpr int kTallest = 44;    // of a button
-constexpr int kDigitRoom = 18;  // at the left edge
+constexpr int kTallest = 44;  // of a button
+constexpr int kKeyRoom = 18;  // at the left edge
+constexpr int kDigits = 10;
+constexpr int kFirstFunctionKey = 2;
 
 }  // namespace
 
-void AnswerButton::set_digit(int digit) {
-  if (digit_ == digit) return;
-  digit_ = digit;
-  update();
+QString AnswerButton::key_name(int place) {
+  return place < kDigits ? QString::number((place + 1) % kDigits)
+                         : QLatin1Char('F') + QString::number(place - kDigits + kFirstFunctionKey);
+}
+
+int AnswerButton::place_of_key(int key) {
+  if (key == Qt::Key_0) return kDigits - 1;
+  if (key >= Qt::Key_1 && key <= Qt::Key_9) return key - Qt::Key_1;
+  // F1 is the help.
+  if (key >= Qt::Key_F2 && key <= Qt::Key_F12) return kDigits + key - Qt::Key_F2;
+  return -1;
 }
 
 void AnswerButton::paintEvent(QPaintEvent* event) {
   Button::paintEvent(event);
-  if (digit_ < 0) return;
+  if (key().isEmpty()) return;
   QPainter painter(this);
   painter.setFont(theme::font(TextRole::note));
-  painter.setPen(theme::colour(isEnabled() ? theme::note : theme::faint));
-  painter.drawText(rect().adjusted(8, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString::number(digit_));
+  painter.setPen(theme::colour(open() ? theme::note : theme::faint));
+  painter.drawText(rect().adjusted(8, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, key());
 }
 
 AnswerGrid::AnswerGrid(int columns, QWidget* parent) : QWidget(parent), columns_(columns) {
@@ -49,7 +57,7 @@ std::vector<AnswerButton*> AnswerGrid::shown() const {
 QSize AnswerGrid::cell() const {
   QSize largest;
   for (const AnswerButton* button : buttons_) largest = largest.expandedTo(button->sizeHint());
-  return {largest.width() + kDigitRoom / 2, largest.height()};
+  return {largest.width() + kKeyRoom / 2, largest.height()};
 }
 
 int AnswerGrid::columns_for(int width) const {

@@ -7,19 +7,17 @@
 
 namespace tonarix {
 
-/// An answer button, with the number key that presses it in grey at its edge.
+/// An answer button, with the key that presses it in grey at its edge.
 class AnswerButton final : public Button {
  public:
   using Button::Button;
-  /// 1 to 9, 0 for the tenth; -1 for none.
-  void set_digit(int digit);
-  int digit() const { return digit_; }
+  /// What is printed on the key for the answer at this place, from 0: 1 to 9, 0, then F2 to F12.
+  static QString key_name(int place);
+  /// The place whose key this is, -1 for any other key.
+  static int place_of_key(int key);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  int digit_ = -1;
 };
 
 /// The answers in a fixed grid, row by row. Each button keeps its place, also while others are

@@ -29,9 +29,10 @@ AnswerField::AnswerField(QWidget* parent) : Label(TextRole::plain, parent) {
   setWordWrap(true);
 }
 
-void AnswerField::set_current(bool current) {
-  if (current_ == current) return;
+void AnswerField::set_current(bool current, int tries) {
+  if (current_ == current && tries_ == tries) return;
   current_ = current;
+  tries_ = tries;
   update();
 }
 
@@ -49,6 +50,13 @@ void AnswerField::paintEvent(QPaintEvent* event) {
   painter.setPen(QPen(theme::colour(theme::accent), 2));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), theme::small_corner,
                           theme::small_corner);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().color(QPalette::WindowText));
+  painter.setOpacity(0.45);
+  for (int dot = 0; dot < tries_; ++dot) {
+    const double x = width() / 2.0 + (dot - (tries_ - 1) / 2.0) * 9;
+    painter.drawEllipse(QPointF(x, height() - 8), 2, 2);
+  }
 }
 
 void NumberMark::set_text(const QString& text) {
@@ -103,7 +111,7 @@ void AnswerRow::set_number(int field, const QString& number) {
   marks.at(static_cast<std::size_t>(field))->set_text(number);
 }
 
-void AnswerRow::show_state(int fields_shown, int current) {
+void AnswerRow::show_state(int fields_shown, int current, int tries) {
   if (count_ != fields_shown) {
     count_ = fields_shown;
     arrange();
@@ -111,7 +119,7 @@ void AnswerRow::show_state(int fields_shown, int current) {
   }
   current_ = current;
   for (int i = 0; i < kFields; ++i) {
-    fields[static_cast<std::size_t>(i)]->set_current(i == current);
+    fields[static_cast<std::size_t>(i)]->set_current(i == current, tries);
   }
   update();
 }

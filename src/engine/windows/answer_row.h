@@ -12,13 +12,15 @@ namespace tonarix {
 class AnswerField final : public Label {
  public:
   explicit AnswerField(QWidget* parent);
-  void set_current(bool current);
+  /// `tries` left to answer it, shown as quiet dots.
+  void set_current(bool current, int tries);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   bool current_ = false;
+  int tries_ = 0;
 };
 
 /// The number of the interval that is asked, with a pointer.
@@ -55,8 +57,8 @@ class AnswerRow final : public QWidget {
   void set_lead(Label& lead);
   /// Numbers that stand above the fields that are not asked now.
   void set_number(int field, const QString& number);
-  /// Shown fields and the one that is asked, -1 for none.
-  void show_state(int fields, int current);
+  /// Shown fields, the one that is asked, -1 for none, and how many tries it has left.
+  void show_state(int fields, int current, int tries);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/module_texts.h"
+#include "base/windows/accessibility.h"
 #include "base/windows/mnemonics.h"
 
 namespace tonarix {
@@ -16,7 +17,7 @@ constexpr int kColumnWidth = 228;
 constexpr int kNarrow = 860;  // below this the column goes under the answers
 
 bool pressable(const Button* button) {
-  return button->isVisible() && button->isEnabled();
+  return button->isVisible() && button->open();
 }
 
 }  // namespace
@@ -80,7 +81,8 @@ void ExerciseView::build_row(const Control& title, const Control* lead,
   for (int i = 0; sounding_ && i <= AnswerRow::kFields; ++i) {
     SoundingMark* mark = row_->sounding[static_cast<std::size_t>(i)];
     bindings().bind(*mark, sounding_->sounding[i], [this, mark, i] {
-      mark->setAccessibleName(word(text::tone_of_row) + QLatin1Char(' ') + QString::number(i + 1));
+      set_accessible_name(*mark,
+                          word(text::tone_of_row) + QLatin1Char(' ') + QString::number(i + 1));
     });
   }
   row_card->body().addWidget(row_);
@@ -118,8 +120,8 @@ void ExerciseView::build_training(Card& card) {
   bindings().bind(*bar, value, [this, bar, &value] {
     if (value.text.empty()) return;
     bar->set_percent(std::stoi(value.text));
-    bar->setAccessibleName(to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') +
-                           bar->number());
+    set_accessible_name(
+        *bar, to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') + bar->number());
   });
   card.body().addWidget(bar);
 }
@@ -189,6 +191,9 @@ void ExerciseView::build_actions(const Control* frame) {
     back->setMinimumWidth(std::max(back->minimumWidth(), back->sizeHint().width()));
   }
   line->add_right(*back);
+  Button* help_button = action(window_.cmdHilfe, [this] { window_.cmdHilfe_click(); });
+  help(help_button);
+  line->add_right(*help_button);
   clock_ = label(window_.Uhr, TextRole::note);
   clock_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   line->add_right(*clock_);
@@ -225,11 +230,14 @@ void ExerciseView::applied() {
   if (row_) {
     int fields = 0;
     int current = -1;
+    int tries = 0;
     for (int i = 0; i < AnswerRow::kFields; ++i) {
       if (places_->ergebnis[i].visible) fields = i + 1;
-      if (places_->nriv[i].visible) current = i;
+      if (!places_->nriv[i].visible) continue;
+      current = i;
+      tries = to_qstring(places_->tries[i].text).toInt();
     }
-    row_->show_state(fields, current);
+    row_->show_state(fields, current, tries);
   }
   if (column_) {
     training_card_->setVisible(is_training(window_.level()));
@@ -237,23 +245,18 @@ void ExerciseView::applied() {
   }
   for (AnswerGrid* grid : grids_) {
     int place = 0;
-    for (AnswerButton* answer : grid->shown()) {
-      ++place;
-      answer->set_digit(place > 10 ? -1 : place % 10);
-    }
+    for (AnswerButton* answer : grid->shown()) answer->set_key(AnswerButton::key_name(place++));
   }
 }
 
 bool ExerciseView::press_answer(int key) {
-  if (key < Qt::Key_0 || key > Qt::Key_9) return false;
-  const int digit = key - Qt::Key_0;
+  const int place = AnswerButton::place_of_key(key);
+  if (place < 0) return false;
   for (const AnswerGrid* grid : grids_) {
-    if (!grid->isVisible()) continue;
-    for (AnswerButton* answer : grid->shown()) {
-      if (answer->digit() != digit) continue;
-      answer->click();
-      return true;
-    }
+    const auto answers = grid->shown();
+    if (!grid->isVisible() || place >= static_cast<int>(answers.size())) continue;
+    answers[static_cast<std::size_t>(place)]->click();
+    return true;
   }
   return false;
 }
@@ -262,6 +265,7 @@ bool ExerciseView::press_letter(const QString& text) {
   if (text.size() != 1 || !text[0].isLetter()) return false;
   const QKeySequence alt(QStringLiteral("Alt+") + text.toUpper());
   for (const ActionButton& action : action_buttons_) {
+    if (action.control == &window_.zurueck) continue;
     if (!pressable(action.button) || action.button->shortcut() != alt) continue;
     action.button->click();
     return true;
@@ -270,11 +274,10 @@ bool ExerciseView::press_letter(const QString& text) {
 }
 
 void ExerciseView::keyPressEvent(QKeyEvent* event) {
-  if (event->isAutoRepeat() || !bindings().live()) return;
+  if (event->isAutoRepeat() || !bindings().live() || !window_.takes_input()) return;
   const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
   if (plain && event->key() == Qt::Key_Escape) {
-    // In a running test a slip of the finger must not end it.
-    if (!is_test(window_.level()) || is_over(window_.phase())) window_.zurueck_click();
+    button_of(&window_.zurueck)->click();
     return;
   }
   if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {

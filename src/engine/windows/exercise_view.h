@@ -21,9 +21,10 @@ namespace tonarix {
 /// the reading and the tab order, and puts its answers into `middle()` and its own cards into
 /// `column()`.
 ///
-/// Keys beside those of every window: Return presses the default button of the logic, Escape asks
-/// it, 1 to 9 and 0 press the shown answers in reading order, and the letters that are marked for
-/// Alt press the actions without Alt too, as nothing here takes typed text.
+/// Keys beside those of every window: Return presses the default button of the logic, Escape the
+/// way out, the keys printed on the answers press them, and the letters that are marked for Alt
+/// press the actions without Alt too, as nothing here takes typed text; the way out they don't, for
+/// a letter is struck by accident.
 class ExerciseView : public WindowView {
  public:
   /// `sounding` is the same window where its rows are heard, else null.

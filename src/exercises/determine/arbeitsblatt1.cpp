@@ -60,7 +60,10 @@ void Arbeitsblatt1::show_actions(const Actions& actions) {
 }
 
 std::string Arbeitsblatt1::question_text() const {
-  return word(text::which_interval);
+  // The first interval leads from tone 1 to tone 2.
+  const int place = answers().asked();
+  return by_degree() ? filled_in(word(text::which_degree), std::to_string(place + 2))
+                     : filled_in(word(text::which_interval), std::to_string(place + 1));
 }
 
 void Arbeitsblatt1::st_int_click(int index) {
@@ -72,7 +75,7 @@ void Arbeitsblatt1::intervall_click(int index) {
 }
 
 void Arbeitsblatt1::answer(std::int16_t code) {
-  intervall_antw(code);
+  announce(intervall_antw(code));
   go_on_after_answer();
 }
 

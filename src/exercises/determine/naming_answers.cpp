@@ -10,6 +10,12 @@
 
 namespace tonarix {
 
+namespace {
+
+constexpr std::int16_t kPrime = 1;
+
+}  // namespace
+
 NamingAnswers::NamingAnswers(Window& window, const ExerciseContext& context, TaskAnswers& answers)
     : PlaceControls(window),
       inv_box(window, "inv_box"),
@@ -36,6 +42,8 @@ void NamingAnswers::prepare_names() {
   for (Control& button : intervall) {
     const int code = *button.index();
     button.text = context_.interval_names.long_name(IntervalCode{to_int16(code)});
+    // An octave leap has the code of a prime.
+    if (code == kPrime) button.text += " " + Wort(701_text) + " " + octave();
     button.visible = !by_degree() && offered.test(static_cast<std::size_t>(code));
   }
 }
@@ -48,9 +56,7 @@ void NamingAnswers::clear_names() {
     ergebnis[i].back = ergebnis[i].fore = std::nullopt;
   }
   if (answers_.asked() == 0) return;
-  const std::int16_t code = by_degree() ? to_int16(context_.settings.stufe_wahl + 1)
-                                        : to_int16(std::abs(context_.row.iv[0]));
-  ergebnis[0].text = answer_text(code, context_.row.iv[0]);
+  ergebnis[0].text = by_degree() ? st_int[context_.settings.stufe_wahl + 1].text : solution(0);
   ergebnis[0].accessible_name = nriv[0].text + ": " + ergebnis[0].text;
   ergebnis[0].back = signal::right;
   ergebnis[0].fore = signal::black;
@@ -67,57 +73,68 @@ void NamingAnswers::open_names(bool open) {
 void NamingAnswers::mark_asked(const Actions& actions) {
   if (actions.phase == Phase::leaving) return;
   for (Control& mark : nriv) mark.visible = actions.asks && mark.index() == answers_.asked();
+  show_tries();
 }
 
-void NamingAnswers::intervall_antw(std::int16_t code) {
-  const float tenths = answers_.take();
-  if (code == std::abs(iv())) {
-    right_answer(code, tenths);
-  } else {
-    wrong_answer(code);
+void NamingAnswers::show_tries() {
+  for (int i = tries.first; i <= tries.last; ++i) {
+    tries[i].visible = nriv[i].visible;
+    tries[i].text = std::to_string(answers_.book.tries_left(i));
   }
 }
 
-void NamingAnswers::right_answer(std::int16_t code, float tenths) {
+std::string NamingAnswers::intervall_antw(std::int16_t code) {
+  const float tenths = answers_.take();
+  return code == std::abs(iv()) ? right_answer(tenths) : wrong_answer(code);
+}
+
+std::string NamingAnswers::right_answer(float tenths) {
   const int place = answers_.asked();
   Control& field = ergebnis[place];
   field.back = signal::right;
   field.fore = signal::black;
-  field.text = answer_text(code, iv());
+  field.text = solution(place);
   field.accessible_name = nriv[place].text + ": " + field.text + ", " + Wort(text::spoken_right);
   answers_.right(place, tenths);
   next_place();
+  return Wort(468_text) + ": " + field.text + ".";
 }
 
-void NamingAnswers::wrong_answer(std::int16_t code) {
+std::string NamingAnswers::wrong_answer(std::int16_t code) {
   const int place = answers_.asked();
   const Settings& settings = context_.settings;
   Control& field = ergebnis[place];
-  const std::string solution = answer_text(to_int16(std::abs(iv())), iv());
   const std::int16_t value = signed_wrong_answer(
       context_.key, settings.abfr_iv, settings.ton_st_wahl, settings.stufe_wahl, code, iv());
   const Verdict verdict = answers_.wrong(place, value);
+  if (verdict == Verdict::given_up) {
+    field.fore = signal::black;
+    field.back = signal::given;
+    field.text = Wort(text::spoken_solution) + ": " + solution(place);
+    field.accessible_name = nriv[place].text + ": " + field.text;
+    next_place();
+    return Wort(232_text) + ", " + field.text + ".";
+  }
   const bool red_on_black = answers_.book.wrong_tries(place) % 2 == 1;
   field.fore = red_on_black ? signal::wrong : signal::black;
   field.back = red_on_black ? signal::black : signal::wrong;
-  if (verdict == Verdict::given_up) {
-    field.text = solution;
-    field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " +
-                            Wort(text::spoken_solution) + " " + solution;
-    next_place();
-    return;
-  }
   field.text = Wort(232_text);
-  field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong);
+  const int left = answers_.book.tries_left(place);
+  const std::string still = left == 1 ? Wort(text::one_try_left)
+                                      : filled_in(Wort(text::tries_left), std::to_string(left));
+  field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " + still;
   gesperrt_.at(static_cast<std::size_t>(code)) = true;
   open_names(true);
+  show_tries();
   answers_.open_next(to_int16(answers_.asked()));
+  return Wort(232_text) + ", " + still + ".";
 }
 
 void NamingAnswers::next_place() {
   gesperrt_.fill(false);
   if (answers_.book.done()) return;
   for (Control& mark : nriv) mark.visible = mark.index() == answers_.asked();
+  show_tries();
   open_names(true);
   answers_.open_next(to_int16(answers_.asked()));
 }
@@ -137,10 +154,20 @@ std::int16_t NamingAnswers::iv() const {
   return answers_.book.place(answers_.asked()).interval;
 }
 
-std::string NamingAnswers::answer_text(std::int16_t code, std::int16_t asked) const {
+std::string NamingAnswers::octave() const {
+  return context_.interval_names.long_name(IntervalCode{0});
+}
+
+std::string NamingAnswers::solution(int place) const {
+  const std::int16_t asked = answers_.book.place(place).interval;
+  const auto code = to_int16(std::abs(asked));
   if (by_degree()) return st_int[code].text;
   const std::string VorzeichenText = Sgn(asked) == 1 ? "+" : "-";
-  return VorzeichenText + " " + context_.interval_names.long_name(IntervalCode{code});
+  const auto from = static_cast<std::size_t>(place);
+  const bool leap = context_.row.inv_ton[from].chr != context_.row.inv_ton[from + 1].chr;
+  return VorzeichenText + " " +
+         (code == kPrime && leap ? octave()
+                                 : context_.interval_names.long_name(IntervalCode{code}));
 }
 
 }  // namespace tonarix

@@ -37,17 +37,19 @@ class NamingAnswers : public PlaceControls {
   void open_names(bool open);
   /// Marks the interval that is asked while the row is.
   void mark_asked(const Actions& actions);
-  /// Judges the answer with the code of a button. (`intervall_antw`)
-  void intervall_antw(std::int16_t code);
+  /// Judges the answer with the code of a button; the verdict in few words. (`intervall_antw`)
+  std::string intervall_antw(std::int16_t code);
   /// A code as the program tries it out by itself, right every second time.
   std::int16_t try_code() const;
 
  private:
   std::int16_t iv() const;
-  /// What a field says for a code: the degree, or the interval with the direction of `asked`.
-  std::string answer_text(std::int16_t code, std::int16_t asked) const;
-  void right_answer(std::int16_t code, float tenths);
-  void wrong_answer(std::int16_t code);
+  /// What a field says when its interval is named: the degree, or the interval with its direction.
+  std::string solution(int place) const;
+  std::string octave() const;
+  std::string right_answer(float tenths);
+  std::string wrong_answer(std::int16_t code);
+  void show_tries();
   void next_place();
   std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }
 

@@ -9,6 +9,7 @@
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
+#include "support/shown_window.h"
 #include "support/window_bed.h"
 
 namespace tonarix {
@@ -27,7 +28,7 @@ class KitWindow final : public Window {
     }
     entries.container = &frame;
   }
-  void title_bar_close() override { told += "close "; }
+  void close_requested() override { told += "close "; }
   void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
   void mode_click(int index) {
     told += "mode" + std::to_string(index) + " ";
@@ -87,6 +88,7 @@ struct BindingsTest : testing::Test, WindowBed {
     presenter.add<KitWindow, KitView>("kit", texts);
     window = &windows.open(std::make_unique<KitWindow>(common));
     view = static_cast<KitView*>(presenter.view_of(*window));
+    come_up(scheduler);
   }
   Presenter presenter{windows};
   KitWindow* window = nullptr;
@@ -95,7 +97,7 @@ struct BindingsTest : testing::Test, WindowBed {
 
 TEST_F(BindingsTest, RealButtonsPressAndShowTheStateOfTheLogic) {
   EXPECT_EQ(view->field->objectName(), "field_2");
-  EXPECT_EQ(view->go->accessibleName(), "Save & go");
+  EXPECT_EQ(spoken_name(*view->go), "Save & go");
   // Each letter for Alt is given once.
   EXPECT_EQ(view->back->text(), "&go back");
   EXPECT_EQ(view->go->text(), "&Save && go");
@@ -125,7 +127,7 @@ TEST_F(BindingsTest, AChoiceReachesTheLogicAndARefusedOneLeavesTheScreen) {
   EXPECT_EQ(window->told, "mode2 mode3 ");
   EXPECT_TRUE(view->choices[1]->isChecked());
   EXPECT_FALSE(view->choices[2]->isChecked());
-  EXPECT_EQ(view->choices[1]->accessibleName(), "Group" + to_qstring(texts.Wort(700_text)) + "2");
+  EXPECT_EQ(spoken_name(*view->choices[1]), "Group" + to_qstring(texts.Wort(700_text)) + "2");
   for (OptionControl& choice : window->mode) choice.value = false;
   window->changed();
   for (const Option* choice : view->choices) EXPECT_FALSE(choice->isChecked());
@@ -151,7 +153,7 @@ TEST_F(BindingsTest, ALockedFrameHoldsWhatIsInsideAndSaysSo) {
   window->frame.back = signal::locked;
   window->changed();
   EXPECT_TRUE(view->frame->locked());
-  EXPECT_TRUE(view->frame->accessibleName().contains(to_qstring(texts.Wort(1250_text))));
+  EXPECT_TRUE(spoken_name(*view->frame).contains(to_qstring(texts.Wort(1250_text))));
   EXPECT_FALSE(view->choices[0]->isEnabled());
   EXPECT_FALSE(view->entries->isEnabled());
   EXPECT_TRUE(view->volume->isEnabled());
@@ -164,7 +166,8 @@ TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
   view->back->setFocus();
   window->back.enabled = false;
   window->changed();
-  EXPECT_EQ(view->focusWidget(), view) << "the focus must not jump to a neighbour";
+  EXPECT_EQ(view->focusWidget(), view->back) << "the focus stays where it was";
+  EXPECT_FALSE(view->back->open());
   stroke(*view, Qt::Key_Escape);
   EXPECT_EQ(windows.count(), 1);
   window->back.enabled = true;
@@ -188,7 +191,7 @@ TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
 }
 
 TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
-  QtDialogs boxes(texts, presenter);
+  QtDialogs boxes(scheduler, texts, presenter);
   std::string replies;
   const auto note = [&replies](Reply reply) { replies += "oyn"[static_cast<int>(reply)]; };
   boxes.show({"Warning", "first\nsecond", MessageStyle::warning, "", ""}, note);
@@ -198,8 +201,13 @@ TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
   window->leave();
   ASSERT_NE(boxes.current(), nullptr);
   boxes.current()->reject();
+  ASSERT_EQ(boxes.current()->windowTitle(), "Warning") << "it has only just come up";
+  come_up(scheduler);
+  boxes.current()->reject();
+  come_up(scheduler);
   EXPECT_EQ(boxes.current()->findChild<QPushButton*>("no")->text(), "Never");
   boxes.current()->findChild<QPushButton*>("yes")->click();
+  come_up(scheduler);
   stroke(*boxes.current(), Qt::Key_Escape);
   EXPECT_FALSE(boxes.current()->close());
   boxes.current()->findChild<QPushButton*>("no")->click();

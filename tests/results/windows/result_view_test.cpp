@@ -16,6 +16,7 @@
 #include "results/result_bed.h"
 #include "results/windows/qt_sheet_printer.h"
 #include "results/windows/sheet_painter.h"
+#include "support/shown_window.h"
 
 namespace tonarix {
 namespace {
@@ -53,6 +54,7 @@ TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
   };
   EXPECT_TRUE(spoken("sheet").contains("[281] [132]: 100.0%"));
   EXPECT_TRUE(spoken("chart").contains("[281] [132][700]100.0%"));
+  come_up(scheduler);
   button("cmdPrint").click();
   ASSERT_TRUE(printer.busy());
   EXPECT_FALSE(button("cmdOk").isEnabled());

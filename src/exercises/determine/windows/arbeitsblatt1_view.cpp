@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 #include <numeric>
 
+#include "base/windows/accessibility.h"
 #include "exercises/determine/windows/scale_picture.h"
 
 namespace tonarix {
@@ -52,7 +53,7 @@ void Arbeitsblatt1View::build_scale() {
       const int index = *control.index();
       auto* picture = new ScalePicture(kTongeschlOfPicture[index], scale);
       bindings().bind(*picture, control, [picture, &caption = captions[index]] {
-        picture->setAccessibleName(to_qstring(caption.text));
+        set_accessible_name(*picture, to_qstring(caption.text));
       });
       scale->body().addWidget(picture);
     }

@@ -1,0 +1,104 @@
+#include "base/windows/accessibility.h"
+
+#include <QAccessibleWidget>
+
+#include "base/windows/mnemonics.h"
+#include "base/windows/widgets.h"
+#include "base/windows/window_view.h"
+
+namespace tonarix {
+namespace {
+
+constexpr char kRole[] = "accessible_role";
+
+class ButtonInterface final : public QAccessibleWidget {
+ public:
+  explicit ButtonInterface(Button& button)
+      : QAccessibleWidget(&button, QAccessible::Button), button_(button) {}
+
+  QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    if (kind == QAccessible::Accelerator && own.isEmpty()) {
+      return button_.key().isEmpty() ? button_.shortcut().toString() : button_.key();
+    }
+    if (kind == QAccessible::Name && own.isEmpty()) return without_mnemonic(button_.text());
+    return own;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.disabled = !button_.open();
+    state.pressed = button_.isDown();
+    return state;
+  }
+  QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (button_.open()) names.prepend(pressAction());
+    return names;
+  }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    if (button_.open()) button_.click();
+  }
+  QStringList keyBindingsForAction(const QString& action) const override {
+    const QString key = text(QAccessible::Accelerator);
+    return action == pressAction() && !key.isEmpty() ? QStringList(key) : QStringList();
+  }
+
+ private:
+  Button& button_;
+};
+
+class AnnouncerInterface final : public QAccessibleWidget {
+ public:
+  explicit AnnouncerInterface(Announcer& announcer)
+      : QAccessibleWidget(&announcer, QAccessible::Notification), announcer_(announcer) {}
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? announcer_.news() : QString();
+  }
+
+ private:
+  Announcer& announcer_;
+};
+
+QAccessibleInterface* interface_of(const QString&, QObject* object) {
+  if (auto* button = dynamic_cast<Button*>(object)) return new ButtonInterface(*button);
+  if (auto* announcer = dynamic_cast<Announcer*>(object)) return new AnnouncerInterface(*announcer);
+  if (auto* card = dynamic_cast<Card*>(object)) {
+    return new QAccessibleWidget(card, QAccessible::Grouping);
+  }
+  if (auto* view = dynamic_cast<WindowView*>(object)) {
+    return new QAccessibleWidget(view, QAccessible::Window);
+  }
+  const QVariant role = object->property(kRole);
+  if (!role.isValid()) return nullptr;
+  return new QAccessibleWidget(static_cast<QWidget*>(object),
+                               static_cast<QAccessible::Role>(role.toInt()));
+}
+
+}  // namespace
+
+void install_accessibility() {
+  QAccessible::installFactory(interface_of);
+}
+
+void set_accessible_role(QWidget& widget, QAccessible::Role role) {
+  widget.setProperty(kRole, static_cast<int>(role));
+}
+
+void set_accessible_name(QWidget& widget, const QString& name) {
+  if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
+Announcer::Announcer(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("announcer"));
+  setFixedSize(1, 1);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Announcer::announce(const QString& news) {
+  news_ = news;
+  QAccessibleEvent come_up(this, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&come_up);
+}
+
+}  // namespace tonarix
