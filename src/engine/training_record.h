@@ -18,7 +18,8 @@ class TrainingRecord {
       : server_(server), errors_(errors), settings_(settings), current_(current) {}
 
   /// Stores settings and state, both or none: the settings of one training beside the state of
-  /// another would go on with nonsense. False when the host failed; the reason is in the log.
+  /// another would go on with nonsense. Nothing is stored when the former settings can't be read
+  /// and so could not be restored. False when the host failed; the reason is in the log.
   bool keep(const SavedTraining& training);
   /// The training at level 2; RuntimeError 1000 when none was read.
   const SavedTraining& resumed() const;

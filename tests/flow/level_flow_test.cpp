@@ -146,16 +146,24 @@ TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
   };
   EXPECT_EQ(train(host, 2), "[565s]");
   ASSERT_EQ(host.records.size(), 2U);
-  for (const bool had_former : {false, true}) {
-    for (const char* refused : {"vemo06/E1", "vemo06/A1"}) {
+  for (const auto& [settings, state] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}}) {
+    for (const std::string refused : {"vemo06/E1", "vemo06/A1", "READ"}) {
+      SCOPED_TRACE(refused + (settings ? " over settings" : "") + (state ? " over a state" : ""));
       FakeHost of;
-      if (had_former) train(of, 1);
+      train(of, 1);
+      if (!settings) of.records.erase("vemo06/E1");
+      if (!state) of.records.erase("vemo06/A1");
       const auto former = of.records;
-      of.failing_records = {refused};
-      EXPECT_EQ(train(of, 2), had_former ? "[565s]" : "---------------") << refused;
-      of.records.erase(had_former ? "" : "vemo06/E1");  // settings alone are no training
-      EXPECT_EQ(of.records, former) << refused;
-      of.failing_records.clear();
+      of.failing_records = of.failing = {refused};
+      const bool offered = settings && state && refused != "READ";
+      EXPECT_EQ(train(of, 2), offered ? "[565s]" : "---------------");
+      // A state alone is no training: a new one may stand where there are no settings.
+      if (settings || refused != "vemo06/E1") {
+        EXPECT_EQ(of.records, former);
+      } else {
+        EXPECT_FALSE(of.records.contains("vemo06/E1"));
+      }
+      of.failing_records = of.failing = {};
       train(of, 2);
       EXPECT_EQ(of.records, host.records);
     }
