@@ -53,6 +53,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Sequence mat_wahl();
   void update_counts();
   void finish_row();
+  void finish_training();
   Sequence leave();
   void Uhrzeit_timer();
   void stop_all();

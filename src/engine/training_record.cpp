@@ -55,4 +55,15 @@ bool TrainingRecord::drop() {
   }
 }
 
+RecordRead TrainingRecord::stored() const {
+  std::vector<std::string> record;
+  std::vector<std::string> state;
+  const RecordRead settings_read = server_.read_record(record_key('E', settings_), record);
+  const RecordRead state_read = server_.read_record(record_key('A', settings_), state);
+  const bool used_up = state_read == RecordRead::found && !says_valid(state);
+  // One half that is surely missing is enough to know that there is none.
+  if (used_up || settings_read == RecordRead::none) return RecordRead::none;
+  return state_read == RecordRead::found ? settings_read : state_read;
+}
+
 }  // namespace tonarix

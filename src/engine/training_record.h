@@ -25,6 +25,9 @@ class TrainingRecord {
   const SavedTraining& resumed() const;
   /// Marks the training as used up. False when the host failed.
   bool drop();
+  /// Whether the store holds a training to go on with, whichever it is; `failed` when the host
+  /// doesn't tell.
+  RecordRead stored() const;
 
  private:
   Server& server_;

@@ -131,6 +131,47 @@ TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
   bed.result();
 }
 
+TEST_F(LevelFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheStoreHasIt) {
+  struct Case {
+    int level;
+    const char* before;  ///< flag of the training saved before
+    std::set<std::string> failing;
+    const char *told, *entry;
+    int selected;
+  };
+  const Case cases[] = {{2, "true", {"STORE"}, "[1129s]", "[565s]", 2},
+                        {2, "true", {"STORE", "READ"}, "[1137s]", "[565s]", 2},
+                        {1, "true", {"STORE"}, "[1129s]", "[565s]", 1},
+                        {1, "", {"STORE"}, "[1136s]", "---------------", 1},
+                        {1, "False", {"STORE"}, "[1136s]", "---------------", 1},
+                        {1, "", {"STORE", "READ"}, "[1137s]", "---------------", 1}};
+  for (const Case& at : cases) {
+    SCOPED_TRACE(at.told + std::to_string(at.level));
+    FakeHost of;
+    if (*at.before) {
+      FlowBed before(of, 3);
+      Arbeitsblatt1& window = before.begin(1);
+      before.answer_row(window);
+      save(before, window);
+      Variant::Array changed = of.records["vemo06/A1"].array();
+      changed.at(0) = at.before;
+      of.records["vemo06/A1"] = changed;
+    }
+    const auto stored = of.records;
+    FlowBed bed(of);
+    Arbeitsblatt1& window = bed.begin(at.level);
+    of.failing = at.failing;
+    play(bed, window, 0);
+    ASSERT_EQ(window.phase(), Phase::training_finished);
+    EXPECT_EQ(of.records, stored);
+    bed.leave(window);
+    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+    EXPECT_EQ(bed.dialogs.shown.at(0).text, at.told);
+    EXPECT_EQ(saved_training_entry(bed), at.entry);
+    EXPECT_EQ(bed.settings().training_Combo.selected, at.selected);
+  }
+}
+
 TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
   /// A training with this many intervals, left with yes, and with no where the host refuses.
   const auto train = [](FakeHost& of, int invzahl) {
