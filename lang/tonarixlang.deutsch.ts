@@ -1552,6 +1552,11 @@ Vorzeichen!</translation>
         <source>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</source>
         <translation>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</translation>
     </message>
+    <message id="1138s">
+        <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save the training</extracomment>
+        <translation>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Stufen-Intervall über dem Grundton</translation>

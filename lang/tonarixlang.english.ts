@@ -1552,6 +1552,11 @@ in any order.</translation>
         <source>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</source>
         <translation>An error occurred while saving, and the saved trainings cannot be read. Whether there is one to continue will show when the settings are opened again.</translation>
     </message>
+    <message id="1138s">
+        <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save the training</extracomment>
+        <translation>The training already saved for this exercise will be replaced.</translation>
+    </message>
     <message id="1150s">
         <source>Stufen-Intervall über dem Grundton</source>
         <translation>Degree interval above the keynote</translation>

@@ -95,6 +95,7 @@ inline constexpr TextKey standing = 1134_text;
 inline constexpr TextKey protocol_saved_instead = 1135_text;
 inline constexpr TextKey no_training_stored = 1136_text;
 inline constexpr TextKey store_not_read = 1137_text;
+inline constexpr TextKey replaces_saved_training = 1138_text;
 inline constexpr TextKey degree_over_keynote = 1150_text;
 inline constexpr TextKey interval_from_tone_to_tone = 1151_text;
 inline constexpr TextKey scale_minor = 1152_text;

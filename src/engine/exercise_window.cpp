@@ -249,9 +249,12 @@ Sequence ExerciseWindow::leave() {
                                            answers_.counts.wrong, answers_.counts.repeats));
     };
   }
+  // A training that goes on replaces nothing but its own earlier state.
+  const bool replaces =
+      keep && level() == Level::training && training_.stored() == RecordRead::found;
   enter(Phase::leaving);
   stop_all();
-  co_await way_out_.leave(keep);
+  co_await way_out_.leave(keep, replaces);
 }
 
 void ExerciseWindow::stop_all() {

@@ -110,8 +110,21 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
   bed.hear_row();
   bed.answer_row(again, 1);
   save(bed, again);
+  EXPECT_EQ(bed.dialogs.shown.back().text, "[495s]") << "it replaces its own state";
   EXPECT_NE(state(), saved);
   EXPECT_EQ(state().array().size(), saved.array().size());
+}
+
+TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
+  FlowBed bed(host);
+  for (const char* question : {"[495s]", "[495s] [1138s]", "[495s]"}) {
+    Arbeitsblatt1& window = bed.dialogs.shown.empty() ? bed.begin(1) : bed.open_exercise();
+    bed.hear_row();
+    bed.answer_row(window);
+    save(bed, window);
+    EXPECT_EQ(bed.dialogs.shown.back().text, question);
+    if (bed.dialogs.shown.size() == 2) state() = Variant::strings({"False"});
+  }
 }
 
 TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
