@@ -1512,8 +1512,8 @@ Vorzeichen!</translation>
         <translation>Das MIDI-Gerät antwortet nicht. Die Übung bleibt offen: „wiederholen“ versucht es noch einmal, „zurück“ führt zum Ergebnis.</translation>
     </message>
     <message id="1129s">
-        <source>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</source>
-        <translation>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</translation>
+        <source>Das Ende des Trainings konnte nicht gespeichert werden. Das gespeicherte Training wird weiter zum Fortsetzen angeboten.</source>
+        <translation>Das Ende des Trainings konnte nicht gespeichert werden. Das gespeicherte Training wird weiter zum Fortsetzen angeboten.</translation>
     </message>
     <message id="1130s">
         <source>gelöst</source>
@@ -1543,6 +1543,19 @@ Vorzeichen!</translation>
     <message id="1135s">
         <source>Es liegt stattdessen hier:</source>
         <translation>Es liegt stattdessen hier:</translation>
+    </message>
+    <message id="1136s">
+        <source>Beim Speichern ist ein Fehler aufgetreten. Es ist kein Training zum Fortsetzen gespeichert.</source>
+        <translation>Beim Speichern ist ein Fehler aufgetreten. Es ist kein Training zum Fortsetzen gespeichert.</translation>
+    </message>
+    <message id="1137s">
+        <source>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</source>
+        <translation>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</translation>
+    </message>
+    <message id="1138s">
+        <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save the training</extracomment>
+        <translation>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>

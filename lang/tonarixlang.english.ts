@@ -1512,8 +1512,8 @@ in any order.</translation>
         <translation>The MIDI device does not answer. The exercise stays open: “Repeat” tries again, “Back” leads to the result.</translation>
     </message>
     <message id="1129s">
-        <source>Das gespeicherte Training konnte nicht als beendet vermerkt werden. Es wird weiter zum Fortsetzen angeboten.</source>
-        <translation>The saved training could not be marked as finished. It will still be offered for continuing.</translation>
+        <source>Das Ende des Trainings konnte nicht gespeichert werden. Das gespeicherte Training wird weiter zum Fortsetzen angeboten.</source>
+        <translation>The end of the training could not be saved. The saved training will still be offered for continuing.</translation>
     </message>
     <message id="1130s">
         <source>gelöst</source>
@@ -1543,6 +1543,19 @@ in any order.</translation>
     <message id="1135s">
         <source>Es liegt stattdessen hier:</source>
         <translation>It has been saved here instead:</translation>
+    </message>
+    <message id="1136s">
+        <source>Beim Speichern ist ein Fehler aufgetreten. Es ist kein Training zum Fortsetzen gespeichert.</source>
+        <translation>An error occurred while saving. There is no saved training to continue.</translation>
+    </message>
+    <message id="1137s">
+        <source>Beim Speichern ist ein Fehler aufgetreten, und die gespeicherten Trainings lassen sich nicht lesen. Ob eines zum Fortsetzen da ist, zeigt sich, wenn die Einstellungen neu geöffnet werden.</source>
+        <translation>An error occurred while saving, and the saved trainings cannot be read. Whether there is one to continue will show when the settings are opened again.</translation>
+    </message>
+    <message id="1138s">
+        <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save the training</extracomment>
+        <translation>The training already saved for this exercise will be replaced.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>

@@ -17,8 +17,7 @@ bool saved_training_offered(Server& server, const Settings& settings) {
   std::vector<std::string> record;
   std::vector<std::string> state;
   return server.ServerRead(record_key('E', settings), record) &&
-         server.ServerRead(record_key('A', settings), state) && !state.empty() &&
-         state.front() == kValidState;
+         server.ServerRead(record_key('A', settings), state) && says_valid(state);
 }
 
 StoredTraining read_stored_training(Server& server, const Settings& settings) {

@@ -10,9 +10,11 @@ SupervisorMarks::SupervisorMarks(SettingsControls& controls, const Settings& set
 }
 
 void SupervisorMarks::open_menu(int frame) {
-  if (!settings_.supervisor || !controls_.grdeinst[frame].open()) return;
+  const Control& chosen = controls_.grdeinst[frame];
+  const bool marked = chosen.tag == kExamMark;
+  if (!settings_.supervisor || !chosen.visible || !(chosen.enabled || marked)) return;
   frame_ = frame;
-  controls_.popExamToggle.value = controls_.grdeinst[frame].tag == kExamMark;
+  controls_.popExamToggle.value = marked;
   controls_.popPruefung.visible = true;
 }
 
@@ -27,7 +29,7 @@ void SupervisorMarks::toggle() {
   mark.value = !mark.value;
   Control& frame = controls_.grdeinst[frame_];
   frame.tag = mark.value ? kExamMark : "";
-  frame.back = mark.value ? signal::marked : signal::open;
+  if (frame.enabled) frame.back = mark.value ? signal::marked : signal::open;
 }
 
 }  // namespace tonarix

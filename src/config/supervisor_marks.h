@@ -10,7 +10,8 @@ class SupervisorMarks {
  public:
   SupervisorMarks(SettingsControls& controls, const Settings& settings);
 
-  /// Right click on a frame. Nothing happens for others than supervisors.
+  /// Right click on a frame. Nothing happens for others than supervisors. A locked frame can't be
+  /// marked, but its mark can be taken off; it stays locked and shows it.
   void open_menu(int frame);
   /// The menu was left without a choice.
   void close_menu();

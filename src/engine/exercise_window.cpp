@@ -200,9 +200,22 @@ void ExerciseWindow::finish_row() {
     standing_.show_test();
   }
   enter(next);
-  if (next != Phase::training_finished) return;
-  if (!training_.drop()) tell(word(text::training_not_marked));
-  context_.caller.training_finished();
+  if (next == Phase::training_finished) finish_training();
+}
+
+// The list of the settings window follows the store; while the store is silent it stays.
+void ExerciseWindow::finish_training() {
+  if (training_.drop()) return context_.caller.training_finished();
+  switch (training_.stored()) {
+    case RecordRead::found:
+      context_.caller.training_saved();
+      return tell(word(text::training_not_marked));
+    case RecordRead::none:
+      context_.caller.training_finished();
+      return tell(word(text::no_training_stored));
+    case RecordRead::failed:
+      return tell(word(text::store_not_read));
+  }
 }
 
 void ExerciseWindow::CmdNextAufg_click() {
@@ -278,9 +291,12 @@ Sequence ExerciseWindow::leave() {
                                            answers_.counts.wrong, answers_.counts.repeats));
     };
   }
+  // A training that goes on replaces nothing but its own earlier state.
+  const bool replaces =
+      keep && level() == Level::training && training_.stored() == RecordRead::found;
   enter(Phase::leaving);
   stop_all();
-  co_await way_out_.leave(keep);
+  co_await way_out_.leave(keep, replaces);
 }
 
 void ExerciseWindow::stop_all() {

@@ -58,6 +58,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void tell_phase();
   void way_out();
   Sequence break_off();
+  void finish_training();
   Sequence leave();
   void Uhrzeit_timer();
   void stop_all();

@@ -16,11 +16,11 @@ std::size_t third_row(const Key& key, Tone just_answered, std::int16_t& terz_typ
   if (third == Third::both) {
     if (just_answered.qz == key.skala[kMinorThirdRow].qz) third = Third::minor;
     if (just_answered.qz == key.skala[kMajorThirdRow].qz) third = Third::major;
-    terz_typ = static_cast<std::int16_t>(third);
   }
   if (third == Third::none || third == Third::both) {
     third = static_cast<Third>(draw(chance, 2) + 1);
   }
+  terz_typ = static_cast<std::int16_t>(third);
   return third == Third::minor ? kMinorThirdRow : kMajorThirdRow;
 }
 

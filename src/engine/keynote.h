@@ -16,6 +16,7 @@ enum class Third : std::int16_t { none = 0, minor = 1, major = 2, both = 3 };
 struct ChordNote {
   std::int16_t note = 0;     ///< MIDI note number
   std::int16_t ton_abw = 0;  ///< deviation of the temperament in bend steps
+  friend constexpr bool operator==(const ChordNote&, const ChordNote&) = default;
 };
 
 /// The keynote above, then keynote, third and fifth.
@@ -34,8 +35,8 @@ constexpr std::int16_t grdton_lage2(const Settings& settings, const Key& key) {
 
 /// Builds `GrdAkk` in the current key. Dur and moll have one third; in Dur-moll the chord takes the
 /// third heard in the row, so that it never contradicts the ear. Where both were heard, the tone
-/// just answered decides when it is one of them, and `terz_typ` becomes that one; chance decides
-/// what is still open.
+/// just answered decides when it is one of them; chance decides what is still open. `terz_typ`
+/// becomes the third of the chord, so that all later checks of the task keep its mode.
 KeynoteChord keynote_chord(const Settings& settings, const Key& key, Tone just_answered,
                            std::int16_t& terz_typ, Chance& chance);
 

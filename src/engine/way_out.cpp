@@ -12,8 +12,8 @@ constexpr double kResultPause = 300;  // ms for the result sheet to stand before
 
 }  // namespace
 
-Sequence WayOut::leave(std::function<bool()> keep) {
-  if (keep) co_await ask_to_save(std::move(keep));
+Sequence WayOut::leave(std::function<bool()> keep, bool replaces) {
+  if (keep) co_await ask_to_save(std::move(keep), replaces);
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
@@ -25,9 +25,11 @@ Sequence WayOut::leave(std::function<bool()> keep) {
   co_await write_protocol();
 }
 
-Sequence WayOut::ask_to_save(std::function<bool()> keep) {
-  const Message question{Wort(8_text), Wort(495_text), MessageStyle::yes_no,
-                         Wort(text::save_training), Wort(text::do_not_save)};
+Sequence WayOut::ask_to_save(std::function<bool()> keep, bool replaces) {
+  std::string asked = Wort(495_text);
+  if (replaces) asked += " " + Wort(text::replaces_saved_training);
+  const Message question{Wort(8_text), asked, MessageStyle::yes_no, Wort(text::save_training),
+                         Wort(text::do_not_save)};
   Reply reply = co_await ask(waits_, context_.common.dialogs, question);
   const Message again{Wort(8_text), Wort(text::training_not_saved), MessageStyle::yes_no,
                       Wort(text::try_again), Wort(text::leave_without_saving)};

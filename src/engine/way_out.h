@@ -16,13 +16,14 @@ class WayOut {
       : context_(context), window_(window), controls_(controls), waits_(waits) {}
 
   /// Walks to the end. `keep` stores the training and says whether it could; empty where there is
-  /// nothing to keep, and then nothing is asked.
-  Sequence leave(std::function<bool()> keep);
+  /// nothing to keep, and then nothing is asked. `replaces`: another saved training would go, which
+  /// the question says.
+  Sequence leave(std::function<bool()> keep, bool replaces);
   /// What can still be done is done: the student is told and is back at the settings.
   void give_up(std::string_view tag, std::exception_ptr error);
 
  private:
-  Sequence ask_to_save(std::function<bool()> keep);
+  Sequence ask_to_save(std::function<bool()> keep, bool replaces);
   Sequence write_protocol();
   void go_back();
   std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }

@@ -121,18 +121,22 @@ void Server::ServerStore(const std::string& short_key, const Variant& data) {
   call("STORE", stored_);
 }
 
-bool Server::ServerRead(const std::string& short_key, std::vector<std::string>& target) {
+RecordRead Server::read_record(const std::string& short_key, std::vector<std::string>& target) {
+  Variant output;
   try {
     const std::unique_ptr<Host> host = create_();
     std::string key = "READ";
     Variant input = Variant::Array{application_.executable, short_key};
-    Variant output;
-    if (!host || !host->Request(key, input, output)) return false;
-    if (output.at(0).text() == "NIL") return false;
-    target = texts_of(output);
-    return true;
+    if (!host || !host->Request(key, input, output)) return RecordRead::failed;
   } catch (const std::exception&) {
-    return false;
+    return RecordRead::failed;
+  }
+  try {
+    if (output.at(0).text() == "NIL") return RecordRead::none;
+    target = texts_of(output);
+    return RecordRead::found;
+  } catch (const RuntimeError&) {
+    return RecordRead::none;
   }
 }
 

@@ -12,6 +12,10 @@
 
 namespace tonarix {
 
+/// What asking for a record came to: read; the host says that there is none, or what it holds is no
+/// record of texts; the host failed or did not answer.
+enum class RecordRead : std::uint8_t { found, none, failed };
+
 /// The link to the host application: everything the module asks of it. One instance for the
 /// process.
 class Server {
@@ -55,7 +59,12 @@ class Server {
   void ServerStore(const std::string& short_key, const Variant& data);
   /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
   /// read.
-  bool ServerRead(const std::string& short_key, std::vector<std::string>& target);
+  bool ServerRead(const std::string& short_key, std::vector<std::string>& target) {
+    return read_record(short_key, target) == RecordRead::found;
+  }
+  /// The same, for whoever must not take a failing host for an empty store. The target is untouched
+  /// unless the record was found.
+  RecordRead read_record(const std::string& short_key, std::vector<std::string>& target);
   void ServerLogMess(const std::string& text);
   /// Logs a failure at `place`. A host that fails here too is passed over: there is nobody left to
   /// tell.

@@ -115,7 +115,7 @@ std::vector<std::string> to_record(const SavedTraining& training, const Settings
 std::variant<SavedTraining, SavedTrainingFault> from_record(const std::vector<std::string>& record,
                                                             const Settings& settings,
                                                             const Key& key) {
-  if (record.empty() || record.front() != kValidState) return SavedTrainingFault::not_valid;
+  if (!says_valid(record)) return SavedTrainingFault::not_valid;
   const IntervalList offered = offered_intervals(settings, key);
   SavedTraining training;
   training.rows.resize(offered.values().size());

@@ -14,6 +14,11 @@ namespace tonarix {
 /// Element 0 of a training state that can be gone on with.
 inline constexpr char kValidState[] = "true";
 
+/// True for the record of a state that says it can be gone on with.
+inline bool says_valid(const std::vector<std::string>& state) {
+  return !state.empty() && state.front() == kValidState;
+}
+
 /// One row of the frequency box.
 struct BoxRow {
   std::int16_t value = 0;   ///< signed interval value

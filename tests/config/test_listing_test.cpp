@@ -33,6 +33,23 @@ TEST(TestListing, MarksGoOnAndOffForSupervisorsAlone) {
   }
 }
 
+TEST(TestListing, AMarkComesOffALockedFrameButNoneGoesOn) {
+  SettingsBed bed;
+  bed.settings.supervisor = true;
+  Einstellung1& window = bed.open();
+  const Control& frame = window.grdeinst[5];
+  mark(window, 5);
+  bed.choose_level(4);
+  for (const char* meanwhile : {"Prüfung", "", ""}) {
+    EXPECT_EQ(frame.tag, meanwhile);
+    EXPECT_TRUE(!frame.enabled && frame.back == signal::locked);
+    mark(window, 5);
+    EXPECT_FALSE(window.popPruefung.visible);
+  }
+  bed.choose_level(0);
+  EXPECT_EQ(frame.back, signal::open);
+}
+
 TEST(TestListing, ListsMarkedGroupsWellFormed) {
   SettingsBed bed;
   bed.settings.supervisor = true;

@@ -110,8 +110,21 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
   bed.hear_row();
   bed.answer_row(again, 1);
   save(bed, again);
+  EXPECT_EQ(bed.dialogs.shown.back().text, "[495s]") << "it replaces its own state";
   EXPECT_NE(state(), saved);
   EXPECT_EQ(state().array().size(), saved.array().size());
+}
+
+TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
+  FlowBed bed(host);
+  for (const char* question : {"[495s]", "[495s] [1138s]", "[495s]"}) {
+    Arbeitsblatt1& window = bed.dialogs.shown.empty() ? bed.begin(1) : bed.open_exercise();
+    bed.hear_row();
+    bed.answer_row(window);
+    save(bed, window);
+    EXPECT_EQ(bed.dialogs.shown.back().text, question);
+    if (bed.dialogs.shown.size() == 2) state() = Variant::strings({"False"});
+  }
 }
 
 TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
@@ -131,6 +144,47 @@ TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
   bed.result();
 }
 
+TEST_F(LevelFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheStoreHasIt) {
+  struct Case {
+    int level;
+    const char* before;  ///< flag of the training saved before
+    std::set<std::string> failing;
+    const char *told, *entry;
+    int selected;
+  };
+  const Case cases[] = {{2, "true", {"STORE"}, "[1129s]", "[565s]", 2},
+                        {2, "true", {"STORE", "READ"}, "[1137s]", "[565s]", 2},
+                        {1, "true", {"STORE"}, "[1129s]", "[565s]", 1},
+                        {1, "", {"STORE"}, "[1136s]", "---------------", 1},
+                        {1, "False", {"STORE"}, "[1136s]", "---------------", 1},
+                        {1, "", {"STORE", "READ"}, "[1137s]", "---------------", 1}};
+  for (const Case& at : cases) {
+    SCOPED_TRACE(at.told + std::to_string(at.level));
+    FakeHost of;
+    if (*at.before) {
+      FlowBed before(of, 3);
+      Arbeitsblatt1& window = before.begin(1);
+      before.answer_row(window);
+      save(before, window);
+      Variant::Array changed = of.records["vemo06/A1"].array();
+      changed.at(0) = at.before;
+      of.records["vemo06/A1"] = changed;
+    }
+    const auto stored = of.records;
+    FlowBed bed(of);
+    Arbeitsblatt1& window = bed.begin(at.level);
+    of.failing = at.failing;
+    play(bed, window, 0);
+    ASSERT_EQ(window.phase(), Phase::training_finished);
+    EXPECT_EQ(of.records, stored);
+    bed.leave(window);
+    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+    EXPECT_EQ(bed.dialogs.shown.at(0).text, at.told);
+    EXPECT_EQ(saved_training_entry(bed), at.entry);
+    EXPECT_EQ(bed.settings().training_Combo.selected, at.selected);
+  }
+}
+
 TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
   /// A training with this many intervals, left with yes, and with no where the host refuses.
   const auto train = [](FakeHost& of, int invzahl) {
@@ -146,16 +200,24 @@ TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
   };
   EXPECT_EQ(train(host, 2), "[565s]");
   ASSERT_EQ(host.records.size(), 2U);
-  for (const bool had_former : {false, true}) {
-    for (const char* refused : {"vemo06/E1", "vemo06/A1"}) {
+  for (const auto& [settings, state] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}}) {
+    for (const std::string refused : {"vemo06/E1", "vemo06/A1", "READ"}) {
+      SCOPED_TRACE(refused + (settings ? " over settings" : "") + (state ? " over a state" : ""));
       FakeHost of;
-      if (had_former) train(of, 1);
+      train(of, 1);
+      if (!settings) of.records.erase("vemo06/E1");
+      if (!state) of.records.erase("vemo06/A1");
       const auto former = of.records;
-      of.failing_records = {refused};
-      EXPECT_EQ(train(of, 2), had_former ? "[565s]" : "---------------") << refused;
-      of.records.erase(had_former ? "" : "vemo06/E1");  // settings alone are no training
-      EXPECT_EQ(of.records, former) << refused;
-      of.failing_records.clear();
+      of.failing_records = of.failing = {refused};
+      const bool offered = settings && state && refused != "READ";
+      EXPECT_EQ(train(of, 2), offered ? "[565s]" : "---------------");
+      // A state alone is no training: a new one may stand where there are no settings.
+      if (settings || refused != "vemo06/E1") {
+        EXPECT_EQ(of.records, former);
+      } else {
+        EXPECT_FALSE(of.records.contains("vemo06/E1"));
+      }
+      of.failing_records = of.failing = {};
       train(of, 2);
       EXPECT_EQ(of.records, host.records);
     }

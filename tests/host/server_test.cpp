@@ -80,6 +80,13 @@ TEST_F(ServerTest, RecordsComeBackWholeThroughAHostOfTheirOwnOrNotAtAll) {
     EXPECT_FALSE(server.ServerRead("A1", target));
   }
   host.answers.clear();
+  EXPECT_EQ(server.read_record("A2", target), RecordRead::none);
+  host.failing = {"READ"};
+  EXPECT_EQ(server.read_record("A1", target), RecordRead::failed) << "a failing host has no say";
+  host.failing.clear();
+  host.can_create = false;
+  EXPECT_EQ(server.read_record("A1", target), RecordRead::failed);
+  host.can_create = true;
   EXPECT_THAT(target, ElementsAre("old"));
   EXPECT_TRUE(server.ServerRead("A1", target));
   EXPECT_EQ(target, state);

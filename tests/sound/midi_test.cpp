@@ -164,6 +164,10 @@ TEST_F(MidiTest, TheInstrumentOfTheTonesReachesAllTheirChannelsButNotTheKeynote)
     EXPECT_EQ(devices.program(channel), patches.at(channel));
   }
   EXPECT_THROW(choose_patch(midi, patches, 8, 1), RuntimeError);
+
+  control.action(MIDIOutput::Action::close_device);
+  EXPECT_THROW(choose_patch(midi, patches, 0, 73), RuntimeError);
+  EXPECT_THAT(patches, ElementsAre(73, 19, 73, 73, 73, 73, 73, 73)) << "though the device is gone";
 }
 
 TEST_F(MidiTest, TheSoundCheckClimbsTheRangeInEqualSteps) {

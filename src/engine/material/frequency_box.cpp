@@ -66,7 +66,10 @@ void FrequencyBox::restore(const std::vector<BoxRow>& saved) {
   box_zeilen = to_int16(static_cast<std::int64_t>(saved.size()));
   start_gewicht = start_gewicht_of(box_zeilen);
   std::copy(saved.begin(), saved.end(), rows().begin());
-  MatboxRechnen();
+  sort_and_sum();
+  // However near its ceiling a training stands, after a break there is no earlier list to draw
+  // from.
+  fill_by_weights();
   shown_percentage_ = static_cast<int>(percentage());
 }
 
@@ -75,6 +78,11 @@ void FrequencyBox::begin_task() {
 }
 
 void FrequencyBox::MatboxRechnen() {
+  sort_and_sum();
+  if (box_summe > 0 && box_summe < box_zeilen * 8 - 1) fill_by_weights();
+}
+
+void FrequencyBox::sort_and_sum() {
   // The exchange order of equal weights is part of the drawing list, so no other sort will do.
   for (int i = 1; i < box_zeilen; ++i) {
     for (int j = i + 1; j <= box_zeilen; ++j) {
@@ -89,8 +97,9 @@ void FrequencyBox::MatboxRechnen() {
     sum += row.weight;
   }
   box_summe = to_int16(sum);
-  if (box_summe <= 0 || box_summe >= box_zeilen * 8 - 1) return;
+}
 
+void FrequencyBox::fill_by_weights() {
   const int smallest = mathaeufgk_box[box_zeilen].weight;
   const int add_wert = smallest >= 1 ? 0 : std::abs(smallest) + 1;
   int entries = 0;

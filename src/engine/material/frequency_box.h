@@ -41,7 +41,8 @@ class FrequencyBox {
   /// Applies the results of a finished task.
   BoxOutcome BoxAuswerten(std::span<const AnsweredInterval> answered);
 
-  /// Sorts the rows by weight, highest first, and rebuilds `matbox` while the training goes on.
+  /// Sorts the rows by weight, highest first, and rebuilds `matbox` while something is
+  /// left to ask and the sum is below eight times the rows less one.
   void MatboxRechnen();
   /// Refills `matbox`: each value as many times as its weight plus `add_wert`, if that is above 0.
   void MatboxFuellen(int add_wert);
@@ -50,7 +51,8 @@ class FrequencyBox {
   /// Entries of the list that the level draws from.
   int entries() const;
 
-  /// Takes over the rows of a saved training, at level 2 after `BoxAufbau`.
+  /// Takes over the rows of a saved training, at level 2 after `BoxAufbau`, and draws by their
+  /// weights from the first task on.
   void restore(const std::vector<BoxRow>& rows);
 
   /// Share of the weights in their ceiling, 0 to 100: 0 is solved, 100 too hard.
@@ -74,6 +76,8 @@ class FrequencyBox {
   std::span<BoxRow> rows() { return {mathaeufgk_box.data() + 1, std::size_t(box_zeilen)}; }
 
   void build_training();
+  void sort_and_sum();
+  void fill_by_weights();
   void add_weight(std::int16_t value, float amount);
   void count_confusions(const AnsweredInterval& interval);
   void StatEintrag(StatisticRow row, float rf);

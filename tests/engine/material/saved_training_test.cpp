@@ -36,6 +36,28 @@ TEST(SavedTraining, GoesOnWhereItStopped) {
   }
 }
 
+// One below too difficult a running training keeps its last drawing list; a resumed one has none to
+// keep, and the equal weights of the start would ask the solved as often as the unsolved.
+TEST(SavedTraining, OneBelowTooDifficultDrawsByItsSavedWeights) {
+  MaterialBed left(material_of(1, 0, 1), 21);
+  const std::int16_t rows = left.box.box_zeilen;
+  for (int row = 1; row <= rows; ++row) left.box.mathaeufgk_box.at(row).weight = row <= 2 ? -3 : 8;
+  left.box.mathaeufgk_box[3].weight = 8 + 2 * 8 - 1;
+  Settings settings = left.settings;
+  settings.Uebungsmodus = Level::continued;
+  MaterialBed next(settings, 22);
+  resume(std::get<SavedTraining>(from_record(record_of(left), settings, next.key)), settings,
+         next.box, next.statistics);
+
+  ASSERT_EQ(next.box.box_summe, weight_ceiling(rows) - 1);
+  EXPECT_EQ(next.box.matboxmax, std::ssize(next.box.matbox) - 1);
+  EXPECT_EQ(next.box.matbox_vorn, weight_ceiling(rows) - 1 + 4 * (rows - 2));
+  for (int row = 1; row <= rows; ++row) {
+    const auto [value, weight] = next.box.mathaeufgk_box.at(row);
+    EXPECT_EQ(std::ranges::count(next.box.matbox, value), weight + 4) << value;
+  }
+}
+
 TEST(SavedTraining, RefusesWhatIsNoTrainingOfThisExercise) {
   using Fault = SavedTrainingFault;
   MaterialBed bed(material_of(1, 0, 1), 3);
