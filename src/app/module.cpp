@@ -105,11 +105,13 @@ void Module::open_exercise(SettingsWindow& caller) {
       .caller = {.training_saved = [&caller] { caller.training_saved(); },
                  .training_finished = [&caller] { caller.training_finished(); },
                  .show_again = [&caller] { caller.show_again(); }},
-      .open_result = [this](std::function<void()> closed) { open_result(std::move(closed)); }};
+      .open_result = [this](const WorkDone& work, std::function<void()> closed) {
+        open_result(work, std::move(closed));
+      }};
   outside_.windows.open(factory->make(context));
 }
 
-void Module::open_result(std::function<void()> closed) {
+void Module::open_result(const WorkDone& work, std::function<void()> closed) {
   const ResultContext context{.common = window_context(),
                               .server = server_,
                               .errors = errors_,
@@ -117,6 +119,7 @@ void Module::open_result(std::function<void()> closed) {
                               .settings = settings_,
                               .statistics = statistics_,
                               .interval_names = *interval_names_,
+                              .work = work,
                               .printer = outside_.printer,
                               .computer_user = outside_.computer_user,
                               .show_help = [this] { show_help(); }};

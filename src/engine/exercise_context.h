@@ -16,6 +16,7 @@
 #include "settings/settings.h"
 #include "sound/midi.h"
 #include "statistics/records.h"
+#include "statistics/work_done.h"
 
 namespace tonarix {
 
@@ -46,7 +47,7 @@ struct ExerciseContext {
   const IntervalNames& interval_names;
   ExerciseCaller caller;
   /// Opens the result sheet; `closed` runs when the student has left it.
-  std::function<void(std::function<void()> closed)> open_result;
+  std::function<void(const WorkDone& work, std::function<void()> closed)> open_result;
 };
 
 }  // namespace tonarix

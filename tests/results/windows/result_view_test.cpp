@@ -105,6 +105,22 @@ TEST_F(SheetPrinterTest, NoTextLeavesItsBoxHoweverLong) {
   }
 }
 
+TEST_F(SheetPrinterTest, ALineThatIsTooLongTakesTwoOfItsSizeWhereThereIsRoom) {
+  SheetPicture picture;
+  picture.width = 200;
+  picture.height = 40;
+  const auto ink = [&](const char* words) {
+    picture.texts = {{{4, 4, 192, 32}, words, SheetFont::plain, false}};
+    const QImage image = painted(picture, 1.0).convertToFormat(QImage::Format_Mono);
+    return QRegion(QBitmap::fromImage(image)).boundingRect();
+  };
+  const QRect one = ink("3 von 38 Aufgaben");
+  const QRect two = ink("3 von 38 Aufgaben in 4 min 12 s und 10 richtig");
+  EXPECT_GE(two.height(), one.height() + 12);
+  EXPECT_GT(two.width(), 130);
+  EXPECT_TRUE(QRect(4, 4, 192, 32).contains(two));
+}
+
 TEST_F(SheetPrinterTest, TheFullSheetIsOneSmallLandscapePageWithItsText) {
   const QString path = folder.filePath("sheet.pdf");
   ASSERT_EQ(printer.write_pdf(page, path).end, PrintResult::End::printed);
