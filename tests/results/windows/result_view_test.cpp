@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPrinter>
 #include <QPushButton>
@@ -58,6 +59,13 @@ TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
   EXPECT_FALSE(button("cmdOk").isEnabled());
   printer.finish({PrintResult::End::cancelled, ""});
   button("cmdOk").click();
+  scheduler.settle();
+  EXPECT_EQ(closed, 1);
+}
+
+TEST_F(ResultViewTest, EscapeLeavesTheSheet) {
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QApplication::sendEvent(view, &escape);
   scheduler.settle();
   EXPECT_EQ(closed, 1);
 }
