@@ -1859,6 +1859,16 @@ Vorzeichen!</translation>
         <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
         <translation>Matrikel-Nr.:</translation>
     </message>
+    <message id="1238s">
+        <source>%1 von %2</source>
+        <extracomment>Result sheet: tasks of a test, %1 done of %2</extracomment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message id="1239s">
+        <source>Aufgaben</source>
+        <extracomment>Result sheet: behind a number of tasks, 0 or more than 1</extracomment>
+        <translation>Aufgaben</translation>
+    </message>
     <message id="1240s">
         <source>Speichern in:</source>
         <extracomment>Dialog for a PDF file: before the folder</extracomment>
@@ -1883,6 +1893,31 @@ Vorzeichen!</translation>
         <source>Abbrechen</source>
         <extracomment>Dialog for a PDF file: button</extracomment>
         <translation>Abbrechen</translation>
+    </message>
+    <message id="1245s">
+        <source>Aufgabe</source>
+        <extracomment>Result sheet: behind the number 1</extracomment>
+        <translation>Aufgabe</translation>
+    </message>
+    <message id="1246s">
+        <source>in %1</source>
+        <extracomment>Result sheet: working time, %1 is '4 min 12 s'</extracomment>
+        <translation>in %1</translation>
+    </message>
+    <message id="1247s">
+        <source>richtig</source>
+        <extracomment>Result sheet: behind the number of right answers</extracomment>
+        <translation>richtig</translation>
+    </message>
+    <message id="1248s">
+        <source>falsch</source>
+        <extracomment>Result sheet: behind the number of wrong answers</extracomment>
+        <translation>falsch</translation>
+    </message>
+    <message id="1249s">
+        <source>h</source>
+        <extracomment>Result sheet: unit behind the hours of working time</extracomment>
+        <translation>h</translation>
     </message>
     <message id="1250s">
         <source>gesperrt</source>
@@ -1969,8 +2004,8 @@ Vorzeichen!</translation>
         <translation>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</translation>
     </message>
     <message id="1286s">
-        <source>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
-        <translation>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
+        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
     </message>
 </context>
 </TS>

@@ -1859,6 +1859,16 @@ in any order.</translation>
         <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
         <translation>Student no.:</translation>
     </message>
+    <message id="1238s">
+        <source>%1 von %2</source>
+        <extracomment>Result sheet: tasks of a test, %1 done of %2</extracomment>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="1239s">
+        <source>Aufgaben</source>
+        <extracomment>Result sheet: behind a number of tasks, 0 or more than 1</extracomment>
+        <translation>tasks</translation>
+    </message>
     <message id="1240s">
         <source>Speichern in:</source>
         <extracomment>Dialog for a PDF file: before the folder</extracomment>
@@ -1883,6 +1893,31 @@ in any order.</translation>
         <source>Abbrechen</source>
         <extracomment>Dialog for a PDF file: button</extracomment>
         <translation>Cancel</translation>
+    </message>
+    <message id="1245s">
+        <source>Aufgabe</source>
+        <extracomment>Result sheet: behind the number 1</extracomment>
+        <translation>task</translation>
+    </message>
+    <message id="1246s">
+        <source>in %1</source>
+        <extracomment>Result sheet: working time, %1 is '4 min 12 s'</extracomment>
+        <translation>in %1</translation>
+    </message>
+    <message id="1247s">
+        <source>richtig</source>
+        <extracomment>Result sheet: behind the number of right answers</extracomment>
+        <translation>right</translation>
+    </message>
+    <message id="1248s">
+        <source>falsch</source>
+        <extracomment>Result sheet: behind the number of wrong answers</extracomment>
+        <translation>wrong</translation>
+    </message>
+    <message id="1249s">
+        <source>h</source>
+        <extracomment>Result sheet: unit behind the hours of working time</extracomment>
+        <translation>h</translation>
     </message>
     <message id="1250s">
         <source>gesperrt</source>
@@ -1969,8 +2004,8 @@ in any order.</translation>
         <translation>A row of tones is played. Name its intervals in turn with the buttons or the number keys. “Repeat” plays the row again, “Keynote check” the chord of the keynote. After the row you hear it once more to check, then go on. “Back” ends the exercise and shows the result.</translation>
     </message>
     <message id="1286s">
-        <source>Das Ergebnisblatt zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
-        <translation>The result sheet shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %). “Print” puts it on a page or into a PDF file.</translation>
+        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>The result sheet tells how many tasks you answered in what time, and shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %). “Print” puts it on a page or into a PDF file.</translation>
     </message>
 </context>
 </TS>

@@ -91,41 +91,45 @@ void Module::open_exercise(SettingsWindow& caller) {
     throw RuntimeError(RuntimeError::kOther, "This exercise has no window", "open_exercise");
   }
   const WindowRef ref(caller);
-  const ExerciseContext context{
-      .common = window_context(),
-      .server = server_,
-      .errors = errors_,
-      .clock = outside_.clock,
-      .chance = outside_.chance,
-      .midi = midi_,
-      .midi_event = midi_event_,
-      .settings = settings_,
-      .saved_training = saved_training_,
-      .key = key_,
-      .row = row_,
-      .statistics = statistics_,
-      .best = best_,
-      .protocol = protocol_,
-      .tone_names = *tone_names_,
-      .interval_names = *interval_names_,
-      .caller = {.training_saved =
-                     [ref] {
-                       if (auto* window = ref.get()) window->training_saved();
-                     },
-                 .training_finished =
-                     [ref] {
-                       if (auto* window = ref.get()) window->training_finished();
-                     },
-                 .show_again =
-                     [ref] {
-                       if (auto* window = ref.get()) window->show_again();
-                     }},
-      .show_help = [this] { show_help(); },
-      .open_result = [this](std::function<void()> closed) { open_result(std::move(closed)); }};
+  const ExerciseContext context{.common = window_context(),
+                                .server = server_,
+                                .errors = errors_,
+                                .clock = outside_.clock,
+                                .chance = outside_.chance,
+                                .midi = midi_,
+                                .midi_event = midi_event_,
+                                .settings = settings_,
+                                .saved_training = saved_training_,
+                                .key = key_,
+                                .row = row_,
+                                .statistics = statistics_,
+                                .best = best_,
+                                .protocol = protocol_,
+                                .tone_names = *tone_names_,
+                                .interval_names = *interval_names_,
+                                .caller = {.training_saved =
+                                               [ref] {
+                                                 if (auto* window = ref.get())
+                                                   window->training_saved();
+                                               },
+                                           .training_finished =
+                                               [ref] {
+                                                 if (auto* window = ref.get())
+                                                   window->training_finished();
+                                               },
+                                           .show_again =
+                                               [ref] {
+                                                 if (auto* window = ref.get()) window->show_again();
+                                               }},
+                                .show_help = [this] { show_help(); },
+                                .open_result =
+                                    [this](const WorkDone& work, std::function<void()> closed) {
+                                      open_result(work, std::move(closed));
+                                    }};
   outside_.windows.open(factory->make(context));
 }
 
-void Module::open_result(std::function<void()> closed) {
+void Module::open_result(const WorkDone& work, std::function<void()> closed) {
   const ResultContext context{.common = window_context(),
                               .server = server_,
                               .errors = errors_,
@@ -133,6 +137,7 @@ void Module::open_result(std::function<void()> closed) {
                               .settings = settings_,
                               .statistics = statistics_,
                               .interval_names = *interval_names_,
+                              .work = work,
                               .printer = outside_.printer,
                               .computer_user = outside_.computer_user,
                               .show_help = [this] { show_help(); }};

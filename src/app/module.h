@@ -67,7 +67,7 @@ class Module {
  private:
   void open_settings(SettingsKind kind);
   void open_exercise(SettingsWindow& caller);
-  void open_result(std::function<void()> closed);
+  void open_result(const WorkDone& work, std::function<void()> closed);
   WindowContext window_context() const;
   void load_names();
   void tell_sound_problem();

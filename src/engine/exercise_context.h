@@ -16,6 +16,7 @@
 #include "settings/settings.h"
 #include "sound/midi.h"
 #include "statistics/records.h"
+#include "statistics/work_done.h"
 
 namespace tonarix {
 
@@ -47,7 +48,7 @@ struct ExerciseContext {
   ExerciseCaller caller;
   std::function<void()> show_help;
   /// Opens the result sheet; `closed` runs when the student has left it.
-  std::function<void(std::function<void()> closed)> open_result;
+  std::function<void(const WorkDone& work, std::function<void()> closed)> open_result;
 };
 
 }  // namespace tonarix

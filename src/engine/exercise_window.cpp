@@ -28,6 +28,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       answers_(context.common.scheduler, context.protocol),
       training_(context.server, context.errors, context.settings, context.saved_training),
       standing_(*this, context.common.texts, box_),
+      sitting_(context.common.scheduler),
       next_task_(context.common.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
       way_out_(context_, *this, *this, waits()),
       start_(context.common.scheduler, [this] { start_timer(); }),
@@ -82,12 +83,14 @@ void ExerciseWindow::prepare_level() {
     resume(saved, settings, box_, context_.statistics);
     answers_.counts.wrong = saved.zaehler;
     answers_.counts.repeats = saved.whlgzaehler;
+    sitting_.begin_with(saved.zaehler);
   }
   material_.begin();
   standing_.prepare(level());
 }
 
 Sequence ExerciseWindow::mat_wahl() {
+  sitting_.begin_task();
   material_.mat_wahl();
   next_task_.name(context_.common.texts, ++lesson_nr_);
   player().begin_task(tune(), material_.terz_typ);
@@ -135,6 +138,7 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   question.text = head == TextKey{} ? question_text() : word(head);
   hint.text = word(keynote ? actions.other : actions.hint);
   if (is_over(phase)) {
+    sitting_.end();
     zurueck.back = signal::finished;
     zurueck.fore = signal::wrong;
     zurueck.text = word(625_text);
@@ -178,6 +182,7 @@ void ExerciseWindow::update_counts() {
 }
 
 void ExerciseWindow::finish_row() {
+  sitting_.finish_task();
   announce(word(text::row_is_done));
   // In a test no time is lost: hearing the row again is left to the student.
   const bool heard_again = player().audible() && !is_test(level());
@@ -282,10 +287,9 @@ Sequence ExerciseWindow::break_off() {
 
 Sequence ExerciseWindow::leave() {
   if (!begin_leaving()) co_return;
-  const int tasks_done = lesson_nr_ - (row_is_asked(phase_) ? 1 : 0);
   const bool ended = is_over(phase_) || phase_ == Phase::broken;
   std::function<bool()> keep;
-  if (!ended && is_training(level()) && tasks_done > 0) {
+  if (!ended && is_training(level()) && sitting_.tasks() > 0) {
     keep = [this] {
       return training_.keep(training_state(box_, context_.settings, context_.statistics,
                                            answers_.counts.wrong, answers_.counts.repeats));
@@ -296,7 +300,8 @@ Sequence ExerciseWindow::leave() {
       keep && level() == Level::training && training_.stored() == RecordRead::found;
   enter(Phase::leaving);
   stop_all();
-  co_await way_out_.leave(keep, replaces);
+  const auto in_all = is_test(level()) ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
+  co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, replaces);
 }
 
 void ExerciseWindow::stop_all() {

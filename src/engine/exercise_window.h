@@ -9,6 +9,7 @@
 #include "engine/material/frequency_box.h"
 #include "engine/material/material.h"
 #include "engine/next_task.h"
+#include "engine/sitting.h"
 #include "engine/standing.h"
 #include "engine/training_record.h"
 #include "engine/way_out.h"
@@ -69,6 +70,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   TaskAnswers answers_;
   TrainingRecord training_;
   Standing standing_;
+  Sitting sitting_;
   NextTask next_task_;
   WayOut way_out_;
   std::unique_ptr<RowPlayer> player_;

@@ -12,14 +12,14 @@ constexpr double kResultPause = 300;  // ms for the result sheet to stand before
 
 }  // namespace
 
-Sequence WayOut::leave(std::function<bool()> keep, bool replaces) {
+Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces) {
   if (keep) co_await ask_to_save(std::move(keep), replaces);
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
   window_.enabled = false;
   Completion sheet(waits_);
-  context_.open_result(sheet.signal());
+  context_.open_result(work, sheet.signal());
   co_await waits_.FullDelay(kResultPause);
   co_await sheet;
   co_await write_protocol();

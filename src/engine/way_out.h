@@ -15,10 +15,10 @@ class WayOut {
   WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits)
       : context_(context), window_(window), controls_(controls), waits_(waits) {}
 
-  /// Walks to the end. `keep` stores the training and says whether it could; empty where there is
-  /// nothing to keep, and then nothing is asked. `replaces`: another saved training would go, which
-  /// the question says.
-  Sequence leave(std::function<bool()> keep, bool replaces);
+  /// Walks to the end; `work` goes on the sheet. `keep` stores the training and says whether it
+  /// could; empty where there is nothing to keep, and then nothing is asked. `replaces`: another
+  /// saved training would go, which the question says.
+  Sequence leave(WorkDone work, std::function<bool()> keep, bool replaces);
   /// What can still be done is done: the student is told and is back at the settings.
   void give_up(std::string_view tag, std::exception_ptr error);
 

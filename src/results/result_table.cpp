@@ -96,6 +96,7 @@ ResultTable result_table(const Settings& settings, const Auswertung& statistics,
                                    : degree_rows(settings, statistics, names, texts);
   }
   table.total = total_of(table.rows);
+  if (settings.Uebungsmodus == Level::free) table.total.back.reset();
   return table;
 }
 

@@ -35,8 +35,9 @@ struct ResultTable {
   ResultField total;
 };
 
-/// The table of the exercise that the settings and statistics tell of. Level 0 has no rows. Hidden
-/// and empty rows don't count for the total. RuntimeError 9 when the statistics lack a row.
+/// The table of the exercise that the settings and statistics tell of. Level 0 has no rows and no
+/// colour, for nothing was reckoned there. Hidden and empty rows don't count for the total.
+/// RuntimeError 9 when the statistics lack a row.
 ResultTable result_table(const Settings& settings, const Auswertung& statistics,
                          const IntervalNames& names, const Texts& texts);
 

@@ -48,6 +48,8 @@ void ResultWindow::LbEinst() {
   if (content_.settings.size() > kSettingRows) content_.settings.resize(kSettingRows);
   content_.results_title = word(text::sheet_results);
   content_.directions = {word(132_text), word(83_text)};
+  content_.work = work_words(context_.work, common().texts);
+  content_.counts_lead = context_.settings.Uebungsmodus == Level::free;
   content_.total_label = word(275_text);
   content_.table =
       result_table(context_.settings, context_.statistics, context_.interval_names, common().texts);

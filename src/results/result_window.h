@@ -14,6 +14,7 @@
 #include "results/sheet_printer.h"
 #include "settings/settings.h"
 #include "statistics/records.h"
+#include "statistics/work_done.h"
 
 namespace tonarix {
 
@@ -26,6 +27,7 @@ struct ResultContext {
   const Settings& settings;
   const Auswertung& statistics;
   const IntervalNames& interval_names;
+  WorkDone work;
   SheetPrinter& printer;
   std::string computer_user;
   std::function<void()> show_help;

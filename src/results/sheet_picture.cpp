@@ -18,13 +18,21 @@ constexpr double kCorner = 6;
 constexpr double kFieldCorner = 3;
 
 // Within the table: columns 216 apart, values 136 to the right of their labels.
-constexpr double kTableTop = 44;
+constexpr double kWorkTop = 42;
+constexpr double kWorkHeight = 32;  // two lines
+constexpr double kTableTop = 78;
 constexpr double kColumnStep = 216;
 constexpr double kColumnLeft = 8;
 constexpr double kFieldLeft = 136;
 constexpr double kFieldWidth = 68;
 constexpr double kRowHeight = 20;
 constexpr double kTotalWidth = 112;
+
+// Where the counts lead, they stand side by side, each above its name.
+constexpr double kCountStep = 144;
+constexpr double kCountWidth = 136;
+constexpr double kCountHeight = 34;
+constexpr double kCountsEnd = kWorkTop + kCountHeight + kRowHeight + 8;
 
 class Composer {
  public:
@@ -75,6 +83,7 @@ class Composer {
   }
 
   double table_height() const {
+    if (content_.counts_lead) return kCountsEnd + 2 * kLineStep + kPadding;
     double end = kTableTop;
     for (const ResultRow& row : content_.table.rows) {
       end = std::max(end, kTableTop + row.top + kRowHeight);
@@ -89,13 +98,36 @@ class Composer {
     text({box.left, box.top, box.width - margin, box.height}, field.text, font, true);
   }
 
+  void counts() {
+    const double left = table_left() + kColumnLeft;
+    double count_left = left;
+    double top = table_top_ + kWorkTop;
+    for (const CountWords& count :
+         {content_.work.tasks, content_.work.right, content_.work.wrong}) {
+      text({count_left, top, kCountWidth, kCountHeight}, count.number, SheetFont::total);
+      text({count_left, top + kCountHeight, kCountWidth, kRowHeight}, count.name, SheetFont::label);
+      count_left += kCountStep;
+    }
+    top = table_top_ + kCountsEnd;
+    text({left, top, kTableWidth - kColumnLeft - kPadding, kLineStep}, content_.work.time,
+         SheetFont::plain);
+    top += kLineStep;
+    const double value_left = table_left() + kValueLeft;
+    text({left, top, value_left - left - 4, kLineStep}, content_.total_label, SheetFont::label);
+    text({value_left, top, kTotalWidth, kLineStep}, content_.table.total.text, SheetFont::label);
+  }
+
   void table(double end) {
     const ResultTable& table = content_.table;
     card({table_left(), table_top_, kTableWidth, end - table_top_});
-    const double right = table_left() + kTableWidth - kPadding;
-    const SheetBox total{right - kTotalWidth, table_top_ + 6, kTotalWidth, 34};
     text({table_left() + kColumnLeft, table_top_ + 8, 150, 30}, content_.results_title,
          SheetFont::title);
+    if (content_.counts_lead) return counts();
+    const double right = table_left() + kTableWidth - kPadding;
+    const SheetBox total{right - kTotalWidth, table_top_ + 6, kTotalWidth, 34};
+    text({table_left() + kColumnLeft, table_top_ + kWorkTop, kTableWidth - kColumnLeft - kPadding,
+          kWorkHeight},
+         content_.work.line(" · "), SheetFont::label);
     text({total.left - 128, table_top_ + 8, 120, 30}, content_.total_label, SheetFont::total_label,
          true);
     field(total, table.total, SheetFont::total);
@@ -141,7 +173,8 @@ std::string spoken_sheet(const SheetContent& content) {
   speak(spoken, content.head_title, content.head);
   speak(spoken, content.settings_title, content.settings);
   const ResultTable& table = content.table;
-  spoken += content.results_title + "\n" + content.total_label + " " + table.total.text + "\n";
+  spoken += content.results_title + "\n" + content.work.line(", ") + "\n" + content.total_label +
+            " " + table.total.text + "\n";
   for (const ResultRow& row : table.rows) {
     spoken += row.label;
     if (table.by_interval) {

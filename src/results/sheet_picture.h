@@ -7,6 +7,7 @@
 #include "base/colour.h"
 #include "results/head_block.h"
 #include "results/result_table.h"
+#include "results/work_words.h"
 
 namespace tonarix {
 
@@ -18,6 +19,8 @@ struct SheetContent {
   std::string settings_title;
   std::vector<SheetLine> settings;
   std::string results_title;
+  WorkWords work;
+  bool counts_lead = false;  ///< nothing was scored: the counts stand large, the total small
   std::array<std::string, 2> directions;  ///< heads of the rising and the falling column
   std::string total_label;
   ResultTable table;

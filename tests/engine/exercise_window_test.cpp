@@ -70,6 +70,49 @@ TEST_F(ExerciseWindowTest, InSilenceATaskIsAskedAtOnceAndTheNextOneOfferedWhenIt
   EXPECT_TRUE(devices.log.empty());
 }
 
+TEST_F(ExerciseWindowTest, TheSheetIsToldTheWorkUpToTheMomentOfLeaving) {
+  scheduler.advance_ms(20'000);
+  window.answer(false);
+  window.answer(true);
+  scheduler.advance_ms(10'000);
+  window.CmdNextAufg_click();
+  scheduler.advance_ms(9000);
+  window.answer(false);  // a row that is left open is no task done
+  window.zurueck_click();
+  scheduler.advance_ms(60'000);  // before the question whether to save
+  dialogs.answer(Reply::no);
+  EXPECT_EQ(work, (WorkDone{1, {}, 39, 1, 2}));
+}
+
+TEST_F(ExerciseWindowTest, ATestIsToldInAllAndItsTimeEndsWithItself) {
+  settings.Uebungsmodus = Level::exam;
+  const auto leave = [&](SilentWindow& test) {
+    scheduler.advance_ms(3'600'000);  // reads its end
+    test.zurueck_click();
+    scheduler.advance_ms(1000);
+    protocol.ProtokollNeu();
+    return work;
+  };
+  auto& late = open<SilentWindow>();
+  scheduler.advance_ms(1'000);
+  late.answer(true);
+  late.CmdNextAufg_click();
+  const WorkDone first = leave(late);
+  const int in_all = first.tasks_in_all.value_or(0);
+  EXPECT_GT(in_all, 2);
+  EXPECT_GT(first.seconds, 100);
+  EXPECT_EQ(first.seconds % 10, 0) << "its time was up";
+  EXPECT_EQ(first, (WorkDone{1, in_all, first.seconds, 1, 0}));
+
+  auto& quick = open<SilentWindow>();
+  for (int task = 0; task < in_all; ++task) {
+    scheduler.advance_ms(1'000);
+    quick.answer(true);
+    quick.CmdNextAufg_click();
+  }
+  EXPECT_EQ(leave(quick), (WorkDone{in_all, in_all, in_all, in_all, 0}));
+}
+
 TEST_F(ExerciseWindowTest, AnErrorClosesItWithoutAskingAndWritesTheProtocol) {
   window.answer(true);
   window.fails = true;

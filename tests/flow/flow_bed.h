@@ -122,6 +122,7 @@ class FlowBed {
   pugi::xml_node leave(Arbeitsblatt1& window) {
     window.zurueck_click();
     scheduler.advance_ms(400);
+    work = result().content().work.line(", ");
     result().cmdOk_click();
     scheduler.advance_ms(450);
     return written();
@@ -159,6 +160,7 @@ class FlowBed {
   FakeDocumentWriter documents;
   RecordingPrinter printer;
   std::string listing;
+  std::string work;  ///< as the last sheet told it
   bool ended = false;
   pugi::xml_document document;
   Module module{{scheduler,

@@ -102,6 +102,7 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
 
   // Leaving at once asks nothing and leaves the record; one task later the state is stored anew.
   bed.leave(window);
+  EXPECT_EQ(bed.work, "0 [1239s] [1246s], 0 [1247s], 0 [1248s]") << "of this sitting";
   EXPECT_TRUE(bed.dialogs.shown.empty());
   EXPECT_EQ(state(), saved);
   host.failing.clear();

@@ -41,8 +41,8 @@ struct ResultBed : HostBed {
   }
 
   ResultWindow& open() {
-    const ResultContext context{common,     server, errors,  clock,      settings,
-                                statistics, names,  printer, "praxis-3", {}};
+    const ResultContext context{common, server, errors,  clock,      settings, statistics,
+                                names,  work,   printer, "praxis-3", {}};
     return windows.open(std::make_unique<ResultWindow>(context, [this] {
       ++closed;
       windows_when_closed = windows.count();
@@ -57,6 +57,7 @@ struct ResultBed : HostBed {
   Settings settings;
   Auswertung statistics;
   IntervalNames names{texts};
+  WorkDone work{.tasks = 3, .tasks_in_all = {}, .seconds = 252, .right = 10, .wrong = 2};
   RecordingPrinter printer;
   int closed = 0;
   int windows_when_closed = -1;

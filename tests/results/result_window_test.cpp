@@ -43,6 +43,7 @@ Mine: 40 (Largo)
 [1226]: [1234] ja
 [1218]: 60
 [1202]
+3 [1239] [1246], 10 [1247], 2 [1248]
 [275] 50.0%
 [358] Upward: 
 [281] Upward: 100.0%
@@ -56,6 +57,29 @@ Mine: 40 (Largo)
   for (const auto& cut_off : {std::vector<std::string>{}, {"0"}, {"2", "Klangfarben: ", "9"}}) {
     EXPECT_THAT(setting_lines(cut_off, texts), IsEmpty());
   }
+}
+
+TEST_F(ResultWindowTest, TheWorkIsToldInNumbersThatReadRightly) {
+  texts.given = {{1238, "%1 of %2"}, {1239, "tasks"}, {1245, "task"},
+                 {1246, "in %1"},    {1247, "right"}, {1248, "wrong"},
+                 {1249, "h"},        {394, "min"},    {480, "s"}};
+  const std::pair<WorkDone, const char*> told[] = {
+      {{}, "0 tasks in 0 s, 0 right, 0 wrong"},
+      {{1, {}, 59, 1, 0}, "1 task in 59 s, 1 right, 0 wrong"},
+      {{2, {}, 60, 0, 8}, "2 tasks in 1 min 0 s, 0 right, 8 wrong"},
+      {{1, 38, 252, 2, 1}, "1 of 38 tasks in 4 min 12 s, 2 right, 1 wrong"},
+      {{97, {}, 3600 + 59, 210, 1}, "97 tasks in 1 h 0 min, 210 right, 1 wrong"}};
+  for (const auto& [done, line] : told) EXPECT_EQ(work_words(done, texts).line(", "), line);
+
+  settings.Uebungsmodus = Level::free;
+  const SheetPicture free = sheet_picture(open_filled().content(), SheetGround::screen);
+  const auto found = [&](const char* words) {
+    return *std::ranges::find(free.texts, words, &SheetText::text);
+  };
+  EXPECT_EQ(found("10").font, SheetFont::total) << "free practice leads with its counts";
+  EXPECT_LT(found("10").box.top, found("0.0 %").box.top);
+  EXPECT_EQ(found("0.0 %").font, SheetFont::label);
+  for (const SheetSurface& surface : free.surfaces) EXPECT_EQ(surface.fill, signal::white);
 }
 
 TEST_F(ResultWindowTest, EachWayOutUnloadsFirstAndAnnouncesOnce) {
@@ -119,9 +143,13 @@ TEST_F(ResultWindowTest, TheLongestSheetHasAllItsTextsApartAndOnThePageAndPaperS
   SheetContent content = open_filled().content();
   const SheetPicture paper = sheet_picture(content, SheetGround::paper);
   for (const SheetSurface& surface : paper.surfaces) EXPECT_EQ(surface.fill, signal::white);
-  for (const SheetShape shape : {SheetShape::wide, SheetShape::tall}) {
+  using enum SheetShape;
+  for (const auto& [shape, counts_lead] :
+       {std::pair(wide, true), {tall, true}, {tall, false}, {wide, false}}) {
+    content.counts_lead = counts_lead;
     const SheetPicture picture = sheet_picture(content, SheetGround::screen, shape);
-    ASSERT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
+    const bool lead = content.counts_lead;
+    ASSERT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + (lead ? 7 : 1 + 2 + 76));
     for (const SheetText& text : picture.texts) {
       EXPECT_GE(text.box.left, 0);
       EXPECT_LE(text.box.right(), picture.width);
@@ -131,7 +159,7 @@ TEST_F(ResultWindowTest, TheLongestSheetHasAllItsTextsApartAndOnThePageAndPaperS
       }
     }
     const auto same = [](const SheetText& a, const SheetText& b) { return a.text == b.text; };
-    EXPECT_TRUE(shape == SheetShape::tall || std::ranges::equal(picture.texts, paper.texts, same));
+    EXPECT_TRUE(shape == tall || lead || std::ranges::equal(picture.texts, paper.texts, same));
   }
   for (std::size_t i = 3; i < 6; ++i) content.head[i].visible = false;
   const SheetPicture shorter = sheet_picture(content, SheetGround::paper);

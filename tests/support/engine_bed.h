@@ -28,7 +28,10 @@ struct EngineBed : HostBed {
                             settings,   saved_training, key,    row,   statistics, best, protocol,
                             tone_names, interval_names, {},     {},    {}};
     context.caller = {[] {}, [] {}, [] {}};
-    context.open_result = [](const std::function<void()>& closed) { closed(); };
+    context.open_result = [this](const WorkDone& told, const std::function<void()>& closed) {
+      work = told;
+      closed();
+    };
     Kind& window = windows.open(std::make_unique<Kind>(context));
     scheduler.settle();
     return window;
@@ -45,6 +48,7 @@ struct EngineBed : HostBed {
   TaskRow row;
   Auswertung statistics;
   Ergebnis best;
+  WorkDone work;  ///< what the result sheet was told
   FakeDocumentWriter documents;
   Protokoll protocol{server, clock, documents, {"/protocols", "/data"}, {}};
   ToneNames tone_names{texts};

@@ -120,8 +120,9 @@ void ExerciseView::build_training(Card& card) {
   bindings().bind(*bar, value, [this, bar, &value] {
     if (value.text.empty()) return;
     bar->set_percent(std::stoi(value.text));
-    set_accessible_name(
-        *bar, to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') + bar->number());
+    const QString name =
+        (to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') + bar->number()).trimmed();
+    set_accessible_name(*bar, name);
   });
   card.body().addWidget(bar);
 }

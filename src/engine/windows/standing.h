@@ -6,8 +6,8 @@
 
 namespace tonarix {
 
-/// How far a training is from solved (0 %) and from too difficult (100 %): a bar, its number, and
-/// what its two ends mean. The part that the last task won or lost stays marked.
+/// How far a training is from solved (0 %) and from too difficult (100 %): what its two ends mean,
+/// a bar and its number. The part that the last task won or lost stays marked.
 class PercentBar final : public QWidget {
  public:
   struct Words {
@@ -18,7 +18,8 @@ class PercentBar final : public QWidget {
 
   PercentBar(Words words, QWidget* parent);
   void set_percent(int percent);
-  QString number() const { return words_.percent.arg(percent_); }
+  /// "37 %", empty at the solved end: there the word says it, and no 0 is taken for a failure.
+  QString number() const { return percent_ > 0 ? words_.percent.arg(percent_) : QString(); }
 
   QSize sizeHint() const override { return minimumSizeHint(); }
   QSize minimumSizeHint() const override;

@@ -34,6 +34,7 @@ ResultView::ResultView(ResultWindow& window, const Texts& words)
   Button* ok = button(window.cmdOk, [&window] { window.cmdOk_click(); });
   for (Button* action : {help_button, print_button, ok}) actions().addWidget(action);
   way_on({ok});
+  way_back({ok});
   help(help_button);
   key(QKeySequence::Print, *print_button);
 }

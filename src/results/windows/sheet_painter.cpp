@@ -47,14 +47,16 @@ QColor ink_of(SheetFont font, SheetGround ground) {
   return theme::colour(explains ? theme::note : theme::ink);
 }
 
-/// How a text fits into its box: at full size, smaller on one line, or smaller still on two.
+/// How a text fits into its box: at full size, also on two lines where the box is that high; else
+/// smaller on one line, or smaller still on two.
 struct Fit {
   double scale = 1;
   bool two_lines = false;
 };
 
-Fit fit_of(double natural_width, double room) {
+Fit fit_of(double natural_width, double room, bool room_for_two) {
   if (natural_width <= room) return {};
+  if (room_for_two && natural_width <= room * kFilledLines) return {1, true};
   if (natural_width * kSmallestLine <= room) return {room / natural_width, false};
   return {kTwoLines, true};
 }
@@ -64,7 +66,8 @@ void paint_text(QPainter& painter, const SheetText& text, SheetGround ground) {
   font.setHintingPreference(QFont::PreferNoHinting);
   const QFontMetricsF metrics(font);
   QString words = QString::fromStdString(text.text);
-  const Fit fit = fit_of(metrics.horizontalAdvance(words), text.box.width);
+  const Fit fit = fit_of(metrics.horizontalAdvance(words), text.box.width,
+                         2 * metrics.lineSpacing() <= text.box.height);
   const QRectF room(0, 0, text.box.width / fit.scale, text.box.height / fit.scale);
   QTextOption option(Qt::AlignVCenter | (text.at_right ? Qt::AlignRight : Qt::AlignLeft));
   option.setTextDirection(Qt::LeftToRight);

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPrinter>
 #include <QPushButton>
@@ -64,6 +65,14 @@ TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
   EXPECT_EQ(closed, 1);
 }
 
+TEST_F(ResultViewTest, EscapeLeavesTheSheet) {
+  come_up(scheduler);
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QApplication::sendEvent(view, &escape);
+  scheduler.settle();
+  EXPECT_EQ(closed, 1);
+}
+
 QImage painted(const SheetPicture& picture, double factor) {
   QImage image(int(picture.width * factor), int(picture.height * factor),
                QImage::Format_ARGB32_Premultiplied);
@@ -105,6 +114,22 @@ TEST_F(SheetPrinterTest, NoTextLeavesItsBoxHoweverLong) {
     EXPECT_FALSE(place.isEmpty());
     EXPECT_TRUE(QRect(99, 0, 63, 40).contains(place)) << name << place.left() << place.right();
   }
+}
+
+TEST_F(SheetPrinterTest, ALineThatIsTooLongTakesTwoOfItsSizeWhereThereIsRoom) {
+  SheetPicture picture;
+  picture.width = 200;
+  picture.height = 40;
+  const auto ink = [&](const char* words) {
+    picture.texts = {{{4, 4, 192, 32}, words, SheetFont::plain, false}};
+    const QImage image = painted(picture, 1.0).convertToFormat(QImage::Format_Mono);
+    return QRegion(QBitmap::fromImage(image)).boundingRect();
+  };
+  const QRect one = ink("3 von 38 Aufgaben");
+  const QRect two = ink("3 von 38 Aufgaben in 4 min 12 s und 10 richtig");
+  EXPECT_GE(two.height(), one.height() + 12);
+  EXPECT_GT(two.width(), 130);
+  EXPECT_TRUE(QRect(4, 4, 192, 32).contains(two));
 }
 
 TEST_F(SheetPrinterTest, TheFullSheetIsOneSmallLandscapePageWithItsText) {

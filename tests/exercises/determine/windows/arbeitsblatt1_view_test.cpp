@@ -133,6 +133,17 @@ TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButNeverTheWayOut
   EXPECT_FALSE(bed.dialogs.open()) << "too soon after Escape";
 }
 
+TEST_F(Arbeitsblatt1ViewTest, TheBarOfATrainingHasANumberButAtItsSolvedEnd) {
+  settings.choose(settings.training_Combo, 1);
+  open();
+  for (const bool solved : {false, true}) {
+    window->matboxanz[15].text = solved ? "0" : "37";
+    apply();
+    EXPECT_EQ(child<QWidget>("matboxanz_15").accessibleName(),
+              solved ? "[1100s]" : "[1100s] [1132s]");
+  }
+}
+
 TEST_F(Arbeitsblatt1ViewTest, WhatSoundsIsMarkedByItsPlaceAndNothingNamesTheSolution) {
   open();
   bed.scheduler.advance_ms(bed.beat());
