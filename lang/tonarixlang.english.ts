@@ -1142,7 +1142,7 @@ in any order.</translation>
     </message>
     <message id="1002s">
         <source>noch nicht verfügbar</source>
-        <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
+        <extracomment>First window: why an option has no exercise yet, for a tooltip and a screen reader</extracomment>
         <translation>not available yet</translation>
     </message>
     <message id="1003s">
@@ -1169,6 +1169,81 @@ in any order.</translation>
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>The log file cannot be written. This does not disturb your practice. Please check the permissions in the folder:</translation>
+    </message>
+    <message id="1030s">
+        <source>ab 4 Oktaven Tonraum</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>with a tone range of 4 octaves or more</translation>
+    </message>
+    <message id="1031s">
+        <source>nur bei Intervall-Größe „max. 1 Oktave“</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only with the interval size “Up to 1 octave”</translation>
+    </message>
+    <message id="1032s">
+        <source>nur, wenn alle Stufen gewählt sind</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only when all degrees are chosen</translation>
+    </message>
+    <message id="1033s">
+        <source>nur bei Intervall-Anzahl 2</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only with the number of intervals at 2</translation>
+    </message>
+    <message id="1034s">
+        <source>durch die Prüfung festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the exam</translation>
+    </message>
+    <message id="1035s">
+        <source>durch das gespeicherte Training festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the saved training</translation>
+    </message>
+    <message id="1036s">
+        <source>durch den eingelesenen Test festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the test that was read</translation>
+    </message>
+    <message id="1040s">
+        <source>%1 Gruppen aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1, %2 the place</extracomment>
+        <translation>%1 groups listed in: %2</translation>
+    </message>
+    <message id="1041s">
+        <source>1 Gruppe aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>1 group listed in: %2</translation>
+    </message>
+    <message id="1042s">
+        <source>Keine Gruppe ist als Prüfung markiert. Leere Liste in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>No group is marked as an exam. Empty list in: %2</translation>
+    </message>
+    <message id="1043s">
+        <source>Die Liste konnte nicht ausgegeben werden.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>The list could not be written.</translation>
+    </message>
+    <message id="1044s">
+        <source>Diagnoseausgabe des Programms (Terminal)</source>
+        <extracomment>Settings of a supervisor: where a listing goes</extracomment>
+        <translation>diagnostic output of the program (terminal)</translation>
+    </message>
+    <message id="1045s">
+        <source>Kein Wert des Tests passt zu diesen Einstellungen; alles bleibt, wie es war.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>No value of the test fits these settings; everything stays as it was.</translation>
+    </message>
+    <message id="1046s">
+        <source>%1 Gruppen eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1</extracomment>
+        <translation>%1 groups set and locked.</translation>
+    </message>
+    <message id="1047s">
+        <source>1 Gruppe eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>1 group set and locked.</translation>
     </message>
     <message id="1050s">
         <source>Übungsmodus</source>

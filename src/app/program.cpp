@@ -40,6 +40,13 @@ std::filesystem::path data_folder(const Options& options) {
   return options.data.empty() ? usual_data_folder() : options.data;
 }
 
+std::optional<TextKey> put_into_diagnostics(const std::string& document) {
+  std::clog.clear();  // a pipe that was full may take more again
+  std::clog << document << std::flush;
+  if (!std::clog) return {};
+  return text::diagnostic_stream;
+}
+
 LocalHostOptions host_options(const Options& options) {
   return {.folder = data_folder(options),
           .user = options.user,
@@ -112,7 +119,7 @@ Outside Program::outside(const Options& options) {
           .computer_user = computer_user(),
           .screen_width = QGuiApplication::primaryScreen()->size().width(),
           .sound_problem = [this] { return sound_problem(); },
-          .put_listing = [](const std::string& text) { std::clog << text << std::flush; },
+          .put_listing = put_into_diagnostics,
           .quit = [] { QCoreApplication::exit(0); }};
 }
 

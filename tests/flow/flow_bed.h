@@ -158,7 +158,6 @@ class FlowBed {
   RecordingDevices devices{scheduler};
   FakeDocumentWriter documents;
   RecordingPrinter printer;
-  std::string listing;
   bool ended = false;
   pugi::xml_document document;
   Module module{{scheduler,
@@ -176,7 +175,7 @@ class FlowBed {
                  "ada (desk)",
                  1280,
                  {},
-                 [this](const std::string& text) { listing += text; },
+                 {},
                  [this] { ended = true; }}};
 };
 

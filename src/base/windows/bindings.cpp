@@ -206,6 +206,7 @@ void Bindings::apply(Joint& joint) {
     shown.visible = control.visible;
   }
   apply_captions(joint);
+  apply_reason(joint);
   if (joint.set_colours &&
       (!shown.coloured || shown.back != control.back || shown.fore != control.fore)) {
     joint.set_colours(to_qcolor(control.back), to_qcolor(control.fore));
@@ -245,6 +246,19 @@ void Bindings::apply_name(Joint& joint) {
     name = to_qstring(*joint.shown.group + texts_.Wort(700_text)) + name;
   }
   joint.widget->setAccessibleName(name);
+}
+
+void Bindings::apply_reason(Joint& joint) {
+  std::string why = why_not_open(*joint.control);
+  if (joint.shown.why == why) return;
+  joint.shown.why = std::move(why);
+  const QString reason = to_qstring(joint.shown.why);
+  joint.widget->setToolTip(reason);
+  if (auto* option = dynamic_cast<Option*>(joint.widget)) {
+    option->set_reason(reason);
+  } else {
+    joint.widget->setAccessibleDescription(reason);
+  }
 }
 
 std::string Bindings::group_of(const Joint& joint) const {

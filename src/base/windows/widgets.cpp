@@ -129,17 +129,27 @@ Option::Option(QWidget* parent) : QRadioButton(parent) {
   });
 }
 
-void Option::changeEvent(QEvent* event) {
-  // A right click on an option that is not open is meant for its group.
-  if (event->type() == QEvent::EnabledChange) {
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
-  }
-  QRadioButton::changeEvent(event);
+bool Option::event(QEvent* event) {
+  // A disabled button would swallow these.
+  const bool for_group = event->type() == QEvent::ContextMenu || event->type() == QEvent::Wheel;
+  if (!for_group || isEnabled()) return QRadioButton::event(event);
+  event->ignore();
+  return false;
+}
+
+void Option::describe() {
+  const bool both = !reason_.isEmpty() && !note_.isEmpty();
+  setAccessibleDescription(both ? reason_ + QStringLiteral("; ") + note_ : reason_ + note_);
+}
+
+void Option::set_reason(const QString& reason) {
+  reason_ = reason;
+  describe();
 }
 
 void Option::set_note(const QString& note) {
   note_ = note;
-  setAccessibleDescription(note);
+  describe();
   updateGeometry();
   update();
 }

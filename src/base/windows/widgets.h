@@ -34,22 +34,27 @@ class Button : public QPushButton {
   std::optional<QColor> fore_;
 };
 
-/// One of a group of options, with an explaining line below its caption where it has one.
+/// One of a group of options, with an explaining line below its caption where it has one. While it
+/// is not open it shows its tooltip, and a right click or the wheel is meant for its group.
 class Option : public QRadioButton {
  public:
   explicit Option(QWidget* parent = nullptr);
   void set_note(const QString& note);
+  /// Why it is not open, told to a screen reader before the note; empty while it is open.
+  void set_reason(const QString& reason);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent*) override;
   bool hitButton(const QPoint& at) const override { return rect().contains(at); }
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   int note_indent() const;
+  void describe();
   QString note_;
+  QString reason_;
 };
 
 /// A drop-down list that the wheel does not change by accident.
