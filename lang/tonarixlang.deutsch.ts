@@ -1151,9 +1151,9 @@ Vorzeichen!</translation>
         <translation>tonale Intervalle sukzessiv</translation>
     </message>
     <message id="1010s">
-        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
-        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</translation>
+        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
+        <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
+        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</translation>
     </message>
     <message id="1011s">
         <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
@@ -1162,13 +1162,38 @@ Vorzeichen!</translation>
     </message>
     <message id="1012s">
         <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</translation>
     </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</translation>
+    </message>
+    <message id="1014s">
+        <source>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</translation>
+    </message>
+    <message id="1015s">
+        <source>Das Recht zum Schreiben fehlt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Das Recht zum Schreiben fehlt.</translation>
+    </message>
+    <message id="1016s">
+        <source>Den Ordner gibt es nicht.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message id="1017s">
+        <source>Der Datenträger ist schreibgeschützt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message id="1018s">
+        <source>Fehler Nr. %1</source>
+        <extracomment>Why something failed, where no better word is known; %1 is the number of the error</extracomment>
+        <translation>Fehler Nr. %1</translation>
     </message>
     <message id="1030s">
         <source>ab 4 Oktaven Tonraum</source>
@@ -1422,7 +1447,7 @@ Vorzeichen!</translation>
     </message>
     <message id="1085s">
         <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
-        <extracomment>Settings: message; what the device says follows on a line of its own</extracomment>
+        <extracomment>Settings: message; how it goes on may follow on a line of its own</extracomment>
         <translation>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</translation>
     </message>
     <message id="1086s">
@@ -1523,8 +1548,8 @@ Vorzeichen!</translation>
         <translation>Das Protokoll konnte nicht geschrieben werden nach</translation>
     </message>
     <message id="1113s">
-        <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
-        <translation>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</translation>
+        <source>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</source>
+        <translation>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</translation>
     </message>
     <message id="1114s">
         <source>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>

@@ -13,6 +13,7 @@
 #include <iostream>
 
 #include "base/module_texts.h"
+#include "base/system_failure.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
@@ -142,7 +143,12 @@ std::optional<TextKey> Program::sound_problem() const {
 
 void Program::tell_problems() {
   for (const Problem& problem : host_.problems()) {
-    dialogs_.show(warning(language_.Wort(problem.text) + "\n" + problem.detail), [](Reply) {});
+    if (!problem.reason.empty()) {
+      std::clog << "vemo06: " << problem.detail << ": " << problem.reason << std::endl;
+    }
+    std::string told = language_.Wort(problem.text) + "\n" + problem.detail;
+    if (problem.error) told += "\n" + failure_words(language_, problem.error);
+    dialogs_.show(warning(told), [](Reply) {});
   }
 }
 

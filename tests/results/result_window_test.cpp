@@ -96,7 +96,7 @@ TEST_F(ResultWindowTest, ThePageIsTheSheetAndTheWindowOpenAgainHoweverItEnds) {
   for (const End end : {End::printed, End::cancelled, End::failed}) {
     window.cmdPrint_click();
     window.cmdPrint_click();
-    printer.finish({end, "no paper"});
+    printer.finish({end, "no paper", end == End::failed ? "Out of paper" : ""});
     EXPECT_TRUE(window.cmdPrint.open() && window.cmdOk.open());
   }
   ASSERT_EQ(printer.pages.size(), 3U) << "one job at a time";
@@ -108,6 +108,7 @@ TEST_F(ResultWindowTest, ThePageIsTheSheetAndTheWindowOpenAgainHoweverItEnds) {
   printer.finish({End::failed, "after the sheet is gone"});
   ASSERT_EQ(dialogs.shown.size(), 1U) << "only a failure is told";
   EXPECT_EQ(dialogs.shown[0].text, "[1204]\nno paper");
+  EXPECT_THAT(host.error_places(), ElementsAre("vemo06.cmdPrint_click."));
 }
 
 bool overlap(const SheetBox& a, const SheetBox& b) {

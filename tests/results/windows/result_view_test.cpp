@@ -124,7 +124,8 @@ TEST_F(SheetPrinterTest, WhatCannotBeWrittenIsToldAndLeavesNothing) {
   const QString path = folder.filePath("missing/sheet.pdf");
   const PrintResult result = printer.write_pdf(page, path);
   EXPECT_EQ(result.end, PrintResult::End::failed);
-  EXPECT_THAT(result.reason, testing::StartsWith("[1212]" + path.toStdString() + "\n"));
+  EXPECT_EQ(result.reason, "[1212]" + path.toStdString() + "\n[1016]");
+  EXPECT_THAT(result.log_line, testing::StartsWith(path.toStdString() + ": "));
   EXPECT_EQ(printer.write_pdf(page, folder.path()).end, PrintResult::End::failed);
   QPrinter device(QPrinter::HighResolution);
   device.setOutputFormat(QPrinter::PdfFormat);
