@@ -594,9 +594,9 @@
         <translation>niedrig</translation>
     </message>
     <message id="426s">
-        <source>Prüfung Nr.</source>
-        <extracomment>Settings: list of the exams, a number from 1 to 5 follows</extracomment>
-        <translation>Prüfung Nr.</translation>
+        <source>Prüfung</source>
+        <extracomment>Settings: list of the exams, a blank and a number from 1 to 5 follow</extracomment>
+        <translation>Prüfung</translation>
     </message>
     <message id="432s">
         <source>OK</source>
@@ -604,9 +604,9 @@
         <translation>OK</translation>
     </message>
     <message id="433s">
-        <source>andere Oktave</source>
-        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote an octave or more away); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
-        <translation>andere Oktave</translation>
+        <source>andere Lage</source>
+        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote in another octave); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
+        <translation>andere Lage</translation>
     </message>
     <message id="437s">
         <source>Prime</source>
@@ -734,9 +734,9 @@
         <translation>spielen</translation>
     </message>
     <message id="508s">
-        <source>Stufe</source>
-        <extracomment>Settings: group title 'Tone 2: degree(n)'; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
-        <translation>Stufe</translation>
+        <source>auf Stufe</source>
+        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
+        <translation>auf Stufe</translation>
     </message>
     <message id="544s">
         <source>Die tatsächliche Tonhöhe</source>
@@ -930,7 +930,7 @@
     </message>
     <message id="635s">
         <source>Stimmung</source>
-        <extracomment>Build exercise: heading over the tuning in force</extracomment>
+        <extracomment>Settings: group title; result sheet: label; build exercise: heading over the tuning in force</extracomment>
         <translation>Stimmung</translation>
     </message>
     <message id="640s">
@@ -1270,39 +1270,44 @@ Vorzeichen!</translation>
         <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
         <translation>1 Gruppe eingestellt und gesperrt.</translation>
     </message>
+    <message id="1048s">
+        <source>,</source>
+        <extracomment>Decimal sign of numbers that are spoken</extracomment>
+        <translation>,</translation>
+    </message>
     <message id="1050s">
         <source>Übungsmodus</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Übungsmodus</translation>
     </message>
     <message id="1051s">
         <source>Tongeschlecht</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tongeschlecht</translation>
     </message>
     <message id="1052s">
         <source>Abfolge</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Abfolge</translation>
     </message>
     <message id="1053s">
         <source>Tonraum</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tonraum</translation>
     </message>
     <message id="1054s">
         <source>Intervall-Größe</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Intervall-Größe</translation>
     </message>
     <message id="1055s">
         <source>Intervall-Anzahl</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Intervall-Anzahl</translation>
     </message>
     <message id="1056s">
         <source>Intervall-Bestimmung</source>
-        <extracomment>Settings: group title; the options go on: from the keynote</extracomment>
+        <extracomment>Settings: group title; result sheet: label; the options go on: from the keynote</extracomment>
         <translation>Intervall-Bestimmung</translation>
     </message>
     <message id="1057s">
@@ -1312,17 +1317,17 @@ Vorzeichen!</translation>
     </message>
     <message id="1058s">
         <source>Tonart</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tonart</translation>
     </message>
     <message id="1059s">
         <source>Frequenz</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Frequenz</translation>
     </message>
     <message id="1060s">
         <source>Tempo</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tempo</translation>
     </message>
     <message id="1061s">
@@ -1452,12 +1457,12 @@ Vorzeichen!</translation>
     </message>
     <message id="1086s">
         <source>Oktavbereich</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Oktavbereich</translation>
     </message>
     <message id="1087s">
         <source>Instrument</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Instrument</translation>
     </message>
     <message id="1088s">
@@ -1472,7 +1477,7 @@ Vorzeichen!</translation>
     </message>
     <message id="1090s">
         <source>Stufe von Ton 2</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Stufe von Ton 2</translation>
     </message>
     <message id="1091s">
@@ -1727,9 +1732,9 @@ Vorzeichen!</translation>
         <translation>nicht gefragt</translation>
     </message>
     <message id="1210s">
-        <source>Auf dieser Stufe werden keine Prozente berechnet.</source>
+        <source>In diesem Übungsmodus werden keine Prozente berechnet.</source>
         <extracomment>result sheet: instead of the chart</extracomment>
-        <translation>Auf dieser Stufe werden keine Prozente berechnet.</translation>
+        <translation>In diesem Übungsmodus werden keine Prozente berechnet.</translation>
     </message>
     <message id="1211s">
         <source>Ergebnisblatt</source>
@@ -1746,124 +1751,54 @@ Vorzeichen!</translation>
         <extracomment>result sheet: why a print failed</extracomment>
         <translation>Der Drucker hat den Auftrag abgebrochen.</translation>
     </message>
-    <message id="1214s">
-        <source>Übungsmodus</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Übungsmodus</translation>
-    </message>
     <message id="1215s">
         <source>Nr.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting; the exam follows: 'No.: Exam 3'</extracomment>
         <translation>Nr.</translation>
     </message>
-    <message id="1216s">
-        <source>Klangfarbe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Klangfarbe</translation>
-    </message>
     <message id="1217s">
-        <source>Klangfarben</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Klangfarben</translation>
-    </message>
-    <message id="1218s">
-        <source>Tempo</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tempo</translation>
-    </message>
-    <message id="1219s">
-        <source>Frequenz</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Frequenz</translation>
-    </message>
-    <message id="1220s">
-        <source>Abfolge</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Abfolge</translation>
-    </message>
-    <message id="1221s">
-        <source>Iv-Anzahl</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Anzahl</translation>
-    </message>
-    <message id="1222s">
-        <source>Iv-Größe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Größe</translation>
-    </message>
-    <message id="1223s">
-        <source>Tonraum</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tonraum</translation>
-    </message>
-    <message id="1224s">
-        <source>Oktavbereich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Oktavbereich</translation>
-    </message>
-    <message id="1225s">
-        <source>Stimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stimmung</translation>
+        <source>Instrumente</source>
+        <extracomment>Result sheet: label of a setting, several instruments</extracomment>
+        <translation>Instrumente</translation>
     </message>
     <message id="1226s">
-        <source>Grdton zus.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Grdton zus.</translation>
-    </message>
-    <message id="1227s">
-        <source>Tongeschlecht</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tongeschlecht</translation>
-    </message>
-    <message id="1228s">
-        <source>Tonart</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tonart</translation>
+        <source>Grundton</source>
+        <extracomment>Result sheet: label of a setting; 1234 and the choice follow: 'Keynote: sounds along – no'</extracomment>
+        <translation>Grundton</translation>
     </message>
     <message id="1229s">
         <source>Aufgabe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Aufgabe</translation>
     </message>
     <message id="1230s">
         <source>Genauigkeit</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Genauigkeit</translation>
     </message>
-    <message id="1231s">
-        <source>Iv-Bestimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Bestimmung</translation>
-    </message>
     <message id="1232s">
-        <source>Stufen</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stufen</translation>
-    </message>
-    <message id="1233s">
-        <source>Stufe Ton 2</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stufe Ton 2</translation>
+        <source>Stufen von Ton 2</source>
+        <extracomment>Result sheet: label of a setting</extracomment>
+        <translation>Stufen von Ton 2</translation>
     </message>
     <message id="1234s">
         <source>zusätzlich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: stands with a blank before the choice whether the keynote sounds along</extracomment>
         <translation>zusätzlich</translation>
     </message>
     <message id="1235s">
         <source>Name:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Name:</translation>
     </message>
     <message id="1236s">
         <source>Vorname:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Vorname:</translation>
     </message>
     <message id="1237s">
         <source>Matrikel-Nr.:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Matrikel-Nr.:</translation>
     </message>
     <message id="1240s">
@@ -1912,9 +1847,9 @@ Vorzeichen!</translation>
         <translation>Was möchten Sie üben?</translation>
     </message>
     <message id="1254s">
-        <source>Tonale Intervalle nacheinander</source>
+        <source>Tonale Intervalle sukzessiv, also nacheinander</source>
         <extracomment>First window: below the question</extracomment>
-        <translation>Tonale Intervalle nacheinander</translation>
+        <translation>Tonale Intervalle sukzessiv, also nacheinander</translation>
     </message>
     <message id="1255s">
         <source>Bereich</source>
@@ -1964,12 +1899,12 @@ Vorzeichen!</translation>
         <translation>Hilfe</translation>
     </message>
     <message id="1283s">
-        <source>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
-        <translation>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</translation>
+        <source>Wählen Sie links den Bereich und rechts die Übungsart. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
+        <translation>Wählen Sie links den Bereich und rechts die Übungsart. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</translation>
     </message>
     <message id="1284s">
-        <source>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
-        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Zeigen Sie mit der Maus auf etwas Graues, um zu erfahren, warum es nicht wählbar ist. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Zeigen Sie mit der Maus auf etwas Graues, um zu erfahren, warum es nicht wählbar ist. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
     </message>
     <message id="1285s">
         <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
