@@ -83,7 +83,7 @@ TEST(TestListing, SaysInOneLineWhatWasDoneUntilTheNextAction) {
   bed.listing_fails = true;
   EXPECT_EQ(told(window.cmdOptionSave), "[1043]");
   EXPECT_EQ(told(window.cmdOptionRead), "[1045]") << "the fixed values meet no group";
-  window.frame_menu(5);
+  window.click(window.tongeschl[1]);
   EXPECT_EQ(window.status.text, "");
 }
 

@@ -126,6 +126,7 @@ TEST_F(ResultWindowTest, TheLongestSheetHasAllItsTextsApartAndOnThePageAndPaperS
     ASSERT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + 2 + 76);
     for (const SheetText& text : picture.texts) {
       EXPECT_GE(text.box.left, 0);
+      EXPECT_GE(text.box.width, 60);
       EXPECT_LE(text.box.right(), picture.width);
       EXPECT_LE(text.box.bottom(), picture.height);
       for (const SheetText& other : picture.texts) {
