@@ -594,9 +594,9 @@
         <translation>niedrig</translation>
     </message>
     <message id="426s">
-        <source>Prüfung Nr.</source>
-        <extracomment>Settings: list of the exams, a number from 1 to 5 follows</extracomment>
-        <translation>Prüfung Nr.</translation>
+        <source>Prüfung</source>
+        <extracomment>Settings: list of the exams, a blank and a number from 1 to 5 follow</extracomment>
+        <translation>Prüfung</translation>
     </message>
     <message id="432s">
         <source>OK</source>
@@ -604,9 +604,9 @@
         <translation>OK</translation>
     </message>
     <message id="433s">
-        <source>andere Oktave</source>
-        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote an octave or more away); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
-        <translation>andere Oktave</translation>
+        <source>andere Lage</source>
+        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote in another octave); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
+        <translation>andere Lage</translation>
     </message>
     <message id="437s">
         <source>Prime</source>
@@ -734,9 +734,9 @@
         <translation>spielen</translation>
     </message>
     <message id="508s">
-        <source>Stufe</source>
-        <extracomment>Settings: group title 'Tone 2: degree(n)'; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
-        <translation>Stufe</translation>
+        <source>auf Stufe</source>
+        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
+        <translation>auf Stufe</translation>
     </message>
     <message id="544s">
         <source>Die tatsächliche Tonhöhe</source>
@@ -930,7 +930,7 @@
     </message>
     <message id="635s">
         <source>Stimmung</source>
-        <extracomment>Build exercise: heading over the tuning in force</extracomment>
+        <extracomment>Settings: group title; result sheet: label; build exercise: heading over the tuning in force</extracomment>
         <translation>Stimmung</translation>
     </message>
     <message id="640s">
@@ -1142,7 +1142,7 @@ Vorzeichen!</translation>
     </message>
     <message id="1002s">
         <source>noch nicht verfügbar</source>
-        <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
+        <extracomment>First window: why an option has no exercise yet, for a tooltip and a screen reader</extracomment>
         <translation>noch nicht verfügbar</translation>
     </message>
     <message id="1003s">
@@ -1151,9 +1151,9 @@ Vorzeichen!</translation>
         <translation>tonale Intervalle sukzessiv</translation>
     </message>
     <message id="1010s">
-        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
-        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</translation>
+        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
+        <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
+        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</translation>
     </message>
     <message id="1011s">
         <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
@@ -1162,7 +1162,7 @@ Vorzeichen!</translation>
     </message>
     <message id="1012s">
         <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</translation>
     </message>
     <message id="1013s">
@@ -1170,39 +1170,144 @@ Vorzeichen!</translation>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</translation>
     </message>
+    <message id="1014s">
+        <source>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</translation>
+    </message>
+    <message id="1015s">
+        <source>Das Recht zum Schreiben fehlt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Das Recht zum Schreiben fehlt.</translation>
+    </message>
+    <message id="1016s">
+        <source>Den Ordner gibt es nicht.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message id="1017s">
+        <source>Der Datenträger ist schreibgeschützt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message id="1018s">
+        <source>Fehler Nr. %1</source>
+        <extracomment>Why something failed, where no better word is known; %1 is the number of the error</extracomment>
+        <translation>Fehler Nr. %1</translation>
+    </message>
+    <message id="1030s">
+        <source>ab 4 Oktaven Tonraum</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>ab 4 Oktaven Tonraum</translation>
+    </message>
+    <message id="1031s">
+        <source>nur bei Intervall-Größe „max. 1 Oktave“</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>nur bei Intervall-Größe „max. 1 Oktave“</translation>
+    </message>
+    <message id="1032s">
+        <source>nur, wenn alle Stufen gewählt sind</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>nur, wenn alle Stufen gewählt sind</translation>
+    </message>
+    <message id="1033s">
+        <source>nur bei Intervall-Anzahl 2</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>nur bei Intervall-Anzahl 2</translation>
+    </message>
+    <message id="1034s">
+        <source>durch die Prüfung festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>durch die Prüfung festgelegt</translation>
+    </message>
+    <message id="1035s">
+        <source>durch das gespeicherte Training festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>durch das gespeicherte Training festgelegt</translation>
+    </message>
+    <message id="1036s">
+        <source>durch den eingelesenen Test festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>durch den eingelesenen Test festgelegt</translation>
+    </message>
+    <message id="1040s">
+        <source>%1 Gruppen aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1, %2 the place</extracomment>
+        <translation>%1 Gruppen aufgelistet in: %2</translation>
+    </message>
+    <message id="1041s">
+        <source>1 Gruppe aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>1 Gruppe aufgelistet in: %2</translation>
+    </message>
+    <message id="1042s">
+        <source>Keine Gruppe ist als Prüfung markiert. Leere Liste in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>Keine Gruppe ist als Prüfung markiert. Leere Liste in: %2</translation>
+    </message>
+    <message id="1043s">
+        <source>Die Liste konnte nicht ausgegeben werden.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>Die Liste konnte nicht ausgegeben werden.</translation>
+    </message>
+    <message id="1044s">
+        <source>Diagnoseausgabe des Programms (Terminal)</source>
+        <extracomment>Settings of a supervisor: where a listing goes</extracomment>
+        <translation>Diagnoseausgabe des Programms (Terminal)</translation>
+    </message>
+    <message id="1045s">
+        <source>Kein Wert des Tests passt zu diesen Einstellungen; alles bleibt, wie es war.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>Kein Wert des Tests passt zu diesen Einstellungen; alles bleibt, wie es war.</translation>
+    </message>
+    <message id="1046s">
+        <source>%1 Gruppen eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1</extracomment>
+        <translation>%1 Gruppen eingestellt und gesperrt.</translation>
+    </message>
+    <message id="1047s">
+        <source>1 Gruppe eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>1 Gruppe eingestellt und gesperrt.</translation>
+    </message>
+    <message id="1048s">
+        <source>,</source>
+        <extracomment>Decimal sign of numbers that are spoken</extracomment>
+        <translation>,</translation>
+    </message>
     <message id="1050s">
         <source>Übungsmodus</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Übungsmodus</translation>
     </message>
     <message id="1051s">
         <source>Tongeschlecht</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tongeschlecht</translation>
     </message>
     <message id="1052s">
         <source>Abfolge</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Abfolge</translation>
     </message>
     <message id="1053s">
         <source>Tonraum</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tonraum</translation>
     </message>
     <message id="1054s">
         <source>Intervall-Größe</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Intervall-Größe</translation>
     </message>
     <message id="1055s">
         <source>Intervall-Anzahl</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Intervall-Anzahl</translation>
     </message>
     <message id="1056s">
         <source>Intervall-Bestimmung</source>
-        <extracomment>Settings: group title; the options go on: from the keynote</extracomment>
+        <extracomment>Settings: group title; result sheet: label; the options go on: from the keynote</extracomment>
         <translation>Intervall-Bestimmung</translation>
     </message>
     <message id="1057s">
@@ -1212,17 +1317,17 @@ Vorzeichen!</translation>
     </message>
     <message id="1058s">
         <source>Tonart</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tonart</translation>
     </message>
     <message id="1059s">
         <source>Frequenz</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Frequenz</translation>
     </message>
     <message id="1060s">
         <source>Tempo</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tempo</translation>
     </message>
     <message id="1061s">
@@ -1347,17 +1452,17 @@ Vorzeichen!</translation>
     </message>
     <message id="1085s">
         <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
-        <extracomment>Settings: message; what the device says follows on a line of its own</extracomment>
+        <extracomment>Settings: message; how it goes on may follow on a line of its own</extracomment>
         <translation>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</translation>
     </message>
     <message id="1086s">
         <source>Oktavbereich</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Oktavbereich</translation>
     </message>
     <message id="1087s">
         <source>Instrument</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Instrument</translation>
     </message>
     <message id="1088s">
@@ -1372,7 +1477,7 @@ Vorzeichen!</translation>
     </message>
     <message id="1090s">
         <source>Stufe von Ton 2</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Stufe von Ton 2</translation>
     </message>
     <message id="1091s">
@@ -1448,8 +1553,8 @@ Vorzeichen!</translation>
         <translation>Das Protokoll konnte nicht geschrieben werden nach</translation>
     </message>
     <message id="1113s">
-        <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
-        <translation>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</translation>
+        <source>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</source>
+        <translation>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</translation>
     </message>
     <message id="1114s">
         <source>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
@@ -1720,9 +1825,9 @@ Vorzeichen!</translation>
         <translation>nicht gefragt</translation>
     </message>
     <message id="1210s">
-        <source>Auf dieser Stufe werden keine Prozente berechnet.</source>
+        <source>In diesem Übungsmodus werden keine Prozente berechnet.</source>
         <extracomment>result sheet: instead of the chart</extracomment>
-        <translation>Auf dieser Stufe werden keine Prozente berechnet.</translation>
+        <translation>In diesem Übungsmodus werden keine Prozente berechnet.</translation>
     </message>
     <message id="1211s">
         <source>Ergebnisblatt</source>
@@ -1739,124 +1844,54 @@ Vorzeichen!</translation>
         <extracomment>result sheet: why a print failed</extracomment>
         <translation>Der Drucker hat den Auftrag abgebrochen.</translation>
     </message>
-    <message id="1214s">
-        <source>Übungsmodus</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Übungsmodus</translation>
-    </message>
     <message id="1215s">
         <source>Nr.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting; the exam follows: 'No.: Exam 3'</extracomment>
         <translation>Nr.</translation>
     </message>
-    <message id="1216s">
-        <source>Klangfarbe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Klangfarbe</translation>
-    </message>
     <message id="1217s">
-        <source>Klangfarben</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Klangfarben</translation>
-    </message>
-    <message id="1218s">
-        <source>Tempo</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tempo</translation>
-    </message>
-    <message id="1219s">
-        <source>Frequenz</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Frequenz</translation>
-    </message>
-    <message id="1220s">
-        <source>Abfolge</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Abfolge</translation>
-    </message>
-    <message id="1221s">
-        <source>Iv-Anzahl</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Anzahl</translation>
-    </message>
-    <message id="1222s">
-        <source>Iv-Größe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Größe</translation>
-    </message>
-    <message id="1223s">
-        <source>Tonraum</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tonraum</translation>
-    </message>
-    <message id="1224s">
-        <source>Oktavbereich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Oktavbereich</translation>
-    </message>
-    <message id="1225s">
-        <source>Stimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stimmung</translation>
+        <source>Instrumente</source>
+        <extracomment>Result sheet: label of a setting, several instruments</extracomment>
+        <translation>Instrumente</translation>
     </message>
     <message id="1226s">
-        <source>Grdton zus.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Grdton zus.</translation>
-    </message>
-    <message id="1227s">
-        <source>Tongeschlecht</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tongeschlecht</translation>
-    </message>
-    <message id="1228s">
-        <source>Tonart</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tonart</translation>
+        <source>Grundton</source>
+        <extracomment>Result sheet: label of a setting; 1234 and the choice follow: 'Keynote: sounds along – no'</extracomment>
+        <translation>Grundton</translation>
     </message>
     <message id="1229s">
         <source>Aufgabe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Aufgabe</translation>
     </message>
     <message id="1230s">
         <source>Genauigkeit</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Genauigkeit</translation>
     </message>
-    <message id="1231s">
-        <source>Iv-Bestimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Iv-Bestimmung</translation>
-    </message>
     <message id="1232s">
-        <source>Stufen</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stufen</translation>
-    </message>
-    <message id="1233s">
-        <source>Stufe Ton 2</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Stufe Ton 2</translation>
+        <source>Stufen von Ton 2</source>
+        <extracomment>Result sheet: label of a setting</extracomment>
+        <translation>Stufen von Ton 2</translation>
     </message>
     <message id="1234s">
         <source>zusätzlich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: stands with a blank before the choice whether the keynote sounds along</extracomment>
         <translation>zusätzlich</translation>
     </message>
     <message id="1235s">
         <source>Name:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Name:</translation>
     </message>
     <message id="1236s">
         <source>Vorname:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Vorname:</translation>
     </message>
     <message id="1237s">
         <source>Matrikel-Nr.:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Matrikel-Nr.:</translation>
     </message>
     <message id="1238s">
@@ -1940,9 +1975,9 @@ Vorzeichen!</translation>
         <translation>Was möchten Sie üben?</translation>
     </message>
     <message id="1254s">
-        <source>Tonale Intervalle nacheinander</source>
+        <source>Tonale Intervalle sukzessiv, also nacheinander</source>
         <extracomment>First window: below the question</extracomment>
-        <translation>Tonale Intervalle nacheinander</translation>
+        <translation>Tonale Intervalle sukzessiv, also nacheinander</translation>
     </message>
     <message id="1255s">
         <source>Bereich</source>
@@ -1992,16 +2027,16 @@ Vorzeichen!</translation>
         <translation>Hilfe</translation>
     </message>
     <message id="1283s">
-        <source>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
-        <translation>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</translation>
+        <source>Wählen Sie links den Bereich und rechts die Übungsart. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
+        <translation>Wählen Sie links den Bereich und rechts die Übungsart. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</translation>
     </message>
     <message id="1284s">
-        <source>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
-        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Zeigen Sie mit der Maus auf etwas Graues, um zu erfahren, warum es nicht wählbar ist. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Zeigen Sie mit der Maus auf etwas Graues, um zu erfahren, warum es nicht wählbar ist. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
     </message>
     <message id="1285s">
-        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
-        <translation>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</translation>
+        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
+        <translation>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</translation>
     </message>
     <message id="1286s">
         <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>

@@ -594,9 +594,9 @@
         <translation>Low</translation>
     </message>
     <message id="426s">
-        <source>Prüfung Nr.</source>
-        <extracomment>Settings: list of the exams, a number from 1 to 5 follows</extracomment>
-        <translation>Exam no.</translation>
+        <source>Prüfung</source>
+        <extracomment>Settings: list of the exams, a blank and a number from 1 to 5 follow</extracomment>
+        <translation>Exam</translation>
     </message>
     <message id="432s">
         <source>OK</source>
@@ -604,9 +604,9 @@
         <translation>OK</translation>
     </message>
     <message id="433s">
-        <source>andere Oktave</source>
-        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote an octave or more away); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
-        <translation>Other octave</translation>
+        <source>andere Lage</source>
+        <extracomment>Second half of the first entry of the degree list ('Octave/...': the keynote in another octave); with an exclamation mark the warning that a played tone is right but lies in another octave</extracomment>
+        <translation>Other register</translation>
     </message>
     <message id="437s">
         <source>Prime</source>
@@ -734,9 +734,9 @@
         <translation>Play</translation>
     </message>
     <message id="508s">
-        <source>Stufe</source>
-        <extracomment>Settings: group title 'Tone 2: degree(n)'; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
-        <translation>degree </translation>
+        <source>auf Stufe</source>
+        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
+        <translation>degree no. </translation>
     </message>
     <message id="544s">
         <source>Die tatsächliche Tonhöhe</source>
@@ -930,7 +930,7 @@
     </message>
     <message id="635s">
         <source>Stimmung</source>
-        <extracomment>Build exercise: heading over the tuning in force</extracomment>
+        <extracomment>Settings: group title; result sheet: label; build exercise: heading over the tuning in force</extracomment>
         <translation>Tuning</translation>
     </message>
     <message id="640s">
@@ -1142,7 +1142,7 @@ in any order.</translation>
     </message>
     <message id="1002s">
         <source>noch nicht verfügbar</source>
-        <extracomment>First window: behind an option that has no exercise yet, for a screen reader</extracomment>
+        <extracomment>First window: why an option has no exercise yet, for a tooltip and a screen reader</extracomment>
         <translation>not available yet</translation>
     </message>
     <message id="1003s">
@@ -1151,9 +1151,9 @@ in any order.</translation>
         <translation>tonal intervals in succession</translation>
     </message>
     <message id="1010s">
-        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Bitte prüfen Sie die Schreibrechte und den freien Speicherplatz:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
-        <translation>This folder cannot be written to. You can practise, but saved trainings will be lost when the program ends. Please check its permissions and the free space:</translation>
+        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
+        <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
+        <translation>This folder cannot be written to. You can practise, but saved trainings will be lost when the program ends:</translation>
     </message>
     <message id="1011s">
         <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
@@ -1162,7 +1162,7 @@ in any order.</translation>
     </message>
     <message id="1012s">
         <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
-        <extracomment>Message at the start; the folder and the reason follow on the next line</extracomment>
+        <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>The file of saved trainings is in use by another program. Trainings you save now will be lost when this program ends. Please close the other program and start again:</translation>
     </message>
     <message id="1013s">
@@ -1170,39 +1170,144 @@ in any order.</translation>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
         <translation>The log file cannot be written. This does not disturb your practice. Please check the permissions in the folder:</translation>
     </message>
+    <message id="1014s">
+        <source>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>There is no space left on the disk. Please free some.</translation>
+    </message>
+    <message id="1015s">
+        <source>Das Recht zum Schreiben fehlt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>Permission to write is missing.</translation>
+    </message>
+    <message id="1016s">
+        <source>Den Ordner gibt es nicht.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>The folder does not exist.</translation>
+    </message>
+    <message id="1017s">
+        <source>Der Datenträger ist schreibgeschützt.</source>
+        <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
+        <translation>The disk is read-only.</translation>
+    </message>
+    <message id="1018s">
+        <source>Fehler Nr. %1</source>
+        <extracomment>Why something failed, where no better word is known; %1 is the number of the error</extracomment>
+        <translation>Error no. %1</translation>
+    </message>
+    <message id="1030s">
+        <source>ab 4 Oktaven Tonraum</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>with a tone range of 4 octaves or more</translation>
+    </message>
+    <message id="1031s">
+        <source>nur bei Intervall-Größe „max. 1 Oktave“</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only with the interval size “Up to 1 octave”</translation>
+    </message>
+    <message id="1032s">
+        <source>nur, wenn alle Stufen gewählt sind</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only when all degrees are chosen</translation>
+    </message>
+    <message id="1033s">
+        <source>nur bei Intervall-Anzahl 2</source>
+        <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>only with the number of intervals at 2</translation>
+    </message>
+    <message id="1034s">
+        <source>durch die Prüfung festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the exam</translation>
+    </message>
+    <message id="1035s">
+        <source>durch das gespeicherte Training festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the saved training</translation>
+    </message>
+    <message id="1036s">
+        <source>durch den eingelesenen Test festgelegt</source>
+        <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
+        <translation>set by the test that was read</translation>
+    </message>
+    <message id="1040s">
+        <source>%1 Gruppen aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1, %2 the place</extracomment>
+        <translation>%1 groups listed in: %2</translation>
+    </message>
+    <message id="1041s">
+        <source>1 Gruppe aufgelistet in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>1 group listed in: %2</translation>
+    </message>
+    <message id="1042s">
+        <source>Keine Gruppe ist als Prüfung markiert. Leere Liste in: %2</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %2 is the place</extracomment>
+        <translation>No group is marked as an exam. Empty list in: %2</translation>
+    </message>
+    <message id="1043s">
+        <source>Die Liste konnte nicht ausgegeben werden.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>The list could not be written.</translation>
+    </message>
+    <message id="1044s">
+        <source>Diagnoseausgabe des Programms (Terminal)</source>
+        <extracomment>Settings of a supervisor: where a listing goes</extracomment>
+        <translation>diagnostic output of the program (terminal)</translation>
+    </message>
+    <message id="1045s">
+        <source>Kein Wert des Tests passt zu diesen Einstellungen; alles bleibt, wie es war.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>No value of the test fits these settings; everything stays as it was.</translation>
+    </message>
+    <message id="1046s">
+        <source>%1 Gruppen eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1</extracomment>
+        <translation>%1 groups set and locked.</translation>
+    </message>
+    <message id="1047s">
+        <source>1 Gruppe eingestellt und gesperrt.</source>
+        <extracomment>Settings of a supervisor: line that says what a button has done</extracomment>
+        <translation>1 group set and locked.</translation>
+    </message>
+    <message id="1048s">
+        <source>,</source>
+        <extracomment>Decimal sign of numbers that are spoken</extracomment>
+        <translation>.</translation>
+    </message>
     <message id="1050s">
         <source>Übungsmodus</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Exercise level</translation>
     </message>
     <message id="1051s">
         <source>Tongeschlecht</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Mode</translation>
     </message>
     <message id="1052s">
         <source>Abfolge</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Order of tasks</translation>
     </message>
     <message id="1053s">
         <source>Tonraum</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tone range</translation>
     </message>
     <message id="1054s">
         <source>Intervall-Größe</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Interval size</translation>
     </message>
     <message id="1055s">
         <source>Intervall-Anzahl</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Number of intervals</translation>
     </message>
     <message id="1056s">
         <source>Intervall-Bestimmung</source>
-        <extracomment>Settings: group title; the options go on: from the keynote</extracomment>
+        <extracomment>Settings: group title; result sheet: label; the options go on: from the keynote</extracomment>
         <translation>Interval named</translation>
     </message>
     <message id="1057s">
@@ -1212,17 +1317,17 @@ in any order.</translation>
     </message>
     <message id="1058s">
         <source>Tonart</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Key</translation>
     </message>
     <message id="1059s">
         <source>Frequenz</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Frequency</translation>
     </message>
     <message id="1060s">
         <source>Tempo</source>
-        <extracomment>Settings: group title</extracomment>
+        <extracomment>Settings: group title; result sheet: label</extracomment>
         <translation>Tempo</translation>
     </message>
     <message id="1061s">
@@ -1347,17 +1452,17 @@ in any order.</translation>
     </message>
     <message id="1085s">
         <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
-        <extracomment>Settings: message; what the device says follows on a line of its own</extracomment>
+        <extracomment>Settings: message; how it goes on may follow on a line of its own</extracomment>
         <translation>The MIDI device cannot be used. Check the connection or choose another device.</translation>
     </message>
     <message id="1086s">
         <source>Oktavbereich</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Octave range</translation>
     </message>
     <message id="1087s">
         <source>Instrument</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Instrument</translation>
     </message>
     <message id="1088s">
@@ -1372,7 +1477,7 @@ in any order.</translation>
     </message>
     <message id="1090s">
         <source>Stufe von Ton 2</source>
-        <extracomment>Settings: name of a list for a screen reader</extracomment>
+        <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
         <translation>Degree of tone 2</translation>
     </message>
     <message id="1091s">
@@ -1448,8 +1553,8 @@ in any order.</translation>
         <translation>The protocol could not be written to</translation>
     </message>
     <message id="1113s">
-        <source>Das Protokoll konnte nicht geschrieben werden. Bitte schaffen Sie Platz auf dem Datenträger. Soll es noch einmal versucht werden?</source>
-        <translation>The protocol could not be written. Please free some disk space. Try once more?</translation>
+        <source>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</source>
+        <translation>The protocol could not be written. Try once more?</translation>
     </message>
     <message id="1114s">
         <source>Das Training ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
@@ -1619,7 +1724,7 @@ in any order.</translation>
     </message>
     <message id="1155s">
         <source>Int:</source>
-        <translation>Int.:</translation>
+        <translation>Interval:</translation>
     </message>
     <message id="1156s">
         <source>Tonreihe</source>
@@ -1720,9 +1825,9 @@ in any order.</translation>
         <translation>not asked</translation>
     </message>
     <message id="1210s">
-        <source>Auf dieser Stufe werden keine Prozente berechnet.</source>
+        <source>In diesem Übungsmodus werden keine Prozente berechnet.</source>
         <extracomment>result sheet: instead of the chart</extracomment>
-        <translation>No percentages are worked out at this level.</translation>
+        <translation>No percentages are worked out at this exercise level.</translation>
     </message>
     <message id="1211s">
         <source>Ergebnisblatt</source>
@@ -1739,124 +1844,54 @@ in any order.</translation>
         <extracomment>result sheet: why a print failed</extracomment>
         <translation>The printer broke off the job.</translation>
     </message>
-    <message id="1214s">
-        <source>Übungsmodus</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Level</translation>
-    </message>
     <message id="1215s">
         <source>Nr.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting; the exam follows: 'No.: Exam 3'</extracomment>
         <translation>No.</translation>
     </message>
-    <message id="1216s">
-        <source>Klangfarbe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Instrument</translation>
-    </message>
     <message id="1217s">
-        <source>Klangfarben</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <source>Instrumente</source>
+        <extracomment>Result sheet: label of a setting, several instruments</extracomment>
         <translation>Instruments</translation>
     </message>
-    <message id="1218s">
-        <source>Tempo</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tempo</translation>
-    </message>
-    <message id="1219s">
-        <source>Frequenz</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Pitch</translation>
-    </message>
-    <message id="1220s">
-        <source>Abfolge</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Order</translation>
-    </message>
-    <message id="1221s">
-        <source>Iv-Anzahl</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Intervals</translation>
-    </message>
-    <message id="1222s">
-        <source>Iv-Größe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Interval size</translation>
-    </message>
-    <message id="1223s">
-        <source>Tonraum</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Range</translation>
-    </message>
-    <message id="1224s">
-        <source>Oktavbereich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Octaves</translation>
-    </message>
-    <message id="1225s">
-        <source>Stimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Tuning</translation>
-    </message>
     <message id="1226s">
-        <source>Grdton zus.</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Added keynote</translation>
-    </message>
-    <message id="1227s">
-        <source>Tongeschlecht</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Mode</translation>
-    </message>
-    <message id="1228s">
-        <source>Tonart</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Key</translation>
+        <source>Grundton</source>
+        <extracomment>Result sheet: label of a setting; 1234 and the choice follow: 'Keynote: sounds along – no'</extracomment>
+        <translation>Keynote</translation>
     </message>
     <message id="1229s">
         <source>Aufgabe</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Task</translation>
     </message>
     <message id="1230s">
         <source>Genauigkeit</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a setting</extracomment>
         <translation>Accuracy</translation>
     </message>
-    <message id="1231s">
-        <source>Iv-Bestimmung</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Named from</translation>
-    </message>
     <message id="1232s">
-        <source>Stufen</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Degrees</translation>
-    </message>
-    <message id="1233s">
-        <source>Stufe Ton 2</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>Degree of tone 2</translation>
+        <source>Stufen von Ton 2</source>
+        <extracomment>Result sheet: label of a setting</extracomment>
+        <translation>Degrees of tone 2</translation>
     </message>
     <message id="1234s">
         <source>zusätzlich</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
-        <translation>added:</translation>
+        <extracomment>Result sheet: stands with a blank before the choice whether the keynote sounds along</extracomment>
+        <translation>sounds along –</translation>
     </message>
     <message id="1235s">
         <source>Name:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Name:</translation>
     </message>
     <message id="1236s">
         <source>Vorname:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>First name:</translation>
     </message>
     <message id="1237s">
         <source>Matrikel-Nr.:</source>
-        <extracomment>Result sheet: label of a setting or of a personal field</extracomment>
+        <extracomment>Result sheet: label of a personal field</extracomment>
         <translation>Student no.:</translation>
     </message>
     <message id="1238s">
@@ -1940,7 +1975,7 @@ in any order.</translation>
         <translation>What would you like to practise?</translation>
     </message>
     <message id="1254s">
-        <source>Tonale Intervalle nacheinander</source>
+        <source>Tonale Intervalle sukzessiv, also nacheinander</source>
         <extracomment>First window: below the question</extracomment>
         <translation>Tonal intervals in succession</translation>
     </message>
@@ -1992,16 +2027,16 @@ in any order.</translation>
         <translation>Help</translation>
     </message>
     <message id="1283s">
-        <source>Wählen Sie links den Bereich und rechts die Übung. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
-        <translation>Choose the study on the left and the exercise on the right. “OK” leads to the settings, “Quit” ends the program.</translation>
+        <source>Wählen Sie links den Bereich und rechts die Übungsart. „OK“ führt zu den Einstellungen, „ENDE“ beendet das Programm.</source>
+        <translation>Choose the area on the left and the exercise type on the right. “OK” leads to the settings, “Quit” ends the program.</translation>
     </message>
     <message id="1284s">
-        <source>Gelbe Gruppen sind frei wählbar, rote sind durch die Übungsstufe festgelegt, blaue betreffen den Klang. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
-        <translation>Yellow groups are open to choice, red ones are fixed by the level, blue ones concern the sound. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Zeigen Sie mit der Maus auf etwas Graues, um zu erfahren, warum es nicht wählbar ist. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Yellow groups are open to choice, red ones are set by the exercise level, blue ones concern tempo and sound. Point at something grey to learn why it cannot be chosen. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
     </message>
     <message id="1285s">
-        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Zifferntasten. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
-        <translation>A row of tones is played. Name its intervals in turn with the buttons or the number keys. “Repeat” plays the row again, “Keynote check” the chord of the keynote. After the row you hear it once more to check, then go on. “Back” ends the exercise and shows the result.</translation>
+        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
+        <translation>A row of tones is played. Name its intervals in turn with the buttons or the keys printed on them. “Repeat” plays the row again, “Keynote check” the chord of the keynote. After the row you hear it once more to check, then go on. “Back” ends the exercise and shows the result.</translation>
     </message>
     <message id="1286s">
         <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>

@@ -10,6 +10,7 @@
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "config/selection_window.h"
+#include "config/settings_context.h"
 #include "host/error_report.h"
 #include "host/language.h"
 #include "host/server.h"
@@ -26,8 +27,6 @@
 #include "statistics/records.h"
 
 namespace tonarix {
-
-class SettingsWindow;
 
 /// What the module takes from outside: clock, chance, host, devices, and the ways to the user.
 struct Outside {
@@ -47,7 +46,7 @@ struct Outside {
   int screen_width = 1024;  ///< pixels
   /// Why the chosen device is silent, told once before the first exercise.
   std::function<std::optional<TextKey>()> sound_problem;
-  std::function<void(const std::string& document)> put_listing;
+  PutListing put_listing;
   std::function<void()> quit;
 };
 

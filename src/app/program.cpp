@@ -13,6 +13,7 @@
 #include <iostream>
 
 #include "base/module_texts.h"
+#include "base/system_failure.h"
 #include "base/windows/accessibility.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
@@ -39,6 +40,13 @@ std::string computer_user() {
 
 std::filesystem::path data_folder(const Options& options) {
   return options.data.empty() ? usual_data_folder() : options.data;
+}
+
+std::optional<TextKey> put_into_diagnostics(const std::string& document) {
+  std::clog.clear();  // a pipe that was full may take more again
+  std::clog << document << std::flush;
+  if (!std::clog) return {};
+  return text::diagnostic_stream;
 }
 
 LocalHostOptions host_options(const Options& options) {
@@ -114,7 +122,7 @@ Outside Program::outside(const Options& options) {
           .computer_user = computer_user(),
           .screen_width = QGuiApplication::primaryScreen()->size().width(),
           .sound_problem = [this] { return sound_problem(); },
-          .put_listing = [](const std::string& text) { std::clog << text << std::flush; },
+          .put_listing = put_into_diagnostics,
           .quit = [] { QCoreApplication::exit(0); }};
 }
 
@@ -137,7 +145,12 @@ std::optional<TextKey> Program::sound_problem() const {
 
 void Program::tell_problems() {
   for (const Problem& problem : host_.problems()) {
-    dialogs_.show(warning(language_.Wort(problem.text) + "\n" + problem.detail), [](Reply) {});
+    if (!problem.reason.empty()) {
+      std::clog << "vemo06: " << problem.detail << ": " << problem.reason << std::endl;
+    }
+    std::string told = language_.Wort(problem.text) + "\n" + problem.detail;
+    if (problem.error) told += "\n" + failure_words(language_, problem.error);
+    dialogs_.show(warning(told), [](Reply) {});
   }
 }
 

@@ -35,6 +35,7 @@ class Control {
   bool enabled = true;
   std::string text;              ///< caption, UTF-8
   std::string accessible_name;   ///< for a screen reader; empty: the caption serves
+  std::string why;               ///< why it is not open, for a tooltip and a screen reader
   std::string tag;               ///< group title of an option, mark of a frame
   Control* container = nullptr;  ///< the frame that holds it
   std::optional<Colour> back;
@@ -45,6 +46,10 @@ class Control {
   std::string name_;
   std::optional<int> index_;
 };
+
+/// Why the user can't act on it: the reason of a frame that is not open, or else its own; empty
+/// where it is open or none is given.
+std::string why_not_open(const Control& control);
 
 /// One of a group of options; at most one of an array is set.
 class OptionControl final : public Control {

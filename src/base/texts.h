@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "base/text_key.h"
 
@@ -13,11 +12,5 @@ class Texts {
   virtual ~Texts() = default;
   virtual std::string Wort(TextKey nr) const = 0;
 };
-
-/// The text with `value` in the place of its "%1".
-inline std::string filled_in(std::string text, std::string_view value) {
-  const auto place = text.find("%1");
-  return place == std::string::npos ? text : text.replace(place, 2, value);
-}
 
 }  // namespace tonarix

@@ -13,6 +13,11 @@ std::string Control::object_name() const {
   return index_ ? name_ + "_" + std::to_string(*index_) : name_;
 }
 
+std::string why_not_open(const Control& control) {
+  std::string reason = control.container ? why_not_open(*control.container) : std::string();
+  return !reason.empty() || control.open() ? reason : control.why;
+}
+
 std::string ListControl::selected_text() const {
   if (selected < 0 || selected >= static_cast<int>(items.size())) return {};
   return items[static_cast<std::size_t>(selected)].text;

@@ -67,6 +67,9 @@ void EarSettingsWindow::set_captions() {
   if (const FrameRow* degrees = frames().holding(Choice::ton_st_wahl)) {
     geinst_lb[degrees->frame].text = word(556_text) + " 2: " + word(508_text) + "(n)";
   }
+  ton_st_wahl[1].why = word(text::needs_one_interval);
+  for (OptionControl& mode : tongeschl) mode.why = word(text::needs_all_degrees);
+  for (OptionControl& number : invzahl) number.why = word(text::needs_all_degrees);
   klang_contr.text = word(text::sound_check);
   lb14[0].text = HSliderVolume.accessible_name = word(text::volume);
 }

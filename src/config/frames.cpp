@@ -35,9 +35,11 @@ void Frames::open() {
   }
 }
 
-void Frames::lock(Lock by) {
+void Frames::lock(Lock by, const std::string& why) {
   for (const FrameRow& row : rows_) {
-    if (row.lock >= by) set(row, false);
+    if (row.lock < by) continue;
+    controls_.grdeinst[row.frame].why = why;
+    set(row, false);
   }
 }
 

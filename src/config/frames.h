@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "base/colour.h"
 #include "config/settings_controls.h"
@@ -40,8 +41,8 @@ class Frames {
   void place(Choice choice, Control& control);
   /// Opens all that are ever locked.
   void open();
-  /// Locks those that this locks: `Lock::training` or `Lock::exam`.
-  void lock(Lock by);
+  /// Locks those that this locks, `Lock::training` or `Lock::exam`, and says why.
+  void lock(Lock by, const std::string& why);
 
  private:
   void set(const FrameRow& row, bool open);

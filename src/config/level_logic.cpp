@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/module_texts.h"
 #include "config/levels.h"
 
 namespace tonarix {
@@ -72,7 +73,7 @@ void LevelLogic::exam_chosen() {
   const auto exam = exam_choices(kind_, settings_.prfnr);
   for (const ExamChoice& preset : exam) set_choice(settings_, preset.choice, preset.value);
   for (const ExamChoice& preset : exam) choices_.set(preset.choice, preset.value);
-  frames_.lock(Lock::exam);
+  frames_.lock(Lock::exam, context_.common.texts.Wort(text::locked_by_exam));
 }
 
 void LevelLogic::give_back() {
@@ -107,7 +108,7 @@ void LevelLogic::restore() {
     const Choice choice = kSlots[slot].of(kind_);
     if (choice != Choice::none) choices_.set(choice, choice_value(restored, choice));
   }
-  frames_.lock(Lock::training);
+  frames_.lock(Lock::training, context_.common.texts.Wort(text::locked_by_training));
 }
 
 void LevelLogic::restore_failed(std::exception_ptr error) {

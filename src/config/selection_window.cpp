@@ -79,12 +79,14 @@ void SelectionWindow::set_captions() {
     OptionControl& option = ueb_typ[static_cast<int>(row.kind)];
     option.text = word(row.caption);
     option.tag = grdeinst_lb.text;
+    option.why = word(text::not_available_yet);
   }
   cmdOk.text = word(432_text);
   cmdEnde.text = word(223_text);
   cmdHilfe.text = word(text::selection_help);
   Theoriewahl[0].text = word(724_text);
   Theoriewahl[1].text = word(725_text);
+  for (OptionControl& study : Theoriewahl) study.why = word(text::not_available_yet);
 }
 
 void SelectionWindow::Theoriewahl_click(int index) {
@@ -116,18 +118,14 @@ void SelectionWindow::offer_exercises() {
     const ExerciseRow* row = find_exercise(study, static_cast<ExerciseKind>(kind));
     return row != nullptr && (!context_.available || context_.available(*row));
   };
-  const auto offer = [this](OptionControl& option, bool offered) {
-    option.enabled = offered;
-    option.accessible_name = offered ? "" : option.text + ", " + word(text::not_available_yet);
-  };
   for (OptionControl& option : ueb_typ) {
-    offer(option, available(settings().Theoriewahl, *option.index()));
+    option.enabled = available(settings().Theoriewahl, *option.index());
   }
   for (OptionControl& option : Theoriewahl) {
     const auto study = static_cast<Study>(*option.index());
-    offer(option, std::ranges::any_of(kExercises, [&](const ExerciseRow& row) {
-            return row.study == study && available(study, static_cast<int>(row.kind));
-          }));
+    option.enabled = std::ranges::any_of(kExercises, [&](const ExerciseRow& row) {
+      return row.study == study && available(study, static_cast<int>(row.kind));
+    });
   }
 
   // An exercise that is not there yet never stays chosen while another is.

@@ -18,6 +18,10 @@ namespace tonarix {
 
 class SettingsWindow;
 
+/// Puts a supervisor's listing into the diagnostic stream. Where that is, in words of the
+/// catalogue; nothing when it could not be written.
+using PutListing = std::function<std::optional<TextKey>(const std::string& document)>;
+
 /// Whom and what a settings window works with; all of it outlives the window.
 struct SettingsContext {
   WindowContext common;
@@ -36,8 +40,8 @@ struct SettingsContext {
   /// Opens the exercise window for `ueb_typ`; an exception leads back to the selection.
   std::function<void(SettingsWindow& caller)> open_exercise;
   std::function<void()> show_selection;
-  std::function<void(const std::string& keys)> send_keys;        ///< "{F1}"
-  std::function<void(const std::string& document)> put_listing;  ///< the diagnostic stream
+  std::function<void(const std::string& keys)> send_keys;  ///< "{F1}"
+  PutListing put_listing;
 };
 
 }  // namespace tonarix

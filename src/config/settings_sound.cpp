@@ -46,11 +46,7 @@ void SettingsSound::tell_failure(std::string_view tag, std::exception_ptr error,
   const Texts& texts = context_.common.texts;
   context_.errors.log(tag, error);
   std::string text = texts.Wort(text::device_unusable);
-  try {
-    std::rethrow_exception(error);
-  } catch (const std::exception& failure) {
-    text += std::string("\n") + failure.what();
-  }
+  if (!how_it_goes_on && !has_sound()) how_it_goes_on = text::goes_on_without_sound;
   if (how_it_goes_on) text += "\n" + texts.Wort(*how_it_goes_on);
   tell_(text);
 }
@@ -65,8 +61,7 @@ Sequence SettingsSound::check() {
   Midi& midi = context_.midi;
   const Settings& settings = context_.settings;
   if (!has_sound()) {
-    throw RuntimeError(RuntimeError::kDeviceError,
-                       context_.common.texts.Wort(text::goes_on_without_sound), "klang_contr");
+    throw RuntimeError(RuntimeError::kDeviceError, "There is no open device", "klang_contr");
   }
   midi.MidiReset();
   co_await waits_.Delay(50);

@@ -28,7 +28,7 @@ class SettingsSound {
   void set_volume(int volume);
   /// Sounds what the settings in force sound like. RuntimeError 57 without a device.
   Sequence check();
-  /// How a failing device is told, and how it goes on.
+  /// How a failing device is told, and how it goes on. What the device said stands in the log.
   void tell_failure(std::string_view tag, std::exception_ptr error,
                     std::optional<TextKey> how_it_goes_on = std::nullopt);
 

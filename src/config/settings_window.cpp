@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/filled_text.h"
 #include "base/module_texts.h"
 #include "config/einst_dat_save.h"
 #include "config/test_listing.h"
@@ -36,15 +37,8 @@ SettingsWindow::SettingsWindow(const SettingsContext& context, const SettingsLay
     button->container = &aktionsbox;
   }
   on(cmdHilfe, "cmdHilfe_click.", [this] { context_.send_keys("{F1}"); });
-  on(cmdOptionRead, "cmdOptionRead_click.", [this] {
-    TestListing::read(*this, TestListing::fixed_values(),
-                      {[this](OptionControl& option) { click(option); },
-                       [this](ListControl& list, int entry) { choose(list, entry); }});
-  });
-  on(cmdOptionSave, "cmdOptionSave_click.", [this] {
-    context_.put_listing(TestListing::write(
-        *this, {context_.server.application().executable, exercise_caption(), caption}));
-  });
+  on(cmdOptionRead, "cmdOptionRead_click.", [this] { read_test(); });
+  on(cmdOptionSave, "cmdOptionSave_click.", [this] { list_test(); });
   on(cmdZurueck, "cmdZurueck_click.", [this] { go_back(); });
   on(cmdOk, "cmdOK_click.", [this] { accept(); });
   on(popExamToggle, "popExamToggle_click.", [this] { marks_.toggle(); });
@@ -87,6 +81,7 @@ void SettingsWindow::close_requested() {
 void SettingsWindow::click(Control& control) {
   const auto event = events_.find(&control);
   if (takes_input(control) && event != events_.end()) {
+    status.text.clear();
     handle(event->second.tag, event->second.handler);
   }
 }
@@ -105,6 +100,7 @@ void SettingsWindow::slide(SliderControl& slider, int value) {
 
 void SettingsWindow::frame_menu(int frame) {
   if (!takes_input()) return;
+  status.text.clear();
   marks_.open_menu(frame);
   changed();
 }
@@ -155,10 +151,35 @@ void SettingsWindow::set_captions() {
   cmdZurueck.text = word(640_text);
   cmdOk.text = word(432_text);
   popExamToggle.text = word(438_text);
+  for (const int narrow : {0, 1}) E_Oktav[narrow].why = word(text::needs_small_intervals);
+  for (const int wide : {1, 2}) ivg[wide].why = word(text::needs_four_octaves);
   choices_.set_captions(common().texts);
   for (const FrameRow& row : frames_.rows()) {
     if (row.frame != kNoFrame) geinst_lb[row.frame].text = word(row.title);
   }
+}
+
+void SettingsWindow::list_test() {
+  const std::optional<TextKey> place = context_.put_listing(TestListing::write(
+      *this, {context_.server.application().executable, exercise_caption(), caption}));
+  const int groups = TestListing::listed_groups(*this);
+  const TextKey told = !place        ? text::listing_not_written
+                       : groups == 0 ? text::no_group_listed
+                       : groups == 1 ? text::one_group_listed
+                                     : text::groups_listed;
+  status.text = filled(word(told), {std::to_string(groups), place ? word(*place) : ""});
+}
+
+void SettingsWindow::read_test() {
+  const std::set<Control*> locked =
+      TestListing::read(*this, TestListing::fixed_values(),
+                        {[this](OptionControl& option) { click(option); },
+                         [this](ListControl& list, int entry) { choose(list, entry); }});
+  for (Control* frame : locked) frame->why = word(text::locked_by_read_test);
+  const TextKey told = locked.empty()       ? text::no_value_read
+                       : locked.size() == 1 ? text::one_group_read
+                                            : text::groups_read;
+  status.text = filled(word(told), {std::to_string(locked.size())});
 }
 
 void SettingsWindow::fill_ranges() {

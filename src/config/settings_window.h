@@ -81,6 +81,8 @@ class SettingsWindow : public Window, public SettingsControls {
     std::function<void()> handler;
   };
   void start_up();
+  void list_test();
+  void read_test();
   void fill_ranges();
   void accept();
   void go_back();

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <pugixml.hpp>
 #include <sstream>
-#include <vector>
 
 #include "base/colour.h"
 
@@ -30,6 +29,14 @@ pugi::xml_node add(pugi::xml_node parent, const char* name, const std::string& t
 const ListControl::Item* chosen_entry(const ListControl& list) {
   if (list.selected < 0 || list.selected >= static_cast<int>(list.items.size())) return nullptr;
   return &list.items[static_cast<std::size_t>(list.selected)];
+}
+
+/// True for an option or a list that belongs to a marked group.
+bool listed(const Control& control) {
+  if (control.tag.empty() || !control.container || control.container->tag != kExamMark) {
+    return false;
+  }
+  return dynamic_cast<const OptionControl*>(&control) || dynamic_cast<const ListControl*>(&control);
 }
 
 /// The option of the array that is set.
@@ -100,9 +107,7 @@ std::string TestListing::write(const Window& window, const Head& head) {
   add(basic, "description", head.description);
   pugi::xml_node setting = add(test, "setting");
   for (const Control* control : window.controls()) {
-    if (control->tag.empty() || !control->container || control->container->tag != kExamMark) {
-      continue;
-    }
+    if (!listed(*control)) continue;
     if (const auto* option = dynamic_cast<const OptionControl*>(control)) {
       add_option(setting, window, *option);
     } else if (const auto* list = dynamic_cast<const ListControl*>(control)) {
@@ -113,12 +118,21 @@ std::string TestListing::write(const Window& window, const Head& head) {
   return as_ascii(document);
 }
 
-void TestListing::read(const Window& window, const ValueSet& values, const Target& target) {
-  std::vector<Control*> frames;
+int TestListing::listed_groups(const Window& window) {
+  std::set<const Control*> groups;
+  for (const Control* control : window.controls()) {
+    if (listed(*control)) groups.insert(control->container);
+  }
+  return static_cast<int>(groups.size());
+}
+
+std::set<Control*> TestListing::read(const Window& window, const ValueSet& values,
+                                     const Target& target) {
+  std::set<Control*> frames;
   for (Control* control : window.controls()) {
     const auto found = control->tag.empty() ? values.end() : values.find(control->tag);
     if (found == values.end()) continue;
-    if (control->container) frames.push_back(control->container);
+    if (control->container) frames.insert(control->container);
     if (auto* option = dynamic_cast<OptionControl*>(control)) {
       if (option->index() == found->second) target.set_option(*option);
     } else if (auto* list = dynamic_cast<ListControl*>(control)) {
@@ -134,6 +148,7 @@ void TestListing::read(const Window& window, const ValueSet& values, const Targe
     frame->enabled = false;
     frame->back = kReadLock;
   }
+  return frames;
 }
 
 }  // namespace tonarix

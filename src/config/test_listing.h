@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 
 #include "base/window.h"
@@ -27,14 +28,17 @@ class TestListing {
   /// The document of all options and lists with a tag inside marked frames. Plain ASCII, other
   /// characters as references, so that it is well-formed on any stream.
   static std::string write(const Window& window, const Head& head);
+  /// The marked frames that the document tells of.
+  static int listed_groups(const Window& window);
 
   /// How the window takes a choice that was read, its rules included.
   struct Target {
     std::function<void(OptionControl&)> set_option;
     std::function<void(ListControl&, int entry)> set_list;
   };
-  /// Sets every control whose tag is in the value set and locks its frame.
-  static void read(const Window& window, const ValueSet& values, const Target& target);
+  /// Sets every control whose tag is in the value set and locks its frame. The frames, each once.
+  static std::set<Control*> read(const Window& window, const ValueSet& values,
+                                 const Target& target);
 };
 
 }  // namespace tonarix

@@ -2,6 +2,7 @@
 
 #include "base/completion.h"
 #include "base/module_texts.h"
+#include "base/system_failure.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -47,10 +48,13 @@ Sequence WayOut::write_protocol() {
   FinishResult result =
       context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
                                          window_.caption, context_.settings.EinstDatSave);
+  const auto why = [this](std::error_code error) {
+    return failure_words(context_.common.texts, error);
+  };
   while (result.failed) {
     const Message told{
         "Tonarix 2000",
-        Wort(text::protocol_not_written) + "\n" + result.wanted.string() + ": " + result.reason,
+        Wort(text::protocol_not_written) + "\n" + result.wanted.string() + ": " + why(result.error),
         MessageStyle::yes_no, Wort(text::try_again), Wort(text::go_on_without_protocol)};
     const Reply reply = co_await ask(waits_, context_.common.dialogs, told);
     if (reply != Reply::yes) break;
@@ -58,7 +62,7 @@ Sequence WayOut::write_protocol() {
   }
   if (result.fell_back) {
     const Message told = warning(Wort(text::protocol_not_written_to) + " " +
-                                 result.wanted.string() + ": " + result.reason + "\n" +
+                                 result.wanted.string() + ": " + why(result.error) + "\n" +
                                  Wort(text::protocol_saved_instead) + "\n" + result.path.string());
     co_await ask(waits_, context_.common.dialogs, told);
   }

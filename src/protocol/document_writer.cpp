@@ -1,6 +1,9 @@
 #include "protocol/document_writer.h"
 
 #include <QSaveFile>
+#include <cerrno>
+
+#include "base/system_failure.h"
 
 namespace tonarix {
 namespace {
@@ -21,14 +24,16 @@ bool write_all(QSaveFile& file, std::string_view content) {
 WriteResult FileDocumentWriter::write(const std::filesystem::path& path, std::string_view content) {
   std::error_code error;
   std::filesystem::create_directories(path.parent_path(), error);
-  if (error) return {false, error.message()};
+  if (error) return {false, error, error.message()};
+  errno = 0;
   QSaveFile file(QString::fromStdString(path.string()));
   bool written = false;
   if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     written = write_all(file, content) && file.commit();
   }
-  return {written, written ? "" : file.errorString().toStdString()};
+  if (written) return {true, {}, ""};
+  return {false, last_system_error(), file.errorString().toStdString()};
 }
 
 }  // namespace tonarix

@@ -3,12 +3,14 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace tonarix {
 
 struct WriteResult {
   bool written = false;
-  std::string reason;  ///< the system's words when it was not written
+  std::error_code error;  ///< why it was not written
+  std::string reason;     ///< the same in the system's words, for the log
 };
 
 /// Puts a finished document into a file.

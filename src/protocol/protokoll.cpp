@@ -166,16 +166,24 @@ FinishResult Protokoll::finish_again() {
   FinishResult result;
   result.wanted = folders_.protocols / file_;
   result.path = result.wanted;
-  document_.SetFileName(result.wanted);
-  const WriteResult first = document_.Finish();
+  const WriteResult first = write_to(result.wanted);
   if (first.written) return result;
 
-  result.reason = first.reason;
+  result.error = first.error;
   result.path = folders_.data / file_;
-  document_.SetFileName(result.path);
-  const WriteResult second = document_.Finish();
-  result.fell_back = second.written;
-  result.failed = !second.written;
+  result.fell_back = write_to(result.path).written;
+  result.failed = !result.fell_back;
+  return result;
+}
+
+WriteResult Protokoll::write_to(const std::filesystem::path& path) {
+  document_.SetFileName(path);
+  WriteResult result = document_.Finish();
+  if (!result.written) {
+    logger_("ProtokollSchluss.", std::make_exception_ptr(RuntimeError(
+                                     RuntimeError::kPathError, path.string() + ": " + result.reason,
+                                     "ProtokollSchluss")));
+  }
   return result;
 }
 

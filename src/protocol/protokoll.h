@@ -36,7 +36,7 @@ struct LessonFacts {
 struct FinishResult {
   std::filesystem::path path;    ///< where it lies; when it failed, where it was last tried
   std::filesystem::path wanted;  ///< where it should lie
-  std::string reason;            ///< why it could not be written there; empty when it could
+  std::error_code error;         ///< why it could not be written there, if it couldn't
   bool fell_back = false;        ///< it lies in the data folder instead
   bool failed = false;           ///< it lies nowhere yet; finish_again() tries once more
 };
@@ -81,12 +81,14 @@ class Protokoll {
   FinishResult ProtokollSchluss(const std::string& exercise_caption,
                                 const std::string& exercise_name,
                                 const std::vector<std::string>& pairs);
-  /// Writes the finished document once more, for a user who has made room meanwhile.
+  /// Writes the finished document once more, for a user who has made room meanwhile. A place that
+  /// does not take it is logged under "ProtokollSchluss." with the system's words.
   FinishResult finish_again();
 
  private:
   void record_lesson(const LessonFacts& facts);
   void drop_unanswered();
+  WriteResult write_to(const std::filesystem::path& path);
   Element section(const std::string& name) const;
   Element current_answer() const;
 

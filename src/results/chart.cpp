@@ -26,7 +26,8 @@ std::string in_words(const ResultTable& table, const std::array<std::string, 2>&
     text += row->label;
     if (table.by_interval) text += " " + directions[static_cast<std::size_t>(row->column)];
     text += texts.Wort(700_text);
-    text += row->field.fraction ? row->field.text : texts.Wort(text::chart_not_asked);
+    text += row->field.fraction ? spoken_percentage(row->field.text, texts)
+                                : texts.Wort(text::chart_not_asked);
   }
   return text.empty() ? texts.Wort(text::chart_no_percentages) : text;
 }

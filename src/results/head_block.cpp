@@ -15,32 +15,23 @@ using namespace std::string_literals;
 
 constexpr std::array<TextKey, 2> kStudies{724_text, 725_text};
 
-/// The labels of the settings as the protocol has them, and the words a student reads instead.
+/// The labels of the settings as the protocol has them, and the words a student reads instead:
+/// those of the settings windows.
 struct SettingLabel {
   std::string_view label;
   TextKey word;
 };
 constexpr std::array<SettingLabel, 20> kSettingLabels{
-    {{"Übungsmodus", text::sheet_level},
-     {"Nr.", text::sheet_exam_number},
-     {"Klangfarbe", text::sheet_instrument},
-     {"Klangfarben", text::sheet_instruments},
-     {"Tempo", text::sheet_tempo},
-     {"Frequenz", text::sheet_pitch},
-     {"Abfolge", text::sheet_order},
-     {"Iv-Anzahl", text::sheet_count},
-     {"Iv-Größe", text::sheet_size},
-     {"Tonraum", text::sheet_range},
-     {"Oktavbereich", text::sheet_octave_range},
-     {"Stimmung", text::sheet_tuning},
-     {"Grdton zus.", text::sheet_keynote},
-     {"Tongeschlecht", text::sheet_mode},
-     {"Tonart", text::sheet_key},
-     {"Aufgabe", text::sheet_task},
-     {"Genauigkeit", text::sheet_accuracy},
-     {"Iv-Bestimmung", text::sheet_naming},
-     {"Stufen", text::sheet_degrees},
-     {"Stufe Ton 2", text::sheet_degree_of_tone_2}}};
+    {{"Übungsmodus", text::level_title},    {"Nr.", text::sheet_exam_number},
+     {"Klangfarbe", text::instrument},      {"Klangfarben", text::sheet_instruments},
+     {"Tempo", text::tempo_title},          {"Frequenz", text::frequency_title},
+     {"Abfolge", text::order_title},        {"Iv-Anzahl", text::count_title},
+     {"Iv-Größe", text::size_title},        {"Tonraum", text::range_title},
+     {"Oktavbereich", text::octave_range},  {"Stimmung", 635_text},
+     {"Grdton zus.", text::sheet_keynote},  {"Tongeschlecht", text::mode_title},
+     {"Tonart", text::key_title},           {"Aufgabe", text::sheet_task},
+     {"Genauigkeit", text::sheet_accuracy}, {"Iv-Bestimmung", text::naming_title},
+     {"Stufen", text::sheet_degrees},       {"Stufe Ton 2", text::degree_of_tone_2}}};
 
 std::string shown_label(const std::string& label, const Texts& texts) {
   const auto* found = std::find_if(kSettingLabels.begin(), kSettingLabels.end(),

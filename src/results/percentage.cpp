@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "base/arithmetic.h"
+#include "base/module_texts.h"
 
 namespace tonarix {
 
@@ -69,6 +70,12 @@ std::string percent_number(double fraction) {
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), tenths / 10.0,
                                  std::chars_format::fixed, 1);
   return {digits.data(), end.ptr};
+}
+
+std::string spoken_percentage(std::string shown, const Texts& texts) {
+  const std::size_t point = shown.find('.');
+  if (point != std::string::npos) shown.replace(point, 1, texts.Wort(text::decimal_sign));
+  return shown;
 }
 
 Colour scale_colour(double fraction) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/colour.h"
+#include "base/texts.h"
 #include "settings/settings.h"
 
 namespace tonarix {
@@ -29,6 +30,9 @@ std::optional<double> degree_fraction(const RowStatistics& rising, const RowStat
 /// "72.5": the fraction in per cent with one decimal and a decimal point, halves away from zero,
 /// never "-0.0".
 std::string percent_number(double fraction);
+
+/// A percentage of the sheet, "72.5%", with the decimal sign of the language, to be spoken.
+std::string spoken_percentage(std::string shown, const Texts& texts);
 
 /// Background of a field, by its exact fraction in five steps of 20 %.
 Colour scale_colour(double fraction);

@@ -70,6 +70,11 @@ void ResultWindow::cmdPrint_click() {
 
 void ResultWindow::printed(const PrintResult& result) {
   PicSchalt.enabled = cmdPrint.enabled = true;
+  if (!result.log_line.empty()) {
+    context_.errors.log("cmdPrint_click.",
+                        std::make_exception_ptr(
+                            RuntimeError(RuntimeError::kPathError, result.log_line, "cmdPrint")));
+  }
   if (result.end == PrintResult::End::failed) {
     const Message told{caption, word(text::sheet_not_printed) + "\n" + result.reason,
                        MessageStyle::warning, "", ""};

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "results/percentage.h"
+
 namespace tonarix {
 
 namespace {
@@ -12,7 +14,7 @@ constexpr double kTableWidth = 448;
 constexpr double kPadding = 12;
 constexpr double kTitleHeight = 36;
 constexpr double kLineStep = 20;
-constexpr double kValueLeft = 124;  // begin of the value column beside its labels
+constexpr double kValueLeft = 146;  // begin of the value column beside its labels
 constexpr double kFrameEnd = 7;     // from the last line to the end of its frame
 constexpr double kCorner = 6;
 constexpr double kFieldCorner = 3;
@@ -168,19 +170,19 @@ SheetPicture sheet_picture(const SheetContent& content, SheetGround ground, Shee
   return Composer(content, ground, shape).compose();
 }
 
-std::string spoken_sheet(const SheetContent& content) {
+std::string spoken_sheet(const SheetContent& content, const Texts& texts) {
   std::string spoken;
   speak(spoken, content.head_title, content.head);
   speak(spoken, content.settings_title, content.settings);
   const ResultTable& table = content.table;
   spoken += content.results_title + "\n" + content.work.line(", ") + "\n" + content.total_label +
-            " " + table.total.text + "\n";
+            " " + spoken_percentage(table.total.text, texts) + "\n";
   for (const ResultRow& row : table.rows) {
     spoken += row.label;
     if (table.by_interval) {
       spoken += " " + content.directions[static_cast<std::size_t>(row.column)];
     }
-    spoken += ": " + row.field.text + "\n";
+    spoken += ": " + spoken_percentage(row.field.text, texts) + "\n";
   }
   return spoken;
 }

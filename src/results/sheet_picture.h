@@ -76,6 +76,6 @@ SheetPicture sheet_picture(const SheetContent& content, SheetGround ground,
                            SheetShape shape = SheetShape::wide);
 
 /// The whole sheet in words, a line each in reading order, for a screen reader.
-std::string spoken_sheet(const SheetContent& content);
+std::string spoken_sheet(const SheetContent& content, const Texts& texts);
 
 }  // namespace tonarix

@@ -10,7 +10,8 @@ namespace tonarix {
 struct PrintResult {
   enum class End { printed, cancelled, failed };
   End end = End::printed;
-  std::string reason;  ///< a plain sentence when it failed
+  std::string reason = {};    ///< a plain sentence when it failed
+  std::string log_line = {};  ///< and what the system said to it
 };
 
 /// Puts the sheet on a landscape page, asking the user where to. The answer comes to `done` once,

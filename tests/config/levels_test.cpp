@@ -49,6 +49,7 @@ TEST(Levels, GoesOnWithTheSavedSettingsAndLocksThem) {
   EXPECT_TRUE(!window.temp_Combo.enabled && window.temp_Combo.fore == signal::locked);
   window.click(window.Tonart[0]);
   EXPECT_EQ(bed.settings.Tonart, 1) << "locked";
+  EXPECT_EQ(why_not_open(window.Tonart[0]), "[1035]");
 
   bed.choose_level(3);
   EXPECT_TRUE(locked_frames(window).empty());
@@ -102,6 +103,7 @@ TEST(Levels, ATrainingKeepsItsSettingsATestItsOrderAndAnExamLocksWhatItGoverns) 
   EXPECT_EQ(bed.settings.abfrage, 1);
   EXPECT_THAT(bed.settings.EinstDatSave, testing::Contains("[1066]")) << "the order in force";
   bed.choose_level(4);
+  EXPECT_EQ(why_not_open(bed.window->invzahl[1]) + why_not_open(bed.window->Tonart[1]), "[1034]");
   window.choose(window.prfnr_Comb, 4);
   EXPECT_THAT(locked_frames(window), ElementsAre(4, 5, 6, 7, 8, 12));
   accept();

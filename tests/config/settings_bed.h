@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/module_texts.h"
 #include "config/einstellung1.h"
 #include "support/host_bed.h"
 #include "support/recording_midi.h"
@@ -56,7 +57,11 @@ struct SettingsBed : HostBed {
                 },
             .show_selection = [this] { steps.push_back("selection"); },
             .send_keys = [this](const std::string& keys) { steps.push_back(keys); },
-            .put_listing = [this](const std::string& document) { listing = document; }};
+            .put_listing = [this](const std::string& document) -> std::optional<TextKey> {
+              listing = document;
+              if (listing_fails) return {};
+              return text::diagnostic_stream;
+            }};
   }
 
   std::map<std::string, Variant>& records = host.records;
@@ -71,6 +76,7 @@ struct SettingsBed : HostBed {
   IntervalNames interval_names{texts};
   std::vector<std::string> steps;
   std::string listing;
+  bool listing_fails = false;
   bool exercise_fails = false;
   Einstellung1* window = nullptr;
 };

@@ -81,13 +81,39 @@ TEST(TestListing, ListsMarkedGroupsWellFormed) {
                        {"tongeschl", 3}, {"ivg", 3}, {"E_Oktav", 4}, {"named", 4}}));
 }
 
+TEST(TestListing, SaysInOneLineWhatWasDoneUntilTheNextAction) {
+  SettingsBed bed;
+  bed.settings.supervisor = true;
+  bed.texts.given = {{1040, "%1 groups: %2"}, {1041, "1: %2"}, {1042, "none: %2"}};
+  Einstellung1& window = bed.open();
+  const auto told = [&](Control& button) {
+    window.click(button);
+    return window.status.text;
+  };
+  EXPECT_EQ(told(window.cmdOptionSave), "none: [1044]");
+  mark(window, 5);
+  mark(window, 10);
+  EXPECT_EQ(window.status.text, "");
+  EXPECT_EQ(told(window.cmdOptionSave), "1: [1044]") << "the level is no part of a test";
+  mark(window, 1);
+  EXPECT_EQ(told(window.cmdOptionSave), "2 groups: [1044]");
+  bed.listing_fails = true;
+  EXPECT_EQ(told(window.cmdOptionSave), "[1043]");
+  EXPECT_EQ(told(window.cmdOptionRead), "[1045]") << "the fixed values meet no group";
+  window.click(window.tongeschl[1]);
+  EXPECT_EQ(window.status.text, "");
+}
+
 TEST(TestListing, ReadsValuesThatMeetAGroup) {
   SettingsBed bed;
   Einstellung1& window = bed.open();
   const TestListing::Target target{
       [&](OptionControl& option) { window.click(option); },
       [&](ListControl& list, int entry) { window.choose(list, entry); }};
-  TestListing::read(window, {{"Tonart", 1}, {"Tempo", 4}, {"Tonraum", 9}, {"Ambitus", 2}}, target);
+  const auto frames = TestListing::read(
+      window, {{"Tonart", 1}, {"Tempo", 4}, {"Tonraum", 9}, {"Ambitus", 2}}, target);
+  EXPECT_EQ(frames,
+            (std::set<Control*>{&window.grdeinst[0], &window.grdeinst[12], &window.grdeinst[1]}));
   EXPECT_EQ(bed.settings.Tonart, 1) << "chosen before its frame is locked";
   EXPECT_EQ(bed.settings.tempo, 4);
   EXPECT_EQ(window.grdeinst[0].back, RGB(255, 128, 128));

@@ -159,7 +159,6 @@ class FlowBed {
   RecordingDevices devices{scheduler};
   FakeDocumentWriter documents;
   RecordingPrinter printer;
-  std::string listing;
   std::string work;  ///< as the last sheet told it
   bool ended = false;
   pugi::xml_document document;
@@ -178,7 +177,7 @@ class FlowBed {
                  "ada (desk)",
                  1280,
                  {},
-                 [this](const std::string& text) { listing += text; },
+                 {},
                  [this] { ended = true; }}};
 };
 

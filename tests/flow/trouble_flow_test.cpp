@@ -57,7 +57,11 @@ TEST_F(TroubleFlowTest, AFullDiskOffersToTryAgainAndLosesNothing) {
   bed.dialogs.answer(Reply::yes);
   bed.scheduler.advance_ms(50);
   EXPECT_EQ(bed.documents.written.at(0).path, "/data/EXR261121090532.xml");
-  EXPECT_THAT(bed.dialogs.shown.back().text, testing::HasSubstr("/data/EXR261121090532.xml"));
+  EXPECT_EQ(bed.dialogs.shown.back().text,
+            "[1112s] /protocols/EXR261121090532.xml: [1014s]\n[1135s]\n/data/EXR261121090532.xml");
+  EXPECT_EQ(host.calls_of("LOGERR").at(0).input.at(2).text(),
+            "/protocols/EXR261121090532.xml: No space left on device")
+      << "the system's own words are for the log";
   bed.settings();
 }
 

@@ -185,7 +185,7 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
             "tonale Intervalle sukzessiv schreiben|Freies Üben|Training mit Speichern|"
             "Training fortsetzen|Test|Prüfung|sehr niedrig|niedrig|mittel|hoch|sehr hoch|"
             "Tonart|Tonraum|Klang|Intervall-Größe|Intervall-Anzahl|Tongeschlecht|"
-            "Intervall-Bestimmung|Abfolge|Ton 2: Stufe(n)|Grundton zusätzlich|Übungsmodus|"
+            "Intervall-Bestimmung|Abfolge|Ton 2: auf Stufe(n)|Grundton zusätzlich|Übungsmodus|"
             "Frequenz|Tempo|Stimmung|manuell|automatisch|Dur|moll|Dur-moll|2 Oktaven|3 Oktaven|"
             "4 Oktaven|5 Oktaven|max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|"
             "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"

@@ -76,7 +76,7 @@ TEST_F(ProtokollTest, NothingIsLostWhileNoFolderTakesIt) {
   EXPECT_TRUE(fallen_back.fell_back && !fallen_back.failed);
   EXPECT_EQ(fallen_back.wanted, "/usual/EXR261121090532.xml");
   EXPECT_EQ(fallen_back.path, "/data/EXR261121090532.xml");
-  EXPECT_EQ(fallen_back.reason, "No space left on device");
+  EXPECT_EQ(fallen_back.error, std::errc::no_space_on_device);
   writer.broken_folders.clear();
   const FinishResult result = protokoll.finish_again();
   EXPECT_FALSE(result.failed || result.fell_back);
@@ -147,11 +147,11 @@ TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
   std::signal(SIGXFSZ, old_handler);
 
   EXPECT_FALSE(result.written);
-  EXPECT_EQ(result.reason, "File too large");
+  EXPECT_EQ(result.error, std::errc::file_too_large) << result.reason;
   EXPECT_EQ(folder.content("deep/EXR.xml"), "second");
   const WriteResult below_a_file = writer.write(path / "EXR.xml", "text");
   EXPECT_FALSE(below_a_file.written);
-  EXPECT_THAT(below_a_file.reason, testing::HasSubstr("irectory"));
+  EXPECT_EQ(below_a_file.error, std::errc::not_a_directory) << below_a_file.reason;
   std::filesystem::create_directory(folder.path / "deep/taken.xml");
   EXPECT_FALSE(writer.write(folder.path / "deep/taken.xml", "text").written);
   const std::filesystem::directory_iterator files(path.parent_path());

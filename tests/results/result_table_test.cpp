@@ -80,7 +80,7 @@ TEST_F(ResultTableTest, WithoutALevelOrAnAnswerTheTotalIsNought) {
 }
 
 TEST_F(ResultTableTest, TheChartHasTheSheetsOrderAndSpeaksWeakestFirst) {
-  texts.given = {{700, ": "}, {1209, "not asked"}, {1210, "no percentages"}};
+  texts.given = {{700, ": "}, {1209, "not asked"}, {1210, "no percentages"}, {1048, ","}};
   answered(2, 1, -16);
   answered(3, 1, -24);
   answered(4, 1, 0.5);
@@ -93,7 +93,7 @@ TEST_F(ResultTableTest, TheChartHasTheSheetsOrderAndSpeaksWeakestFirst) {
   for (int bar = 0; bar < 5; ++bar) EXPECT_DOUBLE_EQ(chart.bars[bar].length, lengths[bar]);
   EXPECT_EQ(chart.bars[3].colour, scale::from_80);
   EXPECT_EQ(chart.text,
-            "[281] up: -3.1%\n[281] down: 50.0%\n[452] up: 100.0%\n[451] up: 150.0%\n"
+            "[281] up: -3,1%\n[281] down: 50,0%\n[452] up: 100,0%\n[451] up: 150,0%\n"
             "[576] up: not asked");
   EXPECT_EQ(result_chart({}, {}, texts).text, "no percentages");
 }

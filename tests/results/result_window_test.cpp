@@ -15,7 +15,8 @@ using testing::Not;
 struct ResultWindowTest : testing::Test, ResultBed {};
 
 TEST_F(ResultWindowTest, FillsItselfOnceWithWhatASheetSays) {
-  texts.given = {{700, ": "}, {83, "Downward"}, {132, "Upward"}, {1217, "Instruments"}};
+  texts.given = {
+      {700, ": "}, {83, "Downward"}, {132, "Upward"}, {1217, "Instruments"}, {1048, ","}};
   host.answers["LOGIN"] = Variant::Array{"Lovelace", "<b>Ada</b>\r\n&amp; עדה"};
   settings.EinstDatSave = {
       "18",   "Übungsmodus", "Training", "Nr.:",  "3",    "Klangfarben: ", "2",
@@ -28,7 +29,7 @@ TEST_F(ResultWindowTest, FillsItselfOnceWithWhatASheetSays) {
   EXPECT_EQ(window.caption, "[1200]: Training");
   statistics.Clear();
   scheduler.advance_ms(10'000);
-  EXPECT_EQ(spoken_sheet(window.content()), R"([724]: [291]
+  EXPECT_EQ(spoken_sheet(window.content(), texts), R"([724]: [291]
  [189]:  21.11.2026 09:05
  [586]:  [154]
  [109]:  praxis-3
@@ -36,22 +37,22 @@ TEST_F(ResultWindowTest, FillsItselfOnceWithWhatASheetSays) {
  [1236] <b>Ada</b>  &amp; עדה
  [1237] 
 [1201]
-[1214]: Training
+[1050]: Training
 [1215]: 3
 Instruments: Töne: Piano; Ton 2: Oboe
 Mine: 40 (Largo)
 [1226]: [1234] ja
-[1218]: 60
+[1060]: 60
 [1202]
 3 [1239] [1246], 10 [1247], 2 [1248]
-[275] 50.0%
+[275] 50,0%
 [358] Upward: 
-[281] Upward: 100.0%
-[281] Downward: 0.0%
+[281] Upward: 100,0%
+[281] Downward: 0,0%
 )");
   settings.abfr_iv = Naming::from_keynote;
   host.answers.clear();
-  const std::string other = spoken_sheet(open_filled().content());
+  const std::string other = spoken_sheet(open_filled().content(), texts);
   EXPECT_THAT(other, Not(HasSubstr("Upward"))) << "degrees have no direction";
   EXPECT_THAT(other, Not(HasSubstr("[1235]"))) << "nobody has no name";
   for (const auto& cut_off : {std::vector<std::string>{}, {"0"}, {"2", "Klangfarben: ", "9"}}) {
@@ -120,7 +121,7 @@ TEST_F(ResultWindowTest, ThePageIsTheSheetAndTheWindowOpenAgainHoweverItEnds) {
   for (const End end : {End::printed, End::cancelled, End::failed}) {
     window.cmdPrint_click();
     window.cmdPrint_click();
-    printer.finish({end, "no paper"});
+    printer.finish({end, "no paper", end == End::failed ? "Out of paper" : ""});
     EXPECT_TRUE(window.cmdPrint.open() && window.cmdOk.open());
   }
   ASSERT_EQ(printer.pages.size(), 3U) << "one job at a time";
@@ -132,6 +133,7 @@ TEST_F(ResultWindowTest, ThePageIsTheSheetAndTheWindowOpenAgainHoweverItEnds) {
   printer.finish({End::failed, "after the sheet is gone"});
   ASSERT_EQ(dialogs.shown.size(), 1U) << "only a failure is told";
   EXPECT_EQ(dialogs.shown[0].text, "[1204]\nno paper");
+  EXPECT_THAT(host.error_places(), ElementsAre("vemo06.cmdPrint_click."));
 }
 
 bool overlap(const SheetBox& a, const SheetBox& b) {
@@ -152,6 +154,7 @@ TEST_F(ResultWindowTest, TheLongestSheetHasAllItsTextsApartAndOnThePageAndPaperS
     ASSERT_EQ(picture.texts.size(), 1U + 12 + 1 + 34 + 1 + 2 + (lead ? 7 : 1 + 2 + 76));
     for (const SheetText& text : picture.texts) {
       EXPECT_GE(text.box.left, 0);
+      EXPECT_GE(text.box.width, 60);
       EXPECT_LE(text.box.right(), picture.width);
       EXPECT_LE(text.box.bottom(), picture.height);
       for (const SheetText& other : picture.texts) {

@@ -17,9 +17,12 @@ struct FakeDocumentWriter final : DocumentWriter {
   };
 
   WriteResult write(const std::filesystem::path& path, std::string_view content) override {
-    if (broken_folders.contains(path.parent_path())) return {false, "No space left on device"};
+    if (broken_folders.contains(path.parent_path())) {
+      return {false, std::make_error_code(std::errc::no_space_on_device),
+              "No space left on device"};
+    }
     written.push_back({path, std::string(content)});
-    return {true, ""};
+    return {true, {}, ""};
   }
 
   std::set<std::filesystem::path> broken_folders;

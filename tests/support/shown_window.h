@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 #include "base/input_guard.h"
-#include "base/windows/widgets.h"
+#include "base/windows/list_box.h"
 #include "support/virtual_scheduler.h"
 
 namespace tonarix {

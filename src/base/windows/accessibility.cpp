@@ -22,6 +22,7 @@ class ButtonInterface final : public QAccessibleWidget {
       return button_.key().isEmpty() ? button_.shortcut().toString() : button_.key();
     }
     if (kind == QAccessible::Name && own.isEmpty()) return without_mnemonic(button_.text());
+    if (kind == QAccessible::Description && own.isEmpty()) return button_.spoken_key();
     return own;
   }
   QAccessible::State state() const override {
@@ -48,6 +49,20 @@ class ButtonInterface final : public QAccessibleWidget {
   Button& button_;
 };
 
+/// A group is called by its title.
+class CardInterface final : public QAccessibleWidget {
+ public:
+  explicit CardInterface(Card& card)
+      : QAccessibleWidget(&card, QAccessible::Grouping), card_(card) {}
+  QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name && own.isEmpty() ? without_mnemonic(card_.title_text()) : own;
+  }
+
+ private:
+  Card& card_;
+};
+
 class AnnouncerInterface final : public QAccessibleWidget {
  public:
   explicit AnnouncerInterface(Announcer& announcer)
@@ -64,7 +79,7 @@ QAccessibleInterface* interface_of(const QString&, QObject* object) {
   if (auto* button = dynamic_cast<Button*>(object)) return new ButtonInterface(*button);
   if (auto* announcer = dynamic_cast<Announcer*>(object)) return new AnnouncerInterface(*announcer);
   if (auto* card = dynamic_cast<Card*>(object)) {
-    return new QAccessibleWidget(card, QAccessible::Grouping);
+    return new CardInterface(*card);
   }
   if (auto* view = dynamic_cast<WindowView*>(object)) {
     return new QAccessibleWidget(view, QAccessible::Window);

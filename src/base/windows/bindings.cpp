@@ -234,6 +234,7 @@ void Bindings::apply(Joint& joint) {
     shown.visible = control.visible;
   }
   apply_captions(joint);
+  apply_reason(joint);
   if (joint.set_colours &&
       (!shown.coloured || shown.back != control.back || shown.fore != control.fore)) {
     joint.set_colours(to_qcolor(control.back), to_qcolor(control.fore));
@@ -278,6 +279,19 @@ void Bindings::apply_name(Joint& joint) {
     list->set_name(name);
   } else {
     set_accessible_name(*joint.widget, name);
+  }
+}
+
+void Bindings::apply_reason(Joint& joint) {
+  std::string why = why_not_open(*joint.control);
+  if (joint.shown.why == why) return;
+  joint.shown.why = std::move(why);
+  const QString reason = to_qstring(joint.shown.why);
+  joint.widget->setToolTip(reason);
+  if (auto* option = dynamic_cast<Option*>(joint.widget)) {
+    option->set_reason(reason);
+  } else {
+    joint.widget->setAccessibleDescription(reason);
   }
 }
 

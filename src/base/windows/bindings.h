@@ -9,6 +9,7 @@
 
 #include "base/texts.h"
 #include "base/window.h"
+#include "base/windows/list_box.h"
 #include "base/windows/widgets.h"
 
 class QButtonGroup;
@@ -26,9 +27,10 @@ QString to_qstring(const std::string& text);
 
 /// Joins the widgets of one window to the states of its controls. Each bound widget takes the
 /// control's name as its object name. `apply` brings visible, enabled, caption, colours, value and
-/// accessible name into the widgets and touches only what has changed. What the user does reaches
-/// the handler when the control is open, what `apply` does never. After a handler the state is
-/// applied again, so a choice that the logic refused does not stay on the screen.
+/// accessible name into the widgets and touches only what has changed; while a control is not open
+/// its reason is tooltip and accessible description. What the user does reaches the handler when
+/// the control is open, what `apply` does never. After a handler the state is applied again, so a
+/// choice that the logic refused does not stay on the screen.
 class Bindings {
  public:
   using Handler = std::function<void()>;
@@ -65,6 +67,7 @@ class Bindings {
   struct Shown {
     std::optional<bool> visible, enabled;
     std::optional<std::string> text, accessible_name, group;
+    std::string why;
     std::optional<Colour> back, fore;
     bool coloured = false;
   };
@@ -85,6 +88,7 @@ class Bindings {
   void apply(Joint& joint);
   void apply_captions(Joint& joint);
   void apply_name(Joint& joint);
+  static void apply_reason(Joint& joint);
   std::string group_of(const Joint& joint) const;
   void assign_mnemonics();
   bool admits(const QWidget& widget, const Control& control, bool button) const;

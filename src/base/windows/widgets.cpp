@@ -1,6 +1,5 @@
 #include "base/windows/widgets.h"
 
-#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QMouseEvent>
@@ -134,9 +133,10 @@ void Button::initStyleOption(QStyleOptionButton* option) const {
   option->palette.setCurrentColorGroup(QPalette::Disabled);
 }
 
-void Button::set_key(const QString& key) {
+void Button::set_key(const QString& key, const QString& spoken) {
   if (key_ == key) return;
   key_ = key;
+  spoken_key_ = spoken;
   update();
 }
 
@@ -157,17 +157,27 @@ Option::Option(QWidget* parent) : QRadioButton(parent) {
   });
 }
 
-void Option::changeEvent(QEvent* event) {
-  // A right click on an option that is not open is meant for its group.
-  if (event->type() == QEvent::EnabledChange) {
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
-  }
-  QRadioButton::changeEvent(event);
+bool Option::event(QEvent* event) {
+  // A disabled button would swallow these.
+  const bool for_group = event->type() == QEvent::ContextMenu || event->type() == QEvent::Wheel;
+  if (!for_group || isEnabled()) return QRadioButton::event(event);
+  event->ignore();
+  return false;
+}
+
+void Option::describe() {
+  const bool both = !reason_.isEmpty() && !note_.isEmpty();
+  setAccessibleDescription(both ? reason_ + QStringLiteral("; ") + note_ : reason_ + note_);
+}
+
+void Option::set_reason(const QString& reason) {
+  reason_ = reason;
+  describe();
 }
 
 void Option::set_note(const QString& note) {
   note_ = note;
-  setAccessibleDescription(note);
+  describe();
   updateGeometry();
   update();
 }
@@ -208,60 +218,6 @@ void Option::paintEvent(QPaintEvent*) {
                              : palette().color(QPalette::Disabled, QPalette::WindowText));
   const QRect place(note_indent(), option.rect.bottom(), width() - note_indent(), note_height);
   painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, note_);
-}
-
-ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
-  setFocusPolicy(Qt::TabFocus);
-  // Long lists (the instruments) need not all be measured to find the width.
-  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  setMinimumContentsLength(10);
-  setMaxVisibleItems(16);
-}
-
-void ListBox::set_name(const QString& name) {
-  name_ = name;
-  if (!spoken_) {
-    spoken_ = new QLabel(parentWidget());
-    spoken_->hide();
-    spoken_->setBuddy(this);
-  }
-  if (spoken_->text() != name) spoken_->setText(name);
-}
-
-bool ListBox::event(QEvent* event) {
-  // A label names only its neighbours.
-  if (event->type() == QEvent::ParentChange && spoken_) spoken_->setParent(parentWidget());
-  return QComboBox::event(event);
-}
-
-void ListBox::keyPressEvent(QKeyEvent* event) {
-  const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-  int next = currentIndex() + step;
-  while (step != 0 && next >= 0 && next < count() && itemData(next, gap_role).toBool())
-    next += step;
-  if (step == 0 || event->modifiers() & Qt::AltModifier || next == currentIndex() + step) {
-    QComboBox::keyPressEvent(event);
-  } else if (next >= 0 && next < count()) {
-    setCurrentIndex(next);
-    Q_EMIT activated(next);
-  }
-}
-
-void ListBox::showPopup() {
-  view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
-  QComboBox::showPopup();
-}
-
-void ListBox::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) {
-    QComboBox::mousePressEvent(event);
-  } else {
-    event->ignore();
-  }
-}
-
-void ListBox::wheelEvent(QWheelEvent* event) {
-  event->ignore();
 }
 
 Slider::Slider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
@@ -340,6 +296,14 @@ Label& Card::title() {
     head_->insertWidget(0, title_, 1);
   }
   return *title_;
+}
+
+QString Card::title_text() const {
+  if (title_) return title_->text();
+  for (const QLabel* label : findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (!label->isHidden() && !label->text().isEmpty()) return label->text();
+  }
+  return {};
 }
 
 void Card::set_surface(std::optional<QColor> back) {

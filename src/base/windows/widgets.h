@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
@@ -34,8 +33,9 @@ class Button : public QPushButton {
   /// True when a press can count.
   bool open() const { return isEnabled() && !closed_; }
   /// The key that presses it, as it is printed on it: "3"; empty for none.
-  void set_key(const QString& key);
+  void set_key(const QString& key, const QString& spoken);
   const QString& key() const { return key_; }
+  const QString& spoken_key() const { return spoken_key_; }
 
  protected:
   void initStyleOption(QStyleOptionButton* option) const override;
@@ -45,50 +45,33 @@ class Button : public QPushButton {
   bool closed_ = false;
   bool keeps_focus_ = false;
   QString key_;
+  QString spoken_key_;  ///< "key 3"
   bool primary_ = false;
   std::optional<QColor> back_;
   std::optional<QColor> fore_;
 };
 
-/// One of a group of options, with an explaining line below its caption where it has one.
+/// One of a group of options, with an explaining line below its caption where it has one. While it
+/// is not open it shows its tooltip, and a right click or the wheel is meant for its group.
 class Option : public QRadioButton {
  public:
   explicit Option(QWidget* parent = nullptr);
   void set_note(const QString& note);
+  /// Why it is not open, told to a screen reader before the note; empty while it is open.
+  void set_reason(const QString& reason);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent*) override;
   bool hitButton(const QPoint& at) const override { return rect().contains(at); }
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   int note_indent() const;
+  void describe();
   QString note_;
-};
-
-/// A drop-down list that the wheel does not change by accident.
-class ListBox : public QComboBox {
- public:
-  /// Data of an entry that the arrow keys pass over, true for one that only fills a place.
-  static constexpr int gap_role = Qt::UserRole + 1;
-
-  explicit ListBox(QWidget* parent = nullptr);
-  void showPopup() override;
-  /// What the list is called; a screen reader takes the entry that shows for its content.
-  void set_name(const QString& name);
-  const QString& name() const { return name_; }
-
- protected:
-  bool event(QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
-
- private:
-  QString name_;
-  QLabel* spoken_ = nullptr;  ///< hidden; its buddy is this list
+  QString reason_;
 };
 
 /// A slider over whole numbers; the wheel passes it by.
@@ -131,6 +114,8 @@ class Card : public QFrame {
   QHBoxLayout& head() { return *head_; }
   /// Shows a title; its letter for Alt leads to the group's current control.
   Label& title();
+  /// What the group is called: its title, else the first text that shows in it.
+  QString title_text() const;
   void set_surface(std::optional<QColor> back);
   /// Mark in the corner; empty for none. `locked` draws a padlock before it.
   void set_mark(const QString& mark, bool locked);

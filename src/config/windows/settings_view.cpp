@@ -147,7 +147,10 @@ void SettingsView::build_buttons(const Control* notice) {
   Button* read = press_button(settings_window_.cmdOptionRead);
   Button* save = press_button(settings_window_.cmdOptionSave);
   for (Button* one : {help_button, read, save}) actions().addWidget(one);
-  actions().addStretch();
+  Label* told = label(settings_window_.status, TextRole::note);
+  told->setWordWrap(true);
+  told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  actions().addWidget(told, 1);
   if (notice) {
     Label* words = label(*notice, TextRole::note);
     words->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

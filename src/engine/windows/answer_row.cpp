@@ -52,7 +52,7 @@ void AnswerField::paintEvent(QPaintEvent* event) {
                           theme::small_corner);
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().color(QPalette::WindowText));
-  painter.setOpacity(0.45);
+  painter.setOpacity(0.7);
   for (int dot = 0; dot < tries_; ++dot) {
     const double x = width() / 2.0 + (dot - (tries_ - 1) / 2.0) * 9;
     painter.drawEllipse(QPointF(x, height() - 8), 2, 2);

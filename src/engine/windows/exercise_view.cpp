@@ -246,7 +246,10 @@ void ExerciseView::applied() {
   }
   for (AnswerGrid* grid : grids_) {
     int place = 0;
-    for (AnswerButton* answer : grid->shown()) answer->set_key(AnswerButton::key_name(place++));
+    for (AnswerButton* answer : grid->shown()) {
+      const QString key = AnswerButton::key_name(place++);
+      answer->set_key(key, word(text::key_of_answer).arg(key));
+    }
   }
 }
 

@@ -1,6 +1,7 @@
 #include "exercises/determine/arbeitsblatt1.h"
 
 #include "base/arithmetic.h"
+#include "base/filled_text.h"
 #include "base/module_texts.h"
 
 namespace tonarix {
@@ -62,8 +63,8 @@ void Arbeitsblatt1::show_actions(const Actions& actions) {
 std::string Arbeitsblatt1::question_text() const {
   // The first interval leads from tone 1 to tone 2.
   const int place = answers().asked();
-  return by_degree() ? filled_in(word(text::which_degree), std::to_string(place + 2))
-                     : filled_in(word(text::which_interval), std::to_string(place + 1));
+  return by_degree() ? filled(word(text::which_degree), {std::to_string(place + 2)})
+                     : filled(word(text::which_interval), {std::to_string(place + 1)});
 }
 
 void Arbeitsblatt1::st_int_click(int index) {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/arithmetic.h"
+#include "base/filled_text.h"
 #include "base/module_texts.h"
 #include "engine/answer_rules.h"
 #include "music/degrees.h"
@@ -120,8 +121,8 @@ std::string NamingAnswers::wrong_answer(std::int16_t code) {
   field.back = red_on_black ? signal::black : signal::wrong;
   field.text = Wort(232_text);
   const int left = answers_.book.tries_left(place);
-  const std::string still = left == 1 ? Wort(text::one_try_left)
-                                      : filled_in(Wort(text::tries_left), std::to_string(left));
+  const std::string still =
+      left == 1 ? Wort(text::one_try_left) : filled(Wort(text::tries_left), {std::to_string(left)});
   field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " + still;
   gesperrt_.at(static_cast<std::size_t>(code)) = true;
   open_names(true);

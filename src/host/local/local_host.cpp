@@ -38,16 +38,17 @@ void LocalHostHome::find_problems() {
   const std::string reason = folder_error_ ? folder_error_.message() : store_.reason();
   switch (store_.place()) {
     case Place::file:
-      if (!log_.writable()) problems_.push_back({text::log_not_written, folder});
+      if (!log_.writable()) problems_.push_back({text::log_not_written, folder, {}, {}});
       break;
     case Place::file_renewed:
-      problems_.push_back({text::database_damaged, store_.put_aside().string()});
+      problems_.push_back({text::database_damaged, store_.put_aside().string(), {}, reason});
       break;
     case Place::memory_unwritable:
-      problems_.push_back({text::folder_read_only, folder + " (" + reason + ")"});
+      problems_.push_back(
+          {text::folder_read_only, folder, folder_error_ ? folder_error_ : store_.error(), reason});
       break;
     case Place::memory_in_use:
-      problems_.push_back({text::database_in_use, folder + " (" + reason + ")"});
+      problems_.push_back({text::database_in_use, folder, {}, reason});
       break;
   }
   if (store_.place() != Place::file) log_.add("host.sqlite: " + reason);

@@ -28,6 +28,8 @@ struct LocalHostOptions {
 struct Problem {
   TextKey text;
   std::string detail;
+  std::error_code error;  ///< why, where the text does not say it
+  std::string reason;     ///< why in the system's words, for the terminal
 };
 
 /// What the embedded host owns for the run of the program: who is logged on, the store, the log.

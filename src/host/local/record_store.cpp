@@ -4,6 +4,10 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <cerrno>
+
+#include "base/system_failure.h"
+
 namespace tonarix {
 
 namespace {
@@ -70,11 +74,17 @@ int RecordStore::open(const std::filesystem::path& file) {
     code = check_damage();
   }
   if (code == SQLITE_OK) code = run(kSchema);
+  if (code != SQLITE_OK) {
+    const int full = (code & 0xFF) == SQLITE_FULL ? ENOSPC : 0;
+    errno = full != 0 ? full : sqlite3_system_errno(opened);
+    error_ = last_system_error();
+  }
   // Beside the file a write needs room for its journal.
   const bool closed =
       ::faccessat(AT_FDCWD, file.parent_path().c_str(), W_OK | X_OK, AT_EACCESS) != 0;
   if (code == SQLITE_OK && (closed || sqlite3_db_readonly(opened, "main") == 1)) {
     reason_ = sqlite3_errstr(SQLITE_READONLY);
+    error_ = {closed ? errno : EACCES, std::generic_category()};
     return SQLITE_READONLY;
   }
   if (code != SQLITE_OK) reason_ = sqlite3_errmsg(opened);

@@ -32,6 +32,8 @@ class RecordStore {
   const std::filesystem::path& put_aside() const { return put_aside_; }
   /// Why the file can't serve, in the words of the library.
   const std::string& reason() const { return reason_; }
+  /// The same as an error of the system.
+  std::error_code error() const { return error_; }
 
   /// Replaces the record. RuntimeError 440 when it can't be kept; then the old one stands.
   void write(const std::string& user, const std::string& module, const std::string& key,
@@ -63,6 +65,7 @@ class RecordStore {
   Place place_ = Place::file;
   std::filesystem::path put_aside_;
   std::string reason_;
+  std::error_code error_;
 };
 
 }  // namespace tonarix

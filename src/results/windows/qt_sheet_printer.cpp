@@ -9,10 +9,12 @@
 #include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
+#include <cerrno>
 #include <map>
 #include <memory>
 
 #include "base/module_texts.h"
+#include "base/system_failure.h"
 #include "results/windows/sheet_painter.h"
 
 namespace tonarix {
@@ -59,8 +61,12 @@ QString QtSheetPrinter::word(TextKey key) const {
   return QString::fromStdString(texts_.Wort(key));
 }
 
-PrintResult QtSheetPrinter::failed(const QString& reason) const {
-  return {PrintResult::End::failed, reason.toStdString()};
+PrintResult QtSheetPrinter::not_written(const QString& path, const QString& system_words) const {
+  const std::error_code error = last_system_error();
+  const std::string file = QDir::toNativeSeparators(path).toStdString();
+  return {PrintResult::End::failed,
+          texts_.Wort(text::file_not_written) + file + "\n" + failure_words(texts_, error),
+          file + ": " + system_words.toStdString()};
 }
 
 void QtSheetPrinter::print(const SheetPicture& picture, std::function<void(PrintResult)> done) {
@@ -121,9 +127,9 @@ void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
 }
 
 PrintResult QtSheetPrinter::write_pdf(const SheetPicture& picture, const QString& path) const {
-  const QString refused = word(text::file_not_written) + QDir::toNativeSeparators(path);
+  errno = 0;
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return failed(refused + "\n" + file.errorString());
+  if (!file.open(QIODevice::WriteOnly)) return not_written(path, file.errorString());
   bool painted = false;
   {
     QPdfWriter page(&file);
@@ -134,7 +140,7 @@ PrintResult QtSheetPrinter::write_pdf(const SheetPicture& picture, const QString
     painted = paint_page(picture, page);
   }
   if (!painted) file.cancelWriting();
-  if (!file.commit()) return failed(refused + "\n" + file.errorString());
+  if (!file.commit()) return not_written(path, file.errorString());
   return {};
 }
 
@@ -146,7 +152,9 @@ PrintResult QtSheetPrinter::print_on(const SheetPicture& picture, QPrinter& prin
   const bool painted = paint_page(picture, printer);
   const bool broken =
       printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
-  if (!painted || broken) return failed(word(text::printer_broke_off));
+  if (!painted || broken) {
+    return {PrintResult::End::failed, texts_.Wort(text::printer_broke_off)};
+  }
   return {};
 }
 

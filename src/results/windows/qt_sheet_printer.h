@@ -30,7 +30,7 @@ class QtSheetPrinter final : public SheetPrinter {
  private:
   void ask_for_printer(const SheetPicture& picture, std::function<void(PrintResult)> done);
   void ask_for_file(const SheetPicture& picture, std::function<void(PrintResult)> done);
-  PrintResult failed(const QString& reason) const;
+  PrintResult not_written(const QString& path, const QString& system_words) const;
   QString word(TextKey key) const;
 
   const Texts& texts_;

@@ -43,7 +43,7 @@ void ResultView::applied() {
   if (!fitted_.isEmpty() || !window_.filled()) return;
   const SheetContent& content = window_.content();
   sheet_->setAccessibleName(word(text::sheet_name));
-  sheet_->setAccessibleDescription(to_qstring(spoken_sheet(content)));
+  sheet_->setAccessibleDescription(to_qstring(spoken_sheet(content, texts())));
   chart_->set_chart(window_.chart(),
                     {to_qstring(content.directions[0]), to_qstring(content.directions[1])},
                     to_qstring(window_.chart_title()));

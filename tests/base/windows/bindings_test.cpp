@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <string>
 #include <thread>
@@ -157,6 +160,71 @@ TEST_F(BindingsTest, ALockedFrameHoldsWhatIsInsideAndSaysSo) {
   EXPECT_FALSE(view->choices[0]->isEnabled());
   EXPECT_FALSE(view->entries->isEnabled());
   EXPECT_TRUE(view->volume->isEnabled());
+}
+
+/// Counts how often a reason was set.
+struct ReasonCounter final : QObject {
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::ToolTipChange) ++count;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST_F(BindingsTest, WhatIsNotOpenSaysWhyOnceUntilItOpens) {
+  const auto told = [this](std::size_t choice) {
+    const Option& option = *view->choices[choice];
+    EXPECT_TRUE(option.accessibleDescription().startsWith(option.toolTip()));
+    return option.toolTip().toStdString() + "|" + view->frame->toolTip().toStdString() + "|" +
+           view->entries->accessibleDescription().toStdString();
+  };
+  view->choices[1]->set_note("note");
+  window->mode[2].why = "own";
+  window->changed();
+  EXPECT_EQ(told(1), "||") << "it is open";
+  window->mode[2].enabled = false;
+  window->changed();
+  EXPECT_EQ(told(1), "own||");
+  EXPECT_EQ(view->choices[1]->accessibleDescription(), "own; note");
+  window->frame.enabled = false;
+  window->frame.why = "frame";
+  window->changed();
+  EXPECT_EQ(told(1), "frame|frame|frame");
+  EXPECT_EQ(told(0), "frame|frame|frame");
+  ReasonCounter counter;
+  view->choices[0]->installEventFilter(&counter);
+  for (const bool open : {false, false, true, true}) {
+    window->frame.enabled = window->mode[2].enabled = open;
+    window->changed();
+    EXPECT_EQ(counter.count, open ? 1 : 0) << "each call is told to a screen reader";
+  }
+  EXPECT_EQ(told(1), "||");
+  EXPECT_EQ(view->choices[1]->accessibleDescription(), "note");
+}
+
+TEST_F(BindingsTest, ARightClickOnAnOptionReachesItsGroupAndATooltipTheOption) {
+  std::string menus;
+  view->frame->setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(view->frame, &QWidget::customContextMenuRequested, view,
+                   [&menus] { menus += "menu "; });
+  window->mode[2].why = "own";
+  for (const bool open : {true, false}) {
+    window->mode[2].enabled = open;
+    window->changed();
+    Option& option = *view->choices[1];
+    const QPoint at = option.mapTo(view, option.rect().center());
+    QWidget* under = view->childAt(at);
+    ASSERT_EQ(under, &option);
+    const QPoint inside = option.rect().center();
+    const QPoint on_screen = option.mapToGlobal(inside);
+    QContextMenuEvent click(QContextMenuEvent::Mouse, inside, on_screen);
+    QApplication::sendEvent(under, &click);
+    QHelpEvent rest(QEvent::ToolTip, inside, on_screen);
+    QApplication::sendEvent(under, &rest);
+    EXPECT_EQ(QToolTip::text(), open ? "" : "own");
+    QToolTip::hideText();
+  }
+  EXPECT_EQ(menus, "menu menu ");
 }
 
 TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {

@@ -106,7 +106,8 @@ TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
   folder.write("data", "a file stands where the folder should be");
   Session session(folder);
   EXPECT_EQ(session.problem(), 1010_text);
-  EXPECT_THAT(session.home.problems()[0].detail, HasSubstr((folder.path / "data").string()));
+  EXPECT_EQ(session.home.problems()[0].detail, (folder.path / "data").string());
+  EXPECT_EQ(session.home.problems()[0].error, std::errc::not_a_directory);
   session.store({"1"});
   EXPECT_THAT(session.read(), ElementsAre("1"));
 }
@@ -189,6 +190,7 @@ TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
   {
     Session session(folder);
     EXPECT_EQ(session.problem(), 1010_text);
+    EXPECT_EQ(session.home.problems()[0].error, std::errc::permission_denied);
     EXPECT_THAT(session.read(), ElementsAre("kept"));
     session.store({"for now"});
     EXPECT_THAT(session.read(), ElementsAre("for now"));

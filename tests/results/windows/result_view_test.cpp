@@ -53,8 +53,8 @@ TEST_F(ResultViewTest, TheSheetIsSaidInWordsAndTheRealButtonsPrintAndLeave) {
   const auto spoken = [&](const char* name) {
     return view->findChild<QWidget*>(name)->accessibleDescription();
   };
-  EXPECT_TRUE(spoken("sheet").contains("[281] [132]: 100.0%"));
-  EXPECT_TRUE(spoken("chart").contains("[281] [132][700]100.0%"));
+  EXPECT_TRUE(spoken("sheet").contains("[281] [132]: 100[1048]0%"));
+  EXPECT_TRUE(spoken("chart").contains("[281] [132][700]100[1048]0%"));
   come_up(scheduler);
   button("cmdPrint").click();
   ASSERT_TRUE(printer.busy());
@@ -151,7 +151,8 @@ TEST_F(SheetPrinterTest, WhatCannotBeWrittenIsToldAndLeavesNothing) {
   const QString path = folder.filePath("missing/sheet.pdf");
   const PrintResult result = printer.write_pdf(page, path);
   EXPECT_EQ(result.end, PrintResult::End::failed);
-  EXPECT_THAT(result.reason, testing::StartsWith("[1212]" + path.toStdString() + "\n"));
+  EXPECT_EQ(result.reason, "[1212]" + path.toStdString() + "\n[1016]");
+  EXPECT_THAT(result.log_line, testing::StartsWith(path.toStdString() + ": "));
   EXPECT_EQ(printer.write_pdf(page, folder.path()).end, PrintResult::End::failed);
   QPrinter device(QPrinter::HighResolution);
   device.setOutputFormat(QPrinter::PdfFormat);

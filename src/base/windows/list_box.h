@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+
+namespace tonarix {
+
+/// A drop-down list that the wheel does not change by accident.
+class ListBox : public QComboBox {
+ public:
+  /// Data of an entry that the arrow keys pass over, true for one that only fills a place.
+  static constexpr int gap_role = Qt::UserRole + 1;
+
+  explicit ListBox(QWidget* parent = nullptr);
+  void showPopup() override;
+  /// What the list is called; a screen reader takes the entry that shows for its content.
+  void set_name(const QString& name);
+  const QString& name() const { return name_; }
+
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  QString name_;
+  QLabel* spoken_ = nullptr;  ///< hidden; its buddy is this list
+};
+
+}  // namespace tonarix
