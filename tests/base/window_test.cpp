@@ -117,5 +117,47 @@ TEST_F(WindowTest, AnAnswerThatComesAfterTheRoutineOrTheWindowIsForgotten) {
   dialogs.answer(Reply::ok);
 }
 
+TEST_F(WindowTest, WhatIsHiddenOrLeavesTakesNoInputAndIsForgotten) {
+  const WindowRef ref(window);
+  window.hide();
+  window.press_go();
+  window.title_bar_close();
+  EXPECT_EQ(window.told, "");
+  EXPECT_EQ(ref.get(), &window);
+  window.show();
+  window.enabled = false;
+  window.title_bar_close();
+  ASSERT_EQ(ref.get(), &window);
+  window.enabled = true;
+  window.title_bar_close();
+  EXPECT_EQ(ref.get(), nullptr) << "also while it is not released yet";
+  window.press_go();
+  EXPECT_EQ(window.told, "");
+}
+
+TEST_F(WindowTest, AWindowThatCantBeShownIsNone) {
+  windows.on_opened = [](Window&) { throw std::runtime_error("no room"); };
+  EXPECT_THROW(windows.open(std::make_unique<StoryWindow>(common)), std::runtime_error);
+  EXPECT_EQ(windows.newest(), &window);
+}
+
+TEST(InputGuardTest, TakesNothingAtFirstAndNoSecondPress) {
+  InputGuard guard;
+  int ok = 0, other = 0;
+  const auto at = [](double ms) { return milliseconds(1000 + ms); };
+  EXPECT_TRUE(guard.admits(&ok, at(0)));
+  EXPECT_FALSE(guard.admits(&ok, at(249)));
+  EXPECT_FALSE(guard.admits(&ok, at(490))) << "hammering";
+  EXPECT_TRUE(guard.admits(&other, at(491)));
+  EXPECT_TRUE(guard.admits(&ok, at(500)));
+  EXPECT_TRUE(guard.admits(&ok, at(750)));
+  guard.shown();
+  EXPECT_FALSE(guard.settled(at(5000))) << "not drawn yet";
+  guard.seen(at(5000));
+  guard.seen(at(5290));
+  EXPECT_FALSE(guard.settled(at(5299)));
+  EXPECT_TRUE(guard.settled(at(5300)));
+}
+
 }  // namespace
 }  // namespace tonarix

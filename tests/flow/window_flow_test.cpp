@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
 
 #include "flow/flow_bed.h"
 
@@ -41,6 +42,63 @@ TEST_F(WindowFlowTest, EveryMomentSaysWhatComesAndNumbersTheNextTask) {
   }
   bed.scheduler.advance_ms(1800);
   EXPECT_EQ(window.CmdNextAufg.text, "[129s] 3");
+}
+
+TEST_F(WindowFlowTest, WhoDoesNotSeeTheScreenIsToldEachStepOnce) {
+  bed.open_settings().click(bed.settings().tongeschl[0]);
+  Arbeitsblatt1& window = bed.open_exercise();
+  std::vector<std::string> news;
+  window.on_announced = [&](const std::string& one) { news.push_back(one); };
+  const auto told = [&] { return std::exchange(news, {}); };
+  using Lines = std::vector<std::string>;
+  const std::string asked = "[1158s]";
+  bed.hear_row();
+  EXPECT_EQ(told(), Lines{"[1165s] " + asked});
+  bed.press(window, bed.wrong_code(window, 0));
+  EXPECT_EQ(told(), Lines{"[232s], [1163s]."});
+  window.grundton_click();
+  EXPECT_EQ(told(), Lines{"[1122s]"});
+  bed.hear_row();
+  EXPECT_EQ(told(), Lines{"[1165s] " + asked});
+  bed.press(window, bed.right_code(0));
+  EXPECT_EQ(told(), Lines{"[468s]: " + window.ergebnis[0].text + "."});
+  for (const char* verdict : {"[232s], [1163s].", "[232s], [1163s].", "[232s], [1164s]."}) {
+    bed.press(window, bed.wrong_code(window, 1));
+    EXPECT_EQ(told(), Lines{verdict});
+  }
+  bed.press(window, bed.wrong_code(window, 1));
+  EXPECT_EQ(told(), Lines{"[232s], " + window.ergebnis[1].text + ". [1166s] [1141s]"});
+  window.wieder2_click();
+  bed.hear_row();
+  EXPECT_EQ(told(), (Lines{"[1110s]", "[1142s]"}));
+  bed.scheduler.advance_ms(60000);
+  EXPECT_EQ(told(), Lines{}) << "the clock is no news";
+}
+
+TEST_F(WindowFlowTest, BreakingOffARunningTestIsAskedFirstWhileItsTimeGoesOn) {
+  for (const bool by_button : {true, false}) {
+    Arbeitsblatt1& window = bed.begin(by_button ? 3 : 4);
+    const auto ask = [&] { by_button ? window.zurueck_click() : window.title_bar_close(); };
+    for (int time = 0; time < 2; ++time) ask();
+    EXPECT_EQ(bed.dialogs.shown.back().text, by_button ? "[1159s]" : "[1160s]");
+    EXPECT_EQ(bed.dialogs.shown.back().usual, Reply::no);
+    const std::string left = window.stop_uhr.text;
+    bed.scheduler.advance_ms(10000);
+    EXPECT_NE(window.stop_uhr.text, left);
+    bed.dialogs.answer(Reply::no);
+    ASSERT_FALSE(bed.dialogs.open()) << "asked once";
+    bed.answer_row(window);
+    EXPECT_EQ(window.phase(), Phase::next_offered) << "without hearing the row again";
+    ask();
+    if (by_button) bed.scheduler.advance_ms(3600e3);  // the end comes while it is asked
+    bed.dialogs.answer(Reply::yes);
+    bed.scheduler.advance_ms(400);
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(400);
+    bed.settings().click(bed.settings().cmdZurueck);
+    bed.scheduler.advance_ms(50);
+  }
+  EXPECT_EQ(bed.documents.written.size(), 2U);
 }
 
 TEST_F(WindowFlowTest, TheToneThatSoundsIsMarkedForItsBeatAndNoLonger) {

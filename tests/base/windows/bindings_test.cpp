@@ -136,6 +136,35 @@ TEST_F(BindingsTest, AChoiceReachesTheLogicAndARefusedOneLeavesTheScreen) {
   for (const Option* choice : view->choices) EXPECT_FALSE(choice->isChecked());
 }
 
+TEST_F(BindingsTest, AScreenReaderPressesAndChoosesAsTheMouseDoes) {
+  const auto act = [](QWidget& widget) {
+    auto* actions = QAccessible::queryAccessibleInterface(&widget)->actionInterface();
+    for (const QString& action : actions->actionNames()) {
+      if (action == actions->pressAction() || action == actions->toggleAction()) {
+        return actions->doAction(action);
+      }
+    }
+  };
+  act(*view->choices[1]);
+  act(*view->go);
+  EXPECT_EQ(window->told, "mode2 go ");
+  EXPECT_TRUE(view->choices[1]->isChecked());
+  const auto role = [](QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget)->role();
+  };
+  EXPECT_EQ(role(*view), QAccessible::Window);
+  EXPECT_EQ(role(*view->frame), QAccessible::Grouping);
+}
+
+TEST_F(BindingsTest, TheArrowKeysPassOverALineThatOnlyFillsAPlace) {
+  for (const char* entry : {"a", "b", "---", "d"}) window->entries.add(entry);
+  window->entries.items[2].gap = true;
+  window->entries.selected = 1;
+  window->changed();
+  for (const int key : {Qt::Key_Down, Qt::Key_Up}) stroke(*view->entries, key);
+  EXPECT_EQ(window->told, "entry3 entry1 ");
+}
+
 TEST_F(BindingsTest, OnlyTheUserSpeaksThroughListsAndSliders) {
   window->entries.clear();
   for (const char* entry : {" 30  ", "100  ", "120  "}) window->entries.add(entry);
