@@ -10,6 +10,7 @@ namespace tonarix {
 namespace {
 
 constexpr char kRole[] = "accessible_role";
+constexpr char kToldName[] = "told_name";
 
 class ButtonInterface final : public QAccessibleWidget {
  public:
@@ -90,10 +91,25 @@ QAccessibleInterface* interface_of(const QString&, QObject* object) {
                                static_cast<QAccessible::Role>(role.toInt()));
 }
 
+/// The toolkit tells of a new name whenever a caption is set, also when only its letter for Alt has
+/// moved. What is known is not told again.
+void tell_changes(QAccessibleEvent* event) {
+  if (event->type() == QAccessible::NameChanged && event->object()) {
+    const QAccessibleInterface* named = event->accessibleInterface();
+    const QString name = named ? named->text(QAccessible::Name) : QString();
+    if (event->object()->property(kToldName) == QVariant(name)) return;
+    event->object()->setProperty(kToldName, name);
+  }
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(event);
+  QAccessible::installUpdateHandler(tell_changes);
+}
+
 }  // namespace
 
 void install_accessibility() {
   QAccessible::installFactory(interface_of);
+  QAccessible::installUpdateHandler(tell_changes);
 }
 
 void set_accessible_role(QWidget& widget, QAccessible::Role role) {
@@ -108,12 +124,14 @@ Announcer::Announcer(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("announcer"));
   setFixedSize(1, 1);
   setAttribute(Qt::WA_TransparentForMouseEvents);
+  hide();
 }
 
 void Announcer::announce(const QString& news) {
+  // To come up it must have gone.
+  hide();
   news_ = news;
-  QAccessibleEvent come_up(this, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&come_up);
+  show();
 }
 
 }  // namespace tonarix

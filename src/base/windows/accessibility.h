@@ -19,6 +19,8 @@ class Announcer final : public QWidget {
  public:
   explicit Announcer(QWidget* parent);
   void announce(const QString& news);
+  /// Old news are not told again when their window comes back.
+  void forget() { hide(); }
   const QString& news() const { return news_; }
 
  private:

@@ -41,9 +41,13 @@ class MessageBox final : public QDialog {
   void reject() override {
     if (!must_choose_) QDialog::reject();
   }
-  // A press that was under way when the box came up was not meant for it.
+  // A press that was under way when the box came up was not meant for it, and a box is answered
+  // once, however many presses still wait.
   void done(int result) override {
-    if (guard_.settled(scheduler_.now())) QDialog::done(result);
+    if (!answered_ && guard_.settled(scheduler_.now())) {
+      answered_ = true;
+      QDialog::done(result);
+    }
   }
 
  protected:
@@ -55,6 +59,7 @@ class MessageBox final : public QDialog {
  private:
   const Scheduler& scheduler_;
   bool must_choose_;
+  bool answered_ = false;
   InputGuard guard_;
 };
 

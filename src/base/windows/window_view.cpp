@@ -92,6 +92,8 @@ void WindowView::apply() {
   if (logic_->visible) {
     logic_->guard.shown();
     place_first();
+  } else {
+    announcer_->forget();
   }
   setVisible(logic_->visible);
   if (on_visibility) on_visibility();

@@ -310,6 +310,11 @@ TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
   boxes.current()->findChild<QPushButton*>("no")->click();
   EXPECT_EQ(boxes.current(), nullptr);
   EXPECT_EQ(replies, "oyn");
+  boxes.show({"Warning", "again", MessageStyle::warning, "", ""}, note);
+  QDialog* box = boxes.current();
+  come_up(scheduler);
+  for (int press = 0; press < 2; ++press) box->findChild<QPushButton*>("ok")->click();
+  EXPECT_EQ(replies, "oyno");
 }
 
 TEST(QtSchedulerTest, TasksRunByDueTimeThenByPostingAlsoThoseOfOtherThreads) {
