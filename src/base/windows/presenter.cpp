@@ -1,6 +1,7 @@
 #include "base/windows/presenter.h"
 
 #include <QGuiApplication>
+#include <QWindow>
 
 namespace tonarix {
 namespace {
@@ -52,6 +53,11 @@ void Presenter::opened(Window& window) {
     const WindowView* before = view_of(*windows_.at(i));
     if (!before || before == view.get()) continue;
     view->set_place(before);
+    if (before->isVisible()) {
+      // It stands before a window that stays: a click on that one must not bury it.
+      view->winId();
+      view->windowHandle()->setTransientParent(before->windowHandle());
+    }
     break;
   }
   view->apply();

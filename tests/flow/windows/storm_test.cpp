@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWindow>
 #include <cstdlib>
 
 #include "base/windows/presenter.h"
@@ -103,6 +104,7 @@ TEST_F(StormTest, EveryStepIsTakenOnceHoweverOftenItIsPressed) {
   press_in_a_storm("zurueck");
   bed->scheduler.advance_ms(500);
   ASSERT_EQ(bed->windows.newest()->name(), "testergebnis");
+  EXPECT_NE(newest().windowHandle()->transientParent(), nullptr) << "it stays in front";
   come_up(bed->scheduler);
   press_in_a_storm("cmdOk");
   bed->scheduler.advance_ms(500);
