@@ -736,7 +736,7 @@
     <message id="508s">
         <source>auf Stufe</source>
         <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
-        <translation>degree no. </translation>
+        <translation>degree </translation>
     </message>
     <message id="544s">
         <source>Die tatsächliche Tonhöhe</source>
@@ -2035,8 +2035,8 @@ in any order.</translation>
         <translation>Yellow groups are open to choice, red ones are set by the exercise level, blue ones concern tempo and sound. Point at something grey to learn why it cannot be chosen. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
     </message>
     <message id="1285s">
-        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Nach der Reihe hören Sie sie zur Kontrolle, dann geht es weiter. „zurück“ beendet die Übung und zeigt das Ergebnis.</source>
-        <translation>A row of tones is played. Name its intervals in turn with the buttons or the keys printed on them. “Repeat” plays the row again, “Keynote check” the chord of the keynote. After the row you hear it once more to check, then go on. “Back” ends the exercise and shows the result.</translation>
+        <source>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Ist die Reihe fertig, hören Sie sie zur Kontrolle, dann geht es weiter; in Test und Prüfung geht es gleich weiter. „zurück“ beendet die Übung und zeigt das Ergebnis; in Test und Prüfung wird vorher gefragt.</source>
+        <translation>A row of tones is played. Name its intervals in turn with the buttons or the keys printed on them. “Repeat” plays the row again, “Keynote check” the chord of the keynote. When the row is done you hear it once more to check, then go on; in a test or exam you go on at once. “Back” ends the exercise and shows the result; in a test or exam you are asked first.</translation>
     </message>
     <message id="1286s">
         <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>

@@ -91,41 +91,40 @@ void Module::open_exercise(SettingsWindow& caller) {
     throw RuntimeError(RuntimeError::kOther, "This exercise has no window", "open_exercise");
   }
   const WindowRef ref(caller);
-  const ExerciseContext context{.common = window_context(),
-                                .server = server_,
-                                .errors = errors_,
-                                .clock = outside_.clock,
-                                .chance = outside_.chance,
-                                .midi = midi_,
-                                .midi_event = midi_event_,
-                                .settings = settings_,
-                                .saved_training = saved_training_,
-                                .key = key_,
-                                .row = row_,
-                                .statistics = statistics_,
-                                .best = best_,
-                                .protocol = protocol_,
-                                .tone_names = *tone_names_,
-                                .interval_names = *interval_names_,
-                                .caller = {.training_saved =
-                                               [ref] {
-                                                 if (auto* window = ref.get())
-                                                   window->training_saved();
-                                               },
-                                           .training_finished =
-                                               [ref] {
-                                                 if (auto* window = ref.get())
-                                                   window->training_finished();
-                                               },
-                                           .show_again =
-                                               [ref] {
-                                                 if (auto* window = ref.get()) window->show_again();
-                                               }},
-                                .show_help = [this] { show_help(); },
-                                .open_result =
-                                    [this](const WorkDone& work, std::function<void()> closed) {
-                                      open_result(work, std::move(closed));
-                                    }};
+  const ExerciseContext context{
+      .common = window_context(),
+      .server = server_,
+      .errors = errors_,
+      .clock = outside_.clock,
+      .chance = outside_.chance,
+      .midi = midi_,
+      .midi_event = midi_event_,
+      .settings = settings_,
+      .saved_training = saved_training_,
+      .key = key_,
+      .row = row_,
+      .statistics = statistics_,
+      .best = best_,
+      .protocol = protocol_,
+      .tone_names = *tone_names_,
+      .interval_names = *interval_names_,
+      .caller = {.training_saved =
+                     [ref] {
+                       if (auto* window = ref.get()) window->training_saved();
+                     },
+                 .training_finished =
+                     [ref] {
+                       if (auto* window = ref.get()) window->training_finished();
+                     },
+                 .show_again =
+                     [this, ref] {
+                       if (auto* window = ref.get()) return window->show_again();
+                       if (auto* first = selection_.get()) first->show();
+                     }},
+      .show_help = [this](const std::function<void()>& closed) { show_help(closed); },
+      .open_result = [this](
+                         const WorkDone& work,
+                         std::function<void()> closed) { open_result(work, std::move(closed)); }};
   outside_.windows.open(factory->make(context));
 }
 
@@ -152,13 +151,13 @@ void Module::tell_sound_problem() {
   outside_.dialogs.show(warning(outside_.language.Wort(*problem)), [](Reply) {});
 }
 
-void Module::show_help() {
+void Module::show_help(const std::function<void()>& closed) {
   const Window* newest = outside_.windows.newest();
   const auto help = newest != nullptr ? help_for(newest->name()) : std::nullopt;
-  if (!help) return;
+  if (!help) return closed();
   outside_.dialogs.show({outside_.language.Wort(text::help_caption), outside_.language.Wort(*help),
                          MessageStyle::plain, "", ""},
-                        [](Reply) {});
+                        [closed](Reply) { closed(); });
 }
 
 }  // namespace tonarix

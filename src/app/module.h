@@ -70,7 +70,7 @@ class Module {
   WindowContext window_context() const;
   void load_names();
   void tell_sound_problem();
-  void show_help();
+  void show_help(const std::function<void()>& closed = [] {});
 
   Outside outside_;
   WindowRef<SelectionWindow> selection_;

@@ -58,6 +58,7 @@ class Window {
   bool takes_input(const Control& control) const { return takes_input() && control.open(); }
   /// Asked by whoever shows the window, before it hands on a press.
   mutable InputGuard guard;
+  bool settled() const { return guard.settled(now()); }
   Scheduler::Time now() const { return common_.scheduler.now(); }
   /// Expires when the window goes, for whoever may come too late.
   std::weak_ptr<bool> alive() const { return alive_; }

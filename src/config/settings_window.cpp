@@ -225,11 +225,11 @@ void SettingsWindow::go_back() {
   testtimer_.disable();
   try {
     stop_sound();
+    levels_.leave();
   } catch (...) {
     context_.errors.log("cmdZurueck_click.", std::current_exception());
   }
   waits().close();
-  levels_.leave();
   context_.show_selection();
   common().windows.unload(*this);
 }

@@ -46,7 +46,8 @@ struct ExerciseContext {
   const ToneNames& tone_names;
   const IntervalNames& interval_names;
   ExerciseCaller caller;
-  std::function<void()> show_help;
+  /// Shows the help; `closed` runs when it has been read.
+  std::function<void(std::function<void()> closed)> show_help;
   /// Opens the result sheet; `closed` runs when the student has left it.
   std::function<void(const WorkDone& work, std::function<void()> closed)> open_result;
 };

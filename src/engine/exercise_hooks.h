@@ -42,6 +42,8 @@ class ExerciseHooks {
   virtual void show_actions(const Actions&) {}
   /// Shows the counters of the window's own.
   virtual void show_counts(const TaskAnswers::Counts&) {}
+  /// Another line in the place of a usual one that does not fit the window.
+  virtual TextKey line(TextKey usual) const { return usual; }
   /// The question that stands above the row while it is asked.
   virtual std::string question_text() const = 0;
 };

@@ -135,8 +135,8 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   next_task_.withdraw();
   if (actions.next_task) next_task_.offer(automatic);
   const TextKey head = actions.next_task && automatic ? actions.other : actions.head;
-  question.text = head == TextKey{} ? question_text() : word(head);
-  hint.text = word(keynote ? actions.other : actions.hint);
+  question.text = head == TextKey{} ? question_text() : word(line(head));
+  hint.text = word(line(keynote ? actions.other : actions.hint));
   if (is_over(phase)) {
     sitting_.end();
     zurueck.back = signal::finished;
@@ -260,7 +260,23 @@ const Control* ExerciseWindow::default_button() const {
 }
 
 void ExerciseWindow::cmdHilfe_click() {
-  press(cmdHilfe, "cmdHilfe_click.", [this] { context_.show_help(); });
+  press(cmdHilfe, "cmdHilfe_click.", [this] {
+    hold_back();
+    context_.show_help([this, here = alive()] {
+      if (!here.expired()) handle("cmdHilfe_click.", [this] { go_on_after_reading(); });
+    });
+  });
+}
+
+// The time that goes into reading is not the student's, and nothing begins behind what is read.
+void ExerciseWindow::hold_back() {
+  answers_.pause();
+  next_task_.withdraw();
+}
+
+void ExerciseWindow::go_on_after_reading() {
+  if (phase_ == Phase::answering) answers_.open();
+  if (actions_in(phase_).next_task) next_task_.offer(context_.settings.abfrage == 1);
 }
 
 void ExerciseWindow::zurueck_click() {
@@ -286,7 +302,7 @@ Sequence ExerciseWindow::break_off() {
 }
 
 Sequence ExerciseWindow::leave() {
-  if (!begin_leaving()) co_return;
+  if (phase_ == Phase::leaving) co_return;
   const bool ended = is_over(phase_) || phase_ == Phase::broken;
   std::function<bool()> keep;
   if (!ended && is_training(level()) && sitting_.tasks() > 0) {
@@ -298,9 +314,11 @@ Sequence ExerciseWindow::leave() {
   // A training that goes on replaces nothing but its own earlier state.
   const bool replaces =
       keep && level() == Level::training && training_.stored() == RecordRead::found;
+  begin_leaving();
   enter(Phase::leaving);
   stop_all();
-  const auto in_all = is_test(level()) ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
+  const auto in_all =
+      is_test(level()) && lesson_nr_ > 0 ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
   co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, replaces);
 }
 
@@ -323,9 +341,8 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
     context_.errors.log(tag, error);
     player().forget();
     after_playing(false);
-    answers_.pause();
-    // The time that goes into reading the message is not the student's.
-    return tell(word(text::device_silent), [this] { answers_.open(); });
+    hold_back();
+    return tell(word(text::device_silent), [this] { go_on_after_reading(); });
   }
   stop_all();
   enter(Phase::broken);

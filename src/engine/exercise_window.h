@@ -58,6 +58,8 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void finish_row();
   void tell_phase();
   void way_out();
+  void hold_back();
+  void go_on_after_reading();
   Sequence break_off();
   void finish_training();
   Sequence leave();

@@ -13,9 +13,9 @@ enum class Phase : std::uint8_t {
   starting,           ///< no task has been drawn yet
   sounding,           ///< the task, a repeat or its keynote sounds
   answering,          ///< the answers are open
-  row_done,           ///< all is answered; how it goes on is still to be chosen
+  row_done,           ///< all is answered, the control is still to be heard
   control_sounding,   ///< the row or its keynote sounds once more
-  next_offered,       ///< it has sounded, the next task waits
+  next_offered,       ///< the next task waits; in a test as soon as the row is done
   training_finished,  ///< solved, or too hard
   finished_sounding,  ///< the last row of a finished training sounds once more
   test_finished,      ///< all tasks of a test are done
@@ -86,7 +86,8 @@ constexpr bool is_over(Phase phase) {
 }
 /// Something sounds.
 constexpr bool is_sounding(Phase phase) {
-  return actions_in(phase).head == text::listen && phase != Phase::starting;
+  return phase == Phase::sounding || phase == Phase::control_sounding ||
+         phase == Phase::finished_sounding || phase == Phase::test_sounding;
 }
 /// The row of the task is still being asked.
 constexpr bool row_is_asked(Phase phase) {

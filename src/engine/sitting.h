@@ -10,7 +10,8 @@
 namespace tonarix {
 
 /// Follows the work of one sitting. Its time begins with the first task and ends with the last row
-/// of a training or test, or else when the student leaves: reading the end takes no working time.
+/// of a training or test or with its time, or else when the student leaves: reading the end takes
+/// no working time.
 class Sitting {
  public:
   explicit Sitting(const Scheduler& scheduler) : scheduler_(scheduler) {}

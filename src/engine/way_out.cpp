@@ -45,9 +45,7 @@ Sequence WayOut::write_protocol() {
   controls_.hint.visible = false;
   controls_.WaitMeldung.visible = true;
   co_await waits_.FullDelay(0);
-  FinishResult result =
-      context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
-                                         window_.caption, context_.settings.EinstDatSave);
+  FinishResult result = close_protocol();
   const auto why = [this](std::error_code error) {
     return failure_words(context_.common.texts, error);
   };
@@ -69,8 +67,19 @@ Sequence WayOut::write_protocol() {
   go_back();
 }
 
+FinishResult WayOut::close_protocol() {
+  protocol_closed_ = true;
+  return context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
+                                            window_.caption, context_.settings.EinstDatSave);
+}
+
 void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
   context_.errors.report(tag, error);
+  try {
+    if (!protocol_closed_) close_protocol();
+  } catch (...) {
+    context_.errors.log(tag, std::current_exception());
+  }
   go_back();
 }
 

@@ -25,6 +25,7 @@ class WayOut {
  private:
   Sequence ask_to_save(std::function<bool()> keep, bool replaces);
   Sequence write_protocol();
+  FinishResult close_protocol();
   void go_back();
   std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }
 
@@ -32,6 +33,7 @@ class WayOut {
   Window& window_;
   ExerciseControls& controls_;
   Waits& waits_;
+  bool protocol_closed_ = false;
 };
 
 }  // namespace tonarix

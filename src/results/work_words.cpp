@@ -1,17 +1,11 @@
 #include "results/work_words.h"
 
-#include <string_view>
-
+#include "base/filled_text.h"
 #include "base/module_texts.h"
 
 namespace tonarix {
 
 namespace {
-
-std::string filled(std::string text, std::string_view place, const std::string& value) {
-  const auto at = text.find(place);
-  return at == std::string::npos ? text : text.replace(at, place.size(), value);
-}
 
 /// "12 s", "4 min 12 s", from an hour on "1 h 4 min".
 std::string duration(int seconds, const Texts& texts) {
@@ -34,15 +28,14 @@ WorkWords work_words(const WorkDone& work, const Texts& texts) {
   WorkWords words;
   words.tasks.number = std::to_string(work.tasks);
   if (work.tasks_in_all) {
-    words.tasks.number =
-        filled(filled(texts.Wort(text::sheet_some_of_all), "%1", words.tasks.number), "%2",
-               std::to_string(*work.tasks_in_all));
+    words.tasks.number = filled(texts.Wort(text::sheet_some_of_all),
+                                {words.tasks.number, std::to_string(*work.tasks_in_all)});
   }
   const bool one = work.tasks_in_all.value_or(work.tasks) == 1;
   words.tasks.name = texts.Wort(one ? text::sheet_one_task : text::sheet_tasks);
   words.right = {std::to_string(work.right), texts.Wort(text::sheet_right)};
   words.wrong = {std::to_string(work.wrong), texts.Wort(text::sheet_wrong)};
-  words.time = filled(texts.Wort(text::sheet_in_time), "%1", duration(work.seconds, texts));
+  words.time = filled(texts.Wort(text::sheet_in_time), {duration(work.seconds, texts)});
   return words;
 }
 

@@ -73,6 +73,7 @@ TEST(Levels, HalfATrainingIsNotOfferedAndABrokenOneToldAndLevelOneChosen) {
     if (!state.empty()) bed.store("A1", state);
     Einstellung1& window = bed.open();
     EXPECT_EQ(window.training_Combo.items[2].text, offered ? "[565]" : "---------------");
+    EXPECT_EQ(window.training_Combo.items[2].gap, !offered);
     bed.choose_level(2);
     EXPECT_TRUE(bed.settings.Uebungsmodus == Level::training &&
                 window.training_Combo.selected == 1);

@@ -101,6 +101,30 @@ TEST_F(WindowFlowTest, BreakingOffARunningTestIsAskedFirstWhileItsTimeGoesOn) {
   EXPECT_EQ(bed.documents.written.size(), 2U);
 }
 
+TEST_F(WindowFlowTest, ReadingTheHelpTakesNoAnswerTimeAndNothingBeginsBehindIt) {
+  bed.open_settings().click(bed.settings().abfrage[1]);
+  bed.settings().choose(bed.settings().training_Combo, 1);
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
+  bed.dialogs.hold = true;
+  const auto read = [&](double ms) {
+    window.cmdHilfe_click();
+    bed.scheduler.advance_ms(ms);
+    bed.dialogs.answer(Reply::ok);
+  };
+  read(30000);
+  bed.answer_row(window, 0.5);
+  window.wieder2_click();
+  bed.hear_row();
+  read(60000);
+  EXPECT_EQ(window.phase(), Phase::next_offered);
+  bed.scheduler.advance_ms(1800);
+  EXPECT_EQ(window.phase(), Phase::sounding);
+  bed.dialogs.script = {Reply::no};
+  const auto lessons = FlowBed::lessons(bed.leave(window));
+  EXPECT_LT(std::stod(lessons[0][0].at("AntwDau")), 20) << "tenths of a second";
+}
+
 TEST_F(WindowFlowTest, TheToneThatSoundsIsMarkedForItsBeatAndNoLonger) {
   bed.open_settings();
   Arbeitsblatt1& window = bed.open_exercise();

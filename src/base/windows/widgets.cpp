@@ -113,15 +113,17 @@ void Button::set_colours(std::optional<QColor> back, std::optional<QColor> fore)
 }
 
 void Button::set_open(bool open) {
-  closed_ = !open && std::exchange(keeps_focus_, false) && hasFocus();
+  closed_ = !open && std::exchange(keeps_focus_, false) && window()->focusWidget() == this;
   setEnabled(open || closed_);
   update();
 }
 
 void Button::focusOutEvent(QFocusEvent* event) {
   QPushButton::focusOutEvent(event);
-  // Another window in front takes the focus only for a while.
-  if (!closed_ || event->reason() == Qt::ActiveWindowFocusReason) return;
+  // A box or a menu in front takes the focus only for a while.
+  const bool for_a_while =
+      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+  if (!closed_ || for_a_while) return;
   closed_ = false;
   setEnabled(false);
 }

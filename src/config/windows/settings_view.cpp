@@ -50,7 +50,8 @@ void SettingsView::add_menu(Card& card, int frame) {
   QObject::connect(&card, &QWidget::customContextMenuRequested, this,
                    [this, &card, frame](const QPoint& at) {
                      menu_place_ = card.mapToGlobal(at);
-                     if (bindings().live()) settings_window_.frame_menu(frame);
+                     if (!bindings().live() || !settings_window_.settled()) return;
+                     settings_window_.frame_menu(frame);
                    });
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <thread>
 
+#include "base/windows/accessibility.h"
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
@@ -39,6 +40,10 @@ class KitWindow final : public Window {
     changed();
   }
   void leave() { common().windows.unload(*this); }
+  void tell_news(const std::string& news) {
+    announce(news);
+    changed();
+  }
   using Window::changed;
 
   Control frame{*this, "frame"};
@@ -156,6 +161,24 @@ TEST_F(BindingsTest, AScreenReaderPressesAndChoosesAsTheMouseDoes) {
   EXPECT_EQ(role(*view->frame), QAccessible::Grouping);
 }
 
+TEST_F(BindingsTest, ANewWindowTakesNothingAndOldNewsAreNotToldAgain) {
+  const auto* announcer = static_cast<Announcer*>(view->findChild<QWidget*>("announcer"));
+  window->tell_news("first");
+  EXPECT_TRUE(announcer->isVisible());
+  EXPECT_EQ(announcer->news(), "first");
+  window->hide();
+  window->show();
+  EXPECT_FALSE(announcer->isVisible());
+  view->choices[0]->click();
+  view->volume->setValue(90);
+  view->go->click();
+  EXPECT_FALSE(view->close());
+  EXPECT_EQ(window->told, "");
+  come_up(scheduler);
+  view->choices[0]->click();
+  EXPECT_EQ(window->told, "mode1 ");
+}
+
 TEST_F(BindingsTest, TheArrowKeysPassOverALineThatOnlyFillsAPlace) {
   for (const char* entry : {"a", "b", "---", "d"}) window->entries.add(entry);
   window->entries.items[2].gap = true;
@@ -265,6 +288,7 @@ TEST_F(BindingsTest, KeysPressTheWayOnAndBack) {
   window->changed();
   EXPECT_EQ(view->focusWidget(), view->back) << "the focus stays where it was";
   EXPECT_FALSE(view->back->open());
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(view->back)->state().disabled);
   stroke(*view, Qt::Key_Escape);
   EXPECT_EQ(windows.count(), 1);
   window->back.enabled = true;
@@ -310,11 +334,15 @@ TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
   boxes.current()->findChild<QPushButton*>("no")->click();
   EXPECT_EQ(boxes.current(), nullptr);
   EXPECT_EQ(replies, "oyn");
+  boxes.show({"Question", "", MessageStyle::yes_no, "", "", Reply::no}, note);
+  come_up(scheduler);
+  EXPECT_TRUE(boxes.current()->findChild<QPushButton*>("no")->isDefault());
+  stroke(*boxes.current(), Qt::Key_Return);
   boxes.show({"Warning", "again", MessageStyle::warning, "", ""}, note);
   QDialog* box = boxes.current();
   come_up(scheduler);
   for (int press = 0; press < 2; ++press) box->findChild<QPushButton*>("ok")->click();
-  EXPECT_EQ(replies, "oyno");
+  EXPECT_EQ(replies, "oynno");
 }
 
 TEST(QtSchedulerTest, TasksRunByDueTimeThenByPostingAlsoThoseOfOtherThreads) {
