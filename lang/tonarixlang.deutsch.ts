@@ -1747,8 +1747,8 @@ Vorzeichen!</translation>
         <translation>Die Prüfung läuft noch, die Zeit geht weiter. Soll sie abgebrochen werden?</translation>
     </message>
     <message id="1161s">
-        <source>Abbrechen</source>
-        <translation>Abbrechen</translation>
+        <source>Übung abbrechen</source>
+        <translation>Übung abbrechen</translation>
     </message>
     <message id="1162s">
         <source>Weitermachen</source>

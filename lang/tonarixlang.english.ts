@@ -1747,7 +1747,7 @@ in any order.</translation>
         <translation>The exam is still running and so is its time. Break it off?</translation>
     </message>
     <message id="1161s">
-        <source>Abbrechen</source>
+        <source>Übung abbrechen</source>
         <translation>Break off</translation>
     </message>
     <message id="1162s">

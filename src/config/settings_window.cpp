@@ -168,6 +168,7 @@ void SettingsWindow::list_test() {
                        : groups == 1 ? text::one_group_listed
                                      : text::groups_listed;
   status.text = filled(word(told), {std::to_string(groups), place ? word(*place) : ""});
+  announce(status.text);
 }
 
 void SettingsWindow::read_test() {
@@ -180,6 +181,7 @@ void SettingsWindow::read_test() {
                        : locked.size() == 1 ? text::one_group_read
                                             : text::groups_read;
   status.text = filled(word(told), {std::to_string(locked.size())});
+  announce(status.text);
 }
 
 void SettingsWindow::fill_ranges() {

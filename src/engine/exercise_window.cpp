@@ -143,7 +143,7 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
     zurueck.fore = signal::wrong;
     zurueck.text = word(625_text);
   }
-  zurueck.enabled = phase != Phase::leaving;
+  zurueck.enabled = cmdHilfe.enabled = phase != Phase::leaving;
   open_answers(actions.answers);
   show_actions(actions);
   tell_phase();

@@ -209,6 +209,8 @@ TEST_F(WindowFlowTest, TheSheetStandsAWhileAndTheProtocolWaitsForItsEnd) {
     EXPECT_FALSE(window.zurueck.enabled);
     bed.scheduler.advance_ms(closed_after);
     EXPECT_EQ(bed.documents.written.size(), written);
+    EXPECT_TRUE(window.hint.visible && !window.WaitMeldung.visible);
+    window.on_changed = [&] { EXPECT_FALSE(window.hint.visible && window.WaitMeldung.visible); };
     bed.result().cmdOk_click();
     bed.scheduler.advance_ms(200);
     EXPECT_EQ(bed.documents.written.size(), closed_after < 300 ? written : written + 1);

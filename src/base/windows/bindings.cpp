@@ -129,6 +129,7 @@ void Bindings::bind(ListBox& list, const ListControl& control, NumberHandler cho
     if (list.currentIndex() != control.selected) list.setCurrentIndex(control.selected);
   };
   joint.set_colours = [&list](auto back, auto fore) { set_list_colours(list, back, fore); };
+  list.may_open = [this, &list, &control] { return live_ && admits(list, control, false); };
   QObject::connect(&list, &QComboBox::activated, &list,
                    [this, &list, &control, chosen = std::move(chosen)](int index) {
                      if (index == control.selected) return;
@@ -162,9 +163,10 @@ void Bindings::bind(Card& card, const Control* frame, const Control* title) {
   joint.set_colours = [&card](auto back, auto) { card.set_surface(back); };
   joint.refresh = [this, &card, frame, title, shown = std::optional<QString>()]() mutable {
     const bool locked = !frame->enabled || frame->back == signal::locked;
-    const QString mark = locked               ? to_qstring(texts_.Wort(text::locked))
-                         : frame->tag.empty() ? QString()
-                                              : to_qstring(texts_.Wort(438_text));
+    QStringList marks;
+    if (locked) marks << to_qstring(texts_.Wort(text::locked));
+    if (!frame->tag.empty()) marks << to_qstring(texts_.Wort(438_text));
+    const QString mark = marks.join(QLatin1String(", "));
     if (shown != mark) card.set_mark(mark, locked);
     shown = mark;
     if (!title) return;

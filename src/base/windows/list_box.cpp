@@ -1,5 +1,7 @@
 #include "base/windows/list_box.h"
 
+#include "base/windows/accessibility.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -45,6 +47,8 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void ListBox::showPopup() {
+  if (may_open && !may_open()) return;
+  set_accessible_name(*view(), name_);
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
   QComboBox::showPopup();
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <functional>
 
 namespace tonarix {
 
@@ -13,6 +14,8 @@ class ListBox : public QComboBox {
 
   explicit ListBox(QWidget* parent = nullptr);
   void showPopup() override;
+  /// Asked before the list opens.
+  std::function<bool()> may_open;
   /// What the list is called; a screen reader takes the entry that shows for its content.
   void set_name(const QString& name);
   const QString& name() const { return name_; }

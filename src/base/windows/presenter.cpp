@@ -72,6 +72,10 @@ void Presenter::unloaded(Window& window) {
   views_.erase(found);
 }
 
+void Presenter::uncovered() {
+  for (const auto& [window, view] : views_) view->uncovered();
+}
+
 void Presenter::views_changed() {
   if (on_views_changed) on_views_changed();
 }

@@ -38,6 +38,8 @@ class Presenter {
   /// The visible window that was opened last, or nullptr.
   QWidget* newest_visible() const;
 
+  /// A box before the windows has gone.
+  void uncovered();
   /// A window has been shown, hidden or unloaded.
   std::function<void()> on_views_changed;
 

@@ -94,6 +94,7 @@ void QtDialogs::open_next() {
 
 void QtDialogs::answered(Reply reply) {
   box_.release()->deleteLater();  // its own signal is still being delivered
+  presenter_.uncovered();
   const std::function<void(Reply)> done = std::move(waiting_.front().done);
   waiting_.pop_front();
   open_next();
@@ -121,7 +122,9 @@ QString QtDialogs::caption(const std::string& own, TextKey key, const QString& u
 }
 
 std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
-  auto box = std::make_unique<MessageBox>(scheduler_, message.style == MessageStyle::yes_no);
+  // Escape gives the usual answer where that one is no, and else none: nothing is lost by a slip.
+  const bool must_choose = message.style == MessageStyle::yes_no && message.usual == Reply::yes;
+  auto box = std::make_unique<MessageBox>(scheduler_, must_choose);
   box->setObjectName(QStringLiteral("message_box"));
   box->setWindowModality(Qt::ApplicationModal);
   box->setWindowTitle(to_qstring(message.title));

@@ -109,6 +109,12 @@ void WindowView::detach() {
   if (on_visibility) on_visibility();
 }
 
+void WindowView::uncovered() {
+  if (!logic_) return;
+  logic_->guard.shown();
+  logic_->guard.seen(logic_->now());
+}
+
 QSize WindowView::sizeHint() const {
   const QSize inner = content().sizeHint();
   const QSize line = actions_->sizeHint();

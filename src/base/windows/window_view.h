@@ -45,6 +45,8 @@ class WindowView : public QWidget, protected WidgetMaker {
   void detach();
   QSize sizeHint() const override;
 
+  /// What stood before the window has gone: a press meant for that one may still come.
+  void uncovered();
   /// Told when the window has been shown or hidden.
   std::function<void()> on_visibility;
   /// Where the window first stands in the middle: the place of the window before; null for the

@@ -7,8 +7,10 @@
 #include "base/windows/presenter.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
+#include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "flow/flow_bed.h"
 #include "host/local/catalogue_folder.h"
+#include "results/windows/result_view.h"
 #include "support/shown_window.h"
 
 namespace tonarix {
@@ -80,6 +82,25 @@ TEST_P(FirstWindowsTest, EveryControlOnTheWayOfTheTabKeyHasAName) {
   const std::string title = bed.language.Wort(1057_text);
   ASSERT_NE(title, "VOID");
   EXPECT_TRUE(spoken_name(widget<QRadioButton>(1, "grd_ton_0")).startsWith(to_qstring(title)));
+}
+
+TEST_P(FirstWindowsTest, TheQuestionNamesTheToneThatIsAsked) {
+  presenter.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", bed.language);
+  for (const int naming : {0, 1}) {
+    bed.settings().click(bed.settings().abfr_iv[naming]);
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.hear_row();
+    for (const int place : {0, 1}) {
+      const int tone = place + (naming == 0 ? 2 : 1);
+      EXPECT_NE(window.question.text.find(" " + std::to_string(tone) + "?"), std::string::npos)
+          << window.question.text;
+      bed.press(window, bed.right_code(place));
+    }
+    EXPECT_EQ(window.zaehler[0].accessible_name, bed.language.Wort(468_text) + ": 2");
+    EXPECT_EQ(window.zaehler[1].accessible_name, bed.language.Wort(232_text) + ": 0");
+    presenter.add<ResultWindow, ResultView>("testergebnis", bed.language);
+    bed.leave(window);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, FirstWindowsTest, testing::Values("Deutsch", "English"));

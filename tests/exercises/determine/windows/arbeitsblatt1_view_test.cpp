@@ -67,6 +67,7 @@ TEST_F(Arbeitsblatt1ViewTest, RealButtonsAndDigitsInReadingOrderAnswerWhenTheRow
   for (const int code : kAnswerOrder) {
     if (!answer(code).isVisible()) continue;
     keys += answer(code).key().toStdString();
+    EXPECT_FALSE(answer(code).spoken_key().isEmpty());
     if (code != right) {
       wrong = code;
       key_of_wrong = place < 9    ? Qt::Key_1 + place
