@@ -78,9 +78,13 @@ void Window::tell(std::string text, std::function<void()> then) {
   });
 }
 
-void Window::announce(std::string news) {
+void Window::announce(const std::string& news) {
   if (news.empty()) return;
-  news_ += (news_.empty() ? "" : " ") + std::move(news);
+  if (!news_.empty()) {
+    constexpr std::string_view kEnds = ".?!:";
+    news_ += kEnds.find(news_.back()) == std::string_view::npos ? ". " : " ";
+  }
+  news_ += news;
 }
 
 void Window::changed() {

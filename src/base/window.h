@@ -77,7 +77,7 @@ class Window {
   /// The way out begins; false when it has begun before.
   bool begin_leaving() { return !std::exchange(leaving_, true); }
   /// Tells the news once the event that brings it has been dealt with; several become one.
-  void announce(std::string news);
+  void announce(const std::string& news);
 
   /// Runs an event's work. An exception goes to `failed` with the tag; then the change is
   /// announced.

@@ -1,5 +1,6 @@
 #include "results/result_window.h"
 #include "base/module_texts.h"
+#include "results/percentage.h"
 
 namespace tonarix {
 
@@ -56,6 +57,9 @@ void ResultWindow::LbEinst() {
   chart_ = result_chart(content_.table, content_.directions, common().texts);
   cmdPrint.enabled = true;
   filled_ = true;
+  announce(content_.total_label + " " +
+           spoken_percentage(content_.table.total.text, common().texts));
+  announce(content_.work.line(", "));
 }
 
 void ResultWindow::cmdPrint_click() {

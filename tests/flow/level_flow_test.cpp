@@ -41,7 +41,7 @@ TEST_F(LevelFlowTest, ATrainingEndsSolvedOrTooHard) {
   std::string told;
   window.on_announced = [&](const std::string& news) { told = news; };
   play(bed, window, 0);
-  EXPECT_TRUE(told.ends_with("[1166s] [1101s] [1144s]")) << told;
+  EXPECT_TRUE(told.ends_with("[1166s]. [1101s]. [1144s]")) << told;
   EXPECT_TRUE(window.ergebnis_anz[1].visible && !window.ergebnis_anz[0].visible);
   EXPECT_EQ(percent(window), 0);
   EXPECT_EQ(window.zurueck.text, "[625s]");

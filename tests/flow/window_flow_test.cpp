@@ -53,13 +53,13 @@ TEST_F(WindowFlowTest, WhoDoesNotSeeTheScreenIsToldEachStepOnce) {
   using Lines = std::vector<std::string>;
   const std::string asked = "[1158s]";
   bed.hear_row();
-  EXPECT_EQ(told(), Lines{"[1165s] " + asked});
+  EXPECT_EQ(told(), Lines{"[1165s]. " + asked});
   bed.press(window, bed.wrong_code(window, 0));
   EXPECT_EQ(told(), Lines{"[232s], [1163s]."});
   window.grundton_click();
   EXPECT_EQ(told(), Lines{"[1122s]"});
   bed.hear_row();
-  EXPECT_EQ(told(), Lines{"[1165s] " + asked});
+  EXPECT_EQ(told(), Lines{"[1165s]. " + asked});
   bed.press(window, bed.right_code(0));
   EXPECT_EQ(told(), Lines{"[468s]: " + window.ergebnis[0].text + "."});
   for (const char* verdict : {"[232s], [1163s].", "[232s], [1163s].", "[232s], [1164s]."}) {
@@ -67,7 +67,7 @@ TEST_F(WindowFlowTest, WhoDoesNotSeeTheScreenIsToldEachStepOnce) {
     EXPECT_EQ(told(), Lines{verdict});
   }
   bed.press(window, bed.wrong_code(window, 1));
-  EXPECT_EQ(told(), Lines{"[232s], " + window.ergebnis[1].text + ". [1166s] [1141s]"});
+  EXPECT_EQ(told(), Lines{"[232s], " + window.ergebnis[1].text + ". [1166s]. [1141s]"});
   window.wieder2_click();
   bed.hear_row();
   EXPECT_EQ(told(), (Lines{"[1110s]", "[1142s]"}));

@@ -25,7 +25,11 @@ TEST_F(ResultWindowTest, FillsItselfOnceWithWhatASheetSays) {
   answered(4, 1, -16);
   answered(25, 1, 0);
   offered(11);
-  ResultWindow& window = open_filled();
+  ResultWindow& window = open();
+  std::string told;
+  window.on_announced = [&](const std::string& news) { told += news; };
+  scheduler.settle();
+  EXPECT_EQ(told, "[275] 50,0%. 3 [1239] [1246], 10 [1247], 2 [1248]");
   EXPECT_EQ(window.caption, "[1200]: Training");
   statistics.Clear();
   scheduler.advance_ms(10'000);
