@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "base/module_texts.h"
+#include "base/private_file.h"
 #include "host/local/record_format.h"
 
 namespace tonarix {
@@ -12,7 +13,7 @@ namespace {
 
 /// Makes the folder; the path comes back so that what lies in it can be opened next.
 std::filesystem::path make_folder(const std::filesystem::path& folder, std::error_code& error) {
-  std::filesystem::create_directories(folder, error);
+  error = make_private_folder(folder);
   return folder;
 }
 

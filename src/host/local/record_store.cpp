@@ -6,6 +6,7 @@
 
 #include <cerrno>
 
+#include "base/private_file.h"
 #include "base/system_failure.h"
 
 namespace tonarix {
@@ -65,6 +66,8 @@ RecordStore::RecordStore(const std::filesystem::path& file, const std::string& f
 }
 
 int RecordStore::open(const std::filesystem::path& file) {
+  // Files beside it, such as the journal, take their rights from the database.
+  make_private_file(file);
   sqlite3* opened = nullptr;
   int code =
       sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -102,6 +103,30 @@ TEST_F(LocalHostTest, ADamagedRecordIsNoRecordAndStaysAsItIs) {
   EXPECT_EQ(other.read("A", "vemo06", "A1"), half);
 }
 
+TEST_F(LocalHostTest, NobodyElseCanReadAnythingWhateverTheUmask) {
+  namespace fs = std::filesystem;
+  folder.write("old/data/host.sqlite", "");  // of a time before
+  for (const mode_t mask : {0000, 0777, 0022, 0000}) {
+    const fs::path data = folder.path / (mask == 0022 ? "old/data" : "new/deep/data");
+    const mode_t before = umask(0);
+    if (mask != 0022) fs::remove_all(folder.path / "new");
+    fs::create_directories(folder.path / "new/deep");
+    umask(mask);
+    const StandingClock clock;
+    LocalHostHome home({data, "A", 2, "Deutsch", {}, 0}, clock);
+    Server server{home.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
+    server.ServerInit();
+    server.ServerStore("A1", Variant::strings({"x"}));
+    umask(before);
+    EXPECT_TRUE(home.problems().empty()) << mask;
+    const auto kept = fs::status(data).permissions();
+    EXPECT_EQ(kept, fs::perms(mask == 0022 ? 0755 : 0700)) << mask;
+    for (const auto& entry : fs::directory_iterator(data)) {
+      EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry << mask;
+    }
+  }
+}
+
 TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
   folder.write("data", "a file stands where the folder should be");
   Session session(folder);
@@ -186,7 +211,9 @@ TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
   std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
   const uid_t user = geteuid();
   constexpr uid_t kNobody = 65534;  // root writes everywhere
-  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);
+  const uid_t reader = user == 0 ? kNobody : user;
+  ASSERT_EQ(chown(file.c_str(), reader, gid_t(-1)), 0);
+  ASSERT_EQ(seteuid(reader), 0);
   {
     Session session(folder);
     EXPECT_EQ(session.problem(), 1010_text);
