@@ -1160,11 +1160,6 @@ Vorzeichen!</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</translation>
     </message>
-    <message id="1012s">
-        <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
-        <extracomment>Message at the start; the folder follows on the next line</extracomment>
-        <translation>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</translation>
-    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>

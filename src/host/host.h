@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/runtime_error.h"
+
 namespace tonarix {
 
 /// A value that passes between the module and its host: empty, a flag, a number, a text or an array
@@ -41,6 +43,13 @@ class Variant {
 
  private:
   std::variant<std::monostate, bool, double, std::string, Array> value_;
+};
+
+/// The host is occupied just now; the same call may be answered in a moment.
+class HostBusy final : public RuntimeError {
+ public:
+  HostBusy(const std::string& description, std::string source)
+      : RuntimeError(kHostFailure, description, std::move(source)) {}
 };
 
 /// The host application's one keyed operation.

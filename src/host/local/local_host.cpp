@@ -44,13 +44,12 @@ void LocalHostHome::find_problems() {
     case Place::file_renewed:
       problems_.push_back({text::database_damaged, store_.put_aside().string(), {}, reason});
       break;
-    case Place::memory_unwritable:
+    case Place::memory:
       problems_.push_back(
           {text::folder_read_only, folder, folder_error_ ? folder_error_ : store_.error(), reason});
       break;
-    case Place::memory_in_use:
-      problems_.push_back({text::database_in_use, folder, {}, reason});
-      break;
+    case Place::waiting:
+      break;  // it may be free before anything is wanted of it
   }
   if (store_.place() != Place::file) log_.add("host.sqlite: " + reason);
 }
@@ -99,14 +98,15 @@ void LocalHost::login(Variant& output) const {
 }
 
 void LocalHost::store(const Variant& input) {
-  home_.store_.write(user(), input.at(0).text(), input.at(1).text(), write_record(input.at(2)));
+  home_.store_.write(
+      {{{user(), input.at(0).text(), input.at(1).text()}, write_record(input.at(2))}});
 }
 
 void LocalHost::read(const Variant& input, Variant& output) {
   const std::string module = input.at(0).text();
   const std::string key = input.at(1).text();
   output = Variant::Array{"NIL"};
-  const std::optional<std::string> json = home_.store_.read(user(), module, key);
+  const std::optional<std::string> json = home_.store_.read({user(), module, key});
   if (!json) return;
   const std::optional<Variant> data = read_record(*json);
   if (data) {

@@ -21,7 +21,7 @@ struct LocalHostOptions {
   int role = 2;                     ///< 2 ordinary user, 4 supervisor
   std::string language = "Deutsch";
   std::optional<int> midi;  ///< device number
-  int patience_ms = 1000;   ///< how long a record waits for another program that writes
+  int patience_ms = 20;     ///< how long a call stands still for another program that writes
 };
 
 /// Something that the user should know: a text and what it speaks of, such as a path.
