@@ -13,7 +13,13 @@ constexpr double kResultPause = 300;  // ms for the result sheet to stand before
 
 }  // namespace
 
-Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces) {
+void show_wait(Window& window, ExerciseControls& controls, bool waiting) {
+  window.busy = waiting;
+  controls.hint.visible = !waiting;
+  controls.WaitMeldung.visible = waiting;
+}
+
+Sequence WayOut::leave(WorkDone work, Keep keep, bool replaces) {
   if (keep) co_await ask_to_save(std::move(keep), replaces);
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
@@ -26,7 +32,7 @@ Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces)
   co_await write_protocol();
 }
 
-Sequence WayOut::ask_to_save(std::function<bool()> keep, bool replaces) {
+Sequence WayOut::ask_to_save(Keep keep, bool replaces) {
   std::string asked = Wort(495_text);
   if (replaces) asked += " " + Wort(text::replaces_saved_training);
   const Message question{Wort(8_text), asked, MessageStyle::yes_no, Wort(text::save_training),
@@ -34,16 +40,19 @@ Sequence WayOut::ask_to_save(std::function<bool()> keep, bool replaces) {
   Reply reply = co_await ask(waits_, context_.common.dialogs, question);
   const Message again{Wort(8_text), Wort(text::training_not_saved), MessageStyle::yes_no,
                       Wort(text::try_again), Wort(text::leave_without_saving)};
-  while (reply == Reply::yes && !keep()) {
+  bool kept = false;
+  while (reply == Reply::yes) {
+    show_wait(window_, controls_, true);
+    co_await keep(kept);
+    show_wait(window_, controls_, false);
+    if (kept) break;
     reply = co_await ask(waits_, context_.common.dialogs, again);
   }
   if (reply == Reply::yes) context_.caller.training_saved();
 }
 
 Sequence WayOut::write_protocol() {
-  window_.busy = true;
-  controls_.hint.visible = false;
-  controls_.WaitMeldung.visible = true;
+  show_wait(window_, controls_, true);
   co_await waits_.FullDelay(0);
   FinishResult result =
       context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),

@@ -59,6 +59,9 @@ class Host {
   /// `key` selects the function, `input` carries what the module gives, `output` is pre-set with a
   /// default and overwritten. True when the host answered. A failing call raises RuntimeError.
   virtual bool Request(std::string& key, Variant& input, Variant& output) = 0;
+  /// Stores several records at once, each as "STORE" takes it: all of them or, when the call
+  /// raises, none. False, with nothing stored, where the host can't.
+  virtual bool StoreTogether(const Variant::Array&) { return false; }
 };
 
 }  // namespace tonarix

@@ -121,6 +121,14 @@ void Server::ServerStore(const std::string& short_key, const Variant& data) {
   call("STORE", stored_);
 }
 
+bool Server::ServerStoreTogether(const std::vector<Record>& records) {
+  Variant::Array inputs;
+  for (const auto& [short_key, data] : records) {
+    inputs.push_back(Variant::Array{application_.executable, short_key, data});
+  }
+  return ServerObject().StoreTogether(inputs);
+}
+
 RecordRead Server::read_record(const std::string& short_key, std::vector<std::string>& target) {
   Variant output;
   try {

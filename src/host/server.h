@@ -57,6 +57,13 @@ class Server {
   /// The language that the host names now; the last one known when it names none.
   std::string ServerLang();
   void ServerStore(const std::string& short_key, const Variant& data);
+  /// Stores all records or none. False, with nothing stored, for a host that takes only one at a
+  /// time.
+  struct Record {
+    std::string short_key;
+    Variant data;
+  };
+  bool ServerStoreTogether(const std::vector<Record>& records);
   /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
   /// read.
   bool ServerRead(const std::string& short_key, std::vector<std::string>& target) {

@@ -69,7 +69,7 @@ bool LocalHost::Request(std::string& key, Variant& input, Variant& output) {
   } else if (key == "LANG") {
     output = home_.options_.language;
   } else if (key == "STORE") {
-    store(input);
+    StoreTogether({input});
   } else if (key == "READ") {
     read(input, output);
   } else if (key == "LOGMESS") {
@@ -97,9 +97,14 @@ void LocalHost::login(Variant& output) const {
   output = fields;
 }
 
-void LocalHost::store(const Variant& input) {
-  home_.store_.write(
-      {{{user(), input.at(0).text(), input.at(1).text()}, write_record(input.at(2))}});
+bool LocalHost::StoreTogether(const Variant::Array& inputs) {
+  RecordTexts records;
+  for (const Variant& input : inputs) {
+    records.insert_or_assign({user(), input.at(0).text(), input.at(1).text()},
+                             write_record(input.at(2)));
+  }
+  home_.store_.write(records);
+  return true;
 }
 
 void LocalHost::read(const Variant& input, Variant& output) {

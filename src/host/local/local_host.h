@@ -61,10 +61,10 @@ class LocalHost final : public Host {
  public:
   explicit LocalHost(LocalHostHome& home) : home_(home) {}
   bool Request(std::string& key, Variant& input, Variant& output) override;
+  bool StoreTogether(const Variant::Array& inputs) override;
 
  private:
   void login(Variant& output) const;
-  void store(const Variant& input);
   void read(const Variant& input, Variant& output);
   void log_error(const Variant& input);
   /// Half of each record's key: the same however the fields were spaced; empty for nobody.

@@ -103,6 +103,18 @@ TEST_F(LocalHostTest, ADamagedRecordIsNoRecordAndStaysAsItIs) {
   EXPECT_EQ(other.read({"A", "vemo06", "A1"}), half);
 }
 
+TEST_F(LocalHostTest, RecordsThatBelongTogetherAreStoredTogetherOrNotAtAll) {
+  Session session(folder);
+  session.store({"old"});
+  const Variant anew = Variant::strings({"new"});
+  EXPECT_THROW(session.server.ServerStoreTogether({{"A1", anew}, {"E1", "no text: \xFF"}}),
+               RuntimeError);
+  EXPECT_THAT(session.read(), ElementsAre("old"));
+  EXPECT_TRUE(session.server.ServerStoreTogether({{"A1", anew}, {"E1", anew}}));
+  Strings target;
+  EXPECT_TRUE(Session(folder).server.ServerRead("E1", target) && target == Session(folder).read());
+}
+
 TEST_F(LocalHostTest, NobodyElseCanReadAnythingWhateverTheUmask) {
   namespace fs = std::filesystem;
   folder.write("old/data/host.sqlite", "");  // of a time before
