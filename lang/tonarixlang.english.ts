@@ -1225,6 +1225,16 @@ in any order.</translation>
         <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
         <translation>set by the test that was read</translation>
     </message>
+    <message id="1037s">
+        <source>Gespeicherte Trainings lassen sich im Moment nicht lesen.</source>
+        <extracomment>Settings: one line while the store does not answer</extracomment>
+        <translation>Saved trainings cannot be read at the moment.</translation>
+    </message>
+    <message id="1038s">
+        <source>Das gespeicherte Training ist beschädigt und kann nicht fortgesetzt werden.</source>
+        <extracomment>Settings: one line when a saved training is found broken</extracomment>
+        <translation>The saved training is damaged and cannot be continued.</translation>
+    </message>
     <message id="1040s">
         <source>%1 Gruppen aufgelistet in: %2</source>
         <extracomment>Settings of a supervisor: line that says what a button has done; %1 is a number above 1, %2 the place</extracomment>
@@ -1656,6 +1666,11 @@ in any order.</translation>
         <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
         <extracomment>behind the question whether to save the training</extracomment>
         <translation>The training already saved for this exercise will be replaced.</translation>
+    </message>
+    <message id="1139s">
+        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; es würde ersetzt.</source>
+        <extracomment>behind the question whether to save the training, while the store does not answer</extracomment>
+        <translation>Whether a training is already saved for this exercise cannot be told at the moment; it would be replaced.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>

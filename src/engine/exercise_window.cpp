@@ -211,28 +211,19 @@ void ExerciseWindow::finish_row() {
 
 // The list of the settings window follows the store; while the store is silent it stays.
 Sequence ExerciseWindow::finish_training() {
-  held_ = true;
-  zurueck.enabled = false;
-  show_wait(*this, *this, true);
+  const auto hold = [this](bool on) {
+    zurueck.enabled = !(held_ = on);
+    show_wait(*this, *this, on);
+  };
+  hold(true);
   bool dropped = false;
   co_await training_.drop(dropped);
-  held_ = false;
-  zurueck.enabled = true;
-  show_wait(*this, *this, false);
-  if (dropped) {
-    context_.caller.training_finished();
-    co_return;
-  }
-  switch (training_.stored()) {
-    case RecordRead::found:
-      context_.caller.training_saved();
-      co_return tell(word(text::training_not_marked));
-    case RecordRead::none:
-      context_.caller.training_finished();
-      co_return tell(word(text::no_training_stored));
-    case RecordRead::failed:
-      co_return tell(word(text::store_not_read));
-  }
+  hold(false);
+  const RecordRead left = dropped ? RecordRead::none : training_.stored();
+  if (left == RecordRead::failed) co_return tell(word(text::store_not_read));
+  const bool found = left == RecordRead::found;
+  found ? context_.caller.training_saved() : context_.caller.training_finished();
+  if (!dropped) tell(word(found ? text::training_not_marked : text::no_training_stored));
 }
 
 void ExerciseWindow::CmdNextAufg_click() {
@@ -309,12 +300,12 @@ Sequence ExerciseWindow::leave() {
     };
   }
   // A training that goes on replaces nothing but its own earlier state.
-  const bool replaces =
-      keep && level() == Level::training && training_.stored() == RecordRead::found;
+  const RecordRead former =
+      keep && level() == Level::training ? training_.stored() : RecordRead::none;
   enter(Phase::leaving);
   stop_all();
   const auto in_all = is_test(level()) ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
-  co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, replaces);
+  co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, former);
 }
 
 void ExerciseWindow::stop_all() {

@@ -105,12 +105,8 @@ Sequence TrainingRecord::drop(bool& dropped) {
 RecordRead TrainingRecord::stored() const {
   Strings record;
   Strings state;
-  const RecordRead settings_read = server_.read_record(settings_key(), record);
-  const RecordRead state_read = server_.read_record(state_key(), state);
-  const bool used_up = state_read == RecordRead::found && !says_valid(state);
-  // One half that is surely missing is enough to know that there is none.
-  if (used_up || settings_read == RecordRead::none) return RecordRead::none;
-  return state_read == RecordRead::found ? settings_read : state_read;
+  const RecordRead read = server_.read_both(settings_key(), record, state_key(), state);
+  return is_used_up(state) ? RecordRead::none : read;
 }
 
 }  // namespace tonarix

@@ -40,8 +40,7 @@ class TrainingRecord {
   const SavedTraining& resumed() const;
   /// Marks the training as used up. `dropped` is false when the host failed.
   Sequence drop(bool& dropped);
-  /// Whether the store holds a training to go on with, whichever it is; `failed` when the host
-  /// doesn't tell.
+  /// Whether the store holds a training to go on with, whichever it is.
   RecordRead stored() const;
 
  private:

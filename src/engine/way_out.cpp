@@ -19,8 +19,8 @@ void show_wait(Window& window, ExerciseControls& controls, bool waiting) {
   controls.WaitMeldung.visible = waiting;
 }
 
-Sequence WayOut::leave(WorkDone work, Keep keep, bool replaces) {
-  if (keep) co_await ask_to_save(std::move(keep), replaces);
+Sequence WayOut::leave(WorkDone work, Keep keep, RecordRead former) {
+  if (keep) co_await ask_to_save(std::move(keep), former);
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
@@ -32,9 +32,10 @@ Sequence WayOut::leave(WorkDone work, Keep keep, bool replaces) {
   co_await write_protocol();
 }
 
-Sequence WayOut::ask_to_save(Keep keep, bool replaces) {
+Sequence WayOut::ask_to_save(Keep keep, RecordRead former) {
   std::string asked = Wort(495_text);
-  if (replaces) asked += " " + Wort(text::replaces_saved_training);
+  if (former == RecordRead::found) asked += " " + Wort(text::replaces_saved_training);
+  if (former == RecordRead::failed) asked += " " + Wort(text::may_replace_saved_training);
   const Message question{Wort(8_text), asked, MessageStyle::yes_no, Wort(text::save_training),
                          Wort(text::do_not_save)};
   Reply reply = co_await ask(waits_, context_.common.dialogs, question);

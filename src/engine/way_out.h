@@ -21,14 +21,14 @@ class WayOut {
   /// Stores the training and says whether it could.
   using Keep = std::function<Sequence(bool& kept)>;
   /// Walks to the end; `work` goes on the sheet. `keep` is empty where there is nothing to keep,
-  /// and then nothing is asked. `replaces`: another saved training would go, which the question
-  /// says.
-  Sequence leave(WorkDone work, Keep keep, bool replaces);
+  /// and then nothing is asked. `former`: whether another saved training would go, which the
+  /// question says.
+  Sequence leave(WorkDone work, Keep keep, RecordRead former);
   /// What can still be done is done: the student is told and is back at the settings.
   void give_up(std::string_view tag, std::exception_ptr error);
 
  private:
-  Sequence ask_to_save(Keep keep, bool replaces);
+  Sequence ask_to_save(Keep keep, RecordRead former);
   Sequence write_protocol();
   void go_back();
   std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }

@@ -52,6 +52,13 @@ class HostBusy final : public RuntimeError {
       : RuntimeError(kHostFailure, description, std::move(source)) {}
 };
 
+/// What the host keeps under this name is no record any more; it stays as it is.
+class DamagedRecord final : public RuntimeError {
+ public:
+  DamagedRecord(const std::string& description, std::string source)
+      : RuntimeError(kHostFailure, description, std::move(source)) {}
+};
+
 /// The host application's one keyed operation.
 class Host {
  public:

@@ -126,6 +126,13 @@ TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
     EXPECT_EQ(bed.dialogs.shown.back().text, question);
     if (bed.dialogs.shown.size() == 2) state() = Variant::strings({"False"});
   }
+  host.together = true;
+  host.failing = {"READ"};
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
+  bed.answer_row(window);
+  save(bed, window);
+  EXPECT_EQ(bed.dialogs.shown.back().text, "[495s] [1139s]") << "perhaps";
 }
 
 TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {

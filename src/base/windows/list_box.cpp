@@ -45,6 +45,7 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void ListBox::showPopup() {
+  if (on_popup) on_popup();
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
   QComboBox::showPopup();
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <functional>
 
 namespace tonarix {
 
@@ -16,6 +17,8 @@ class ListBox : public QComboBox {
   /// What the list is called; a screen reader takes the entry that shows for its content.
   void set_name(const QString& name);
   const QString& name() const { return name_; }
+
+  std::function<void()> on_popup;  ///< before the entries are shown
 
  protected:
   bool event(QEvent* event) override;

@@ -116,9 +116,11 @@ void LocalHost::read(const Variant& input, Variant& output) {
   const std::optional<Variant> data = read_record(*json);
   if (data) {
     output = *data;
-  } else {
-    home_.log_.add("Record " + key + " of " + module + " is damaged; it stays as it is");
+    return;
   }
+  const std::string told = "Record " + key + " of " + module + " is damaged; it stays as it is";
+  home_.log_.add(told);
+  throw DamagedRecord(told, "LocalHost");
 }
 
 void LocalHost::log_error(const Variant& input) {
