@@ -1160,11 +1160,6 @@ in any order.</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>The file of saved trainings is damaged. A new one has been made; the damaged one is kept here:</translation>
     </message>
-    <message id="1012s">
-        <source>Die Datei mit den gespeicherten Trainings wird von einem anderen Programm benutzt. Trainings, die Sie jetzt speichern, gehen mit dem Programmende verloren. Bitte schließen Sie das andere Programm und beginnen Sie neu:</source>
-        <extracomment>Message at the start; the folder follows on the next line</extracomment>
-        <translation>The file of saved trainings is in use by another program. Trainings you save now will be lost when this program ends. Please close the other program and start again:</translation>
-    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
@@ -1229,6 +1224,16 @@ in any order.</translation>
         <source>durch den eingelesenen Test festgelegt</source>
         <extracomment>Settings: why a whole group is greyed, for a tooltip and a screen reader</extracomment>
         <translation>set by the test that was read</translation>
+    </message>
+    <message id="1037s">
+        <source>Gespeicherte Trainings lassen sich im Moment nicht lesen.</source>
+        <extracomment>Settings: one line while the store does not answer</extracomment>
+        <translation>Saved trainings cannot be read at the moment.</translation>
+    </message>
+    <message id="1038s">
+        <source>Das gespeicherte Training ist beschädigt und kann nicht fortgesetzt werden.</source>
+        <extracomment>Settings: one line when a saved training is found broken</extracomment>
+        <translation>The saved training is damaged and cannot be continued.</translation>
     </message>
     <message id="1040s">
         <source>%1 Gruppen aufgelistet in: %2</source>
@@ -1661,6 +1666,11 @@ in any order.</translation>
         <source>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</source>
         <extracomment>behind the question whether to save the training</extracomment>
         <translation>The training already saved for this exercise will be replaced.</translation>
+    </message>
+    <message id="1139s">
+        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; es würde ersetzt.</source>
+        <extracomment>behind the question whether to save the training, while the store does not answer</extracomment>
+        <translation>Whether a training is already saved for this exercise cannot be told at the moment; it would be replaced.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>

@@ -13,6 +13,15 @@ namespace {
 
 using tonarix::Options;
 
+/// True when there is a folder for the data. Records must not lie wherever the program was started.
+bool find_data_folder(Options& options) {
+  if (options.data.empty()) options.data = tonarix::usual_data_folder().value_or("");
+  if (!options.data.empty()) return true;
+  std::cerr << "vemo06: no folder for your records: HOME names none. "
+               "Set HOME, or name a folder with --data.\n";
+  return false;
+}
+
 /// Without a display Qt would end the process with a page of text; one line says it better.
 bool display_missing() {
   const auto given = [](const char* name) {
@@ -89,6 +98,7 @@ int main(int argc, char* argv[]) {
     case Options::Task::open_module:
       break;
   }
+  if (!find_data_folder(options)) return 2;
   if (language_missing(options.language)) return 2;
   if (display_missing()) {
     std::cerr << "vemo06: no display; the program needs a graphical session.\n";

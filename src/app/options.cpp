@@ -96,12 +96,13 @@ std::optional<OptionError> parse_options(const std::vector<std::string>& argumen
   return {};
 }
 
-std::filesystem::path usual_data_folder() {
+std::optional<std::filesystem::path> usual_data_folder() {
   if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {
     return std::filesystem::path(data) / "tonarix";
   }
   const char* home = std::getenv("HOME");
-  return std::filesystem::path(home != nullptr ? home : ".") / ".local" / "share" / "tonarix";
+  if (home == nullptr || *home != '/') return {};
+  return std::filesystem::path(home) / ".local" / "share" / "tonarix";
 }
 
 std::string help_text() {

@@ -11,7 +11,7 @@ namespace tonarix {
 struct Options {
   enum class Task { open_module, list_midi, show_version, show_help };
   Task task = Task::open_module;
-  std::filesystem::path data;       ///< embedded host's folder; empty: the usual place
+  std::filesystem::path data;       ///< embedded host's folder; empty: the usual one is meant
   std::optional<std::string> user;  ///< "Name;Vorname;Matrikel-Nr."; none: not logged on
   int role = 2;                     ///< 2 ordinary user, 4 supervisor
   std::string language = "Deutsch";
@@ -28,8 +28,9 @@ struct OptionError {
 std::optional<OptionError> parse_options(const std::vector<std::string>& arguments,
                                          Options& options);
 
-/// The folder `tonarix` among the user's data: $XDG_DATA_HOME, else ~/.local/share.
-std::filesystem::path usual_data_folder();
+/// The folder `tonarix` among the user's data: $XDG_DATA_HOME, else ~/.local/share; none without
+/// either. A relative path counts as none: records must not lie wherever the program was started.
+std::optional<std::filesystem::path> usual_data_folder();
 
 std::string help_text();
 

@@ -38,10 +38,6 @@ std::string computer_user() {
   return host[0] != '\0' ? user + " (" + host.data() + ")" : user;
 }
 
-std::filesystem::path data_folder(const Options& options) {
-  return options.data.empty() ? usual_data_folder() : options.data;
-}
-
 std::optional<TextKey> put_into_diagnostics(const std::string& document) {
   std::clog.clear();  // a pipe that was full may take more again
   std::clog << document << std::flush;
@@ -50,7 +46,7 @@ std::optional<TextKey> put_into_diagnostics(const std::string& document) {
 }
 
 LocalHostOptions host_options(const Options& options) {
-  return {.folder = data_folder(options),
+  return {.folder = options.data,
           .user = options.user,
           .role = options.role,
           .language = options.language,
@@ -117,7 +113,7 @@ Outside Program::outside(const Options& options) {
           .documents = documents_,
           .printer = printer_,
           .create_host = host_.factory(),
-          .folders = {.protocols = protocol_folder(), .data = data_folder(options)},
+          .folders = {.protocols = protocol_folder(), .data = options.data},
           .application = application_facts(),
           .computer_user = computer_user(),
           .screen_width = QGuiApplication::primaryScreen()->size().width(),

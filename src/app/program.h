@@ -23,7 +23,7 @@ class SystemClock final : public WallClock {
 /// The running program: the real clock, devices, host and windows around the module.
 class Program {
  public:
-  /// Needs the QApplication.
+  /// Needs the QApplication, and a folder for its data among the options.
   explicit Program(const Options& options);
   ~Program();
   Program(const Program&) = delete;

@@ -26,7 +26,7 @@ LevelLogic::LevelLogic(const SettingsContext& context, SettingsKind kind,
 }
 
 void LevelLogic::begin() {
-  fill_levels(saved_training_offered(context_.server, settings_));
+  look_for_training();
   choices_.set(Choice::Uebungsmodus, static_cast<std::int16_t>(Level::free));
   for (int number = 1; number <= 5; ++number) {
     controls_.prfnr_Comb.add(context_.common.texts.Wort(426_text) + " " + std::to_string(number));
@@ -38,21 +38,38 @@ void LevelLogic::leave() {
   if (settings_.Uebungsmodus == Level::exam) give_back();
 }
 
-void LevelLogic::fill_levels(bool saved) {
+void LevelLogic::look_for_training() {
+  fill_levels(saved_training(context_.server, settings_));
+  controls_.status.text.clear();
+  if (saved_ == RecordRead::failed) {
+    controls_.status.text = context_.common.texts.Wort(text::saved_training_not_read);
+  } else if (saved_ == RecordRead::damaged) {
+    controls_.status.text = context_.common.texts.Wort(text::saved_training_damaged);
+  }
+}
+
+void LevelLogic::look_again() {
+  if (saved_ != RecordRead::failed) return;
+  look_for_training();
+  choices_.show(Choice::Uebungsmodus);
+}
+
+void LevelLogic::fill_levels(RecordRead saved) {
+  saved_ = saved;
   controls_.training_Combo.clear();
-  for (const std::string& name : level_names(context_.tables, saved)) {
+  for (const std::string& name : level_names(context_.tables, saved == RecordRead::found)) {
     controls_.training_Combo.add(name);
     controls_.training_Combo.items.back().gap = name == kNoSavedTraining;
   }
 }
 
 void LevelLogic::training_finished() {
-  fill_levels(false);
+  fill_levels(RecordRead::none);
   choices_.set(Choice::Uebungsmodus, kTraining);
 }
 
 void LevelLogic::training_saved() {
-  fill_levels(true);
+  fill_levels(RecordRead::found);
   choices_.show(Choice::Uebungsmodus);
 }
 

@@ -21,6 +21,8 @@ class LevelLogic {
 
   /// Fills both lists and begins at the free level.
   void begin();
+  /// A training that could not be read is looked for again.
+  void look_again();
   /// Another level, another exam has been chosen.
   void level_chosen();
   void exam_chosen();
@@ -32,7 +34,8 @@ class LevelLogic {
   void training_saved();
 
  private:
-  void fill_levels(bool saved);
+  void look_for_training();
+  void fill_levels(RecordRead saved);
   void continue_training();
   void restore();
   void restore_failed(std::exception_ptr error);
@@ -45,6 +48,7 @@ class LevelLogic {
   Choices& choices_;
   Frames& frames_;
   Tell tell_;
+  RecordRead saved_ = RecordRead::none;  ///< the training that the list tells of
   Level before_ = Level::free;
 };
 

@@ -13,18 +13,19 @@ std::array<std::string, 5> level_names(const TextTables& tables, bool saved) {
   return names;
 }
 
-bool saved_training_offered(Server& server, const Settings& settings) {
+RecordRead saved_training(Server& server, const Settings& settings) {
   std::vector<std::string> record;
   std::vector<std::string> state;
-  return server.ServerRead(record_key('E', settings), record) &&
-         server.ServerRead(record_key('A', settings), state) && says_valid(state);
+  const RecordRead read =
+      server.read_both(record_key('E', settings), record, record_key('A', settings), state);
+  return is_used_up(state) ? RecordRead::none : read;
 }
 
 StoredTraining read_stored_training(Server& server, const Settings& settings) {
   std::vector<std::string> record;
   std::vector<std::string> state;
-  if (!server.ServerRead(record_key('E', settings), record) ||
-      !server.ServerRead(record_key('A', settings), state)) {
+  if (server.read_both(record_key('E', settings), record, record_key('A', settings), state) !=
+      RecordRead::found) {
     throw RuntimeError(RuntimeError::kHostFailure, "The saved training cannot be read",
                        "training_Combo");
   }

@@ -17,9 +17,9 @@ inline constexpr char kNoSavedTraining[] = "---------------";
 /// The five entries of the level list; the third is the dashes unless `saved`.
 std::array<std::string, 5> level_names(const TextTables& tables, bool saved);
 
-/// True when both records of a training of the chosen exercise can be read and its state says that
-/// it is valid.
-bool saved_training_offered(Server& server, const Settings& settings);
+/// Whether there is a training of the chosen exercise to go on with: `found` when both records can
+/// be read and the state says that it is valid.
+RecordRead saved_training(Server& server, const Settings& settings);
 
 /// A stored training, whole and fit to go on with: the settings in force with the stored ones laid
 /// over them (records included), and the state of the box.

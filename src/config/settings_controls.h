@@ -15,7 +15,7 @@ struct SettingsControls {
   Control cmdHilfe{owner, "cmdHilfe"};
   Control cmdOptionRead{owner, "cmdOptionRead"};
   Control cmdOptionSave{owner, "cmdOptionSave"};
-  Control status{owner, "status"};  ///< what a supervisor's button has done, until the next action
+  Control status{owner, "status"};  ///< what there is to know in one line, until the next action
   Control cmdZurueck{owner, "cmdZurueck"};
   Control cmdOk{owner, "cmdOk"};
   ListControl training_Combo{owner, "training_Combo"};

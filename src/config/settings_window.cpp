@@ -92,6 +92,11 @@ void SettingsWindow::choose(ListControl& list, int entry) {
   click(list);
 }
 
+void SettingsWindow::open_list(const ListControl& list) {
+  if (&list != &training_Combo || !takes_input(list)) return;
+  handle("training_Combo_click.", [this] { levels_.look_again(); });
+}
+
 void SettingsWindow::slide(SliderControl& slider, int value) {
   if (!takes_input(slider)) return;
   slider.value = std::clamp(value, slider.minimum, slider.maximum);
@@ -122,6 +127,7 @@ void SettingsWindow::training_saved() {
 
 void SettingsWindow::show_again() {
   cmdOk.enabled = true;
+  levels_.look_again();
   show();
 }
 

@@ -35,6 +35,8 @@ class SettingsWindow : public Window, public SettingsControls {
   void click(Control& control);
   /// The user chose an entry of a list.
   void choose(ListControl& list, int entry);
+  /// The user opens a list: what it offers may have changed.
+  void open_list(const ListControl& list);
   /// The user moved a slider.
   void slide(SliderControl& slider, int value);
   /// Right click on a frame: the supervisor's menu.

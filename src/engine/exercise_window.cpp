@@ -26,7 +26,8 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       box_(context.settings, context.key, context.statistics, context.chance),
       material_(context.settings, context.key, context.row, box_, context.chance),
       answers_(context.common.scheduler, context.protocol),
-      training_(context.server, context.errors, context.settings, context.saved_training),
+      training_(context.server, context.errors, context.settings, context.saved_training,
+                context.common.scheduler, waits()),
       standing_(*this, context.common.texts, box_),
       sitting_(context.common.scheduler),
       next_task_(context.common.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
@@ -205,22 +206,24 @@ void ExerciseWindow::finish_row() {
     standing_.show_test();
   }
   enter(next);
-  if (next == Phase::training_finished) finish_training();
+  if (next == Phase::training_finished) run("intervall_antw.", finish_training());
 }
 
 // The list of the settings window follows the store; while the store is silent it stays.
-void ExerciseWindow::finish_training() {
-  if (training_.drop()) return context_.caller.training_finished();
-  switch (training_.stored()) {
-    case RecordRead::found:
-      context_.caller.training_saved();
-      return tell(word(text::training_not_marked));
-    case RecordRead::none:
-      context_.caller.training_finished();
-      return tell(word(text::no_training_stored));
-    case RecordRead::failed:
-      return tell(word(text::store_not_read));
-  }
+Sequence ExerciseWindow::finish_training() {
+  const auto hold = [this](bool on) {
+    zurueck.enabled = !(held_ = on);
+    show_wait(*this, *this, on);
+  };
+  hold(true);
+  bool dropped = false;
+  co_await training_.drop(dropped);
+  hold(false);
+  const RecordRead left = dropped ? RecordRead::none : training_.stored();
+  if (left == RecordRead::failed) co_return tell(word(text::store_not_read));
+  const bool found = left == RecordRead::found;
+  found ? context_.caller.training_saved() : context_.caller.training_finished();
+  if (!dropped) tell(word(found ? text::training_not_marked : text::no_training_stored));
 }
 
 void ExerciseWindow::CmdNextAufg_click() {
@@ -286,40 +289,41 @@ void ExerciseWindow::zurueck_click() {
 void ExerciseWindow::way_out() {
   const bool running =
       is_test(level()) && lesson_nr_ > 0 && !is_over(phase_) && phase_ != Phase::broken;
-  if (!asking_) run(kLeavingTag, running ? break_off() : leave());
+  if (!held_) run(kLeavingTag, running ? break_off() : leave());
 }
 
 // A test can't be gone on with, so a slip must not end it. Its time goes on meanwhile.
 Sequence ExerciseWindow::break_off() {
-  asking_ = true;
+  held_ = true;
   const TextKey text = level() == Level::exam ? text::break_off_exam : text::break_off_test;
   const Message told{
       caption,  word(text), MessageStyle::yes_no, word(text::break_off), word(text::keep_going),
       Reply::no};
   const Reply reply = co_await ask(waits(), common().dialogs, told);
-  asking_ = false;
+  held_ = false;
   if (reply == Reply::yes) co_await leave();
 }
 
 Sequence ExerciseWindow::leave() {
   if (phase_ == Phase::leaving) co_return;
   const bool ended = is_over(phase_) || phase_ == Phase::broken;
-  std::function<bool()> keep;
+  WayOut::Keep keep;
   if (!ended && is_training(level()) && sitting_.tasks() > 0) {
-    keep = [this] {
+    keep = [this](bool& kept) {
       return training_.keep(training_state(box_, context_.settings, context_.statistics,
-                                           answers_.counts.wrong, answers_.counts.repeats));
+                                           answers_.counts.wrong, answers_.counts.repeats),
+                            kept);
     };
   }
   // A training that goes on replaces nothing but its own earlier state.
-  const bool replaces =
-      keep && level() == Level::training && training_.stored() == RecordRead::found;
+  const RecordRead former =
+      keep && level() == Level::training ? training_.stored() : RecordRead::none;
   begin_leaving();
   enter(Phase::leaving);
   stop_all();
   const auto in_all =
       is_test(level()) && lesson_nr_ > 0 ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
-  co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, replaces);
+  co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, former);
 }
 
 void ExerciseWindow::stop_all() {

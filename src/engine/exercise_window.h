@@ -61,7 +61,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void hold_back();
   void go_on_after_reading();
   Sequence break_off();
-  void finish_training();
+  Sequence finish_training();
   Sequence leave();
   void Uhrzeit_timer();
   void stop_all();
@@ -81,7 +81,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Timer testtimer_;
   Phase phase_ = Phase::starting;
   int lesson_nr_ = 0;
-  bool asking_ = false;  ///< whether to break off
+  bool held_ = false;  ///< leaving has to wait: for an answer, or until a record is stored
 };
 
 }  // namespace tonarix

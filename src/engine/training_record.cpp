@@ -1,41 +1,87 @@
 #include "engine/training_record.h"
 
 #include "base/runtime_error.h"
-#include "settings/exercises.h"
 
 namespace tonarix {
 
-bool TrainingRecord::keep(const SavedTraining& training) {
-  constexpr std::string_view kTag = "zurueck_click.";
-  const std::string settings_key = record_key('E', settings_);
-  const std::string state_key = record_key('A', settings_);
-  std::vector<std::string> former;
-  bool settings_first = false;
-  try {
-    const RecordRead read = server_.read_record(settings_key, former);
-    if (read == RecordRead::failed) {
-      throw RuntimeError(RuntimeError::kHostFailure, "The former record cannot be read",
-                         settings_key);
+namespace {
+
+constexpr double kPatience = 10'000;  // ms
+constexpr double kPause = 50;         // ms between two tries
+constexpr std::string_view kKeepTag = "zurueck_click.";
+constexpr std::string_view kDropTag = "intervall_antw.";
+const std::vector<std::string> kUsedUp{"False"};
+
+}  // namespace
+
+Sequence TrainingRecord::patiently(std::function<void()> call) {
+  const Scheduler::Time end = scheduler_.now() + milliseconds(kPatience);
+  while (true) {
+    try {
+      call();
+      co_return;
+    } catch (const HostBusy&) {
+      if (scheduler_.now() >= end) throw;
     }
-    // Where no settings are stored, even a valid state is no training: then the state goes first,
-    // for the new settings must not meet a state of old.
-    settings_first = read == RecordRead::found;
+    co_await waits_.FullDelay(kPause);
+  }
+}
+
+Sequence TrainingRecord::keep(SavedTraining training, bool& kept) {
+  kept = false;
+  try {
     settings_.AntwSicherung = to_record(training, settings_);
-    const Variant state = Variant::strings(settings_.AntwSicherung);
-    if (!settings_first) server_.ServerStore(state_key, state);
-    server_.ServerStore(settings_key, Variant::strings(settings_.EinstSicherung));
-    if (settings_first) server_.ServerStore(state_key, state);
-    current_ = training;
-    return true;
+    const std::vector<Server::Record> records{
+        {settings_key(), Variant::strings(settings_.EinstSicherung)},
+        {state_key(), Variant::strings(settings_.AntwSicherung)}};
+    std::function<void()> store_both = [this, &records] {
+      if (!server_.ServerStoreTogether(records)) keep_one_by_one();
+    };
+    co_await patiently(std::move(store_both));
+    current_ = std::move(training);
+    kept = true;
   } catch (const std::exception&) {
-    errors_.log(kTag, std::current_exception());
+    errors_.log(kKeepTag, std::current_exception());
+  }
+}
+
+void TrainingRecord::keep_one_by_one() {
+  Strings former_settings;
+  Strings former_state;
+  const RecordRead settings_read = server_.read_record(settings_key(), former_settings);
+  const RecordRead state_read = server_.read_record(state_key(), former_state);
+  if (settings_read == RecordRead::failed || state_read == RecordRead::failed) {
+    throw RuntimeError(RuntimeError::kHostFailure, "The former training cannot be read",
+                       "TrainingRecord");
   }
   try {
-    if (settings_first) server_.ServerStore(settings_key, Variant::strings(former));
+    store(state_key(), kUsedUp);
+    store(settings_key(), settings_.EinstSicherung);
+    store(state_key(), settings_.AntwSicherung);
   } catch (const std::exception&) {
-    errors_.log(kTag, std::current_exception());
+    const std::exception_ptr error = std::current_exception();
+    put_back(settings_read, former_settings, state_read, former_state);
+    std::rethrow_exception(error);
   }
-  return false;
+}
+
+// The former state may become valid again only beside the former settings.
+void TrainingRecord::put_back(RecordRead settings_read, const Strings& settings,
+                              RecordRead state_read, const Strings& state) {
+  if (state_read != RecordRead::found) return;
+  try {
+    Strings now;
+    const RecordRead read = server_.read_record(settings_key(), now);
+    const bool untouched = read == settings_read && now == settings;
+    if (!untouched && settings_read != RecordRead::found) return;
+    if (!untouched) {
+      store(state_key(), kUsedUp);  // the new one may have been stored and refused all the same
+      store(settings_key(), settings);
+    }
+    store(state_key(), state);
+  } catch (const std::exception&) {
+    errors_.log(kKeepTag, std::current_exception());
+  }
 }
 
 const SavedTraining& TrainingRecord::resumed() const {
@@ -45,25 +91,22 @@ const SavedTraining& TrainingRecord::resumed() const {
   return *current_;
 }
 
-bool TrainingRecord::drop() {
+Sequence TrainingRecord::drop(bool& dropped) {
+  dropped = false;
   try {
-    server_.ServerStore(record_key('A', settings_), Variant::strings({"False"}));
-    return true;
+    std::function<void()> mark = [this] { store(state_key(), kUsedUp); };
+    co_await patiently(std::move(mark));
+    dropped = true;
   } catch (const std::exception&) {
-    errors_.log("intervall_antw.", std::current_exception());
-    return false;
+    errors_.log(kDropTag, std::current_exception());
   }
 }
 
 RecordRead TrainingRecord::stored() const {
-  std::vector<std::string> record;
-  std::vector<std::string> state;
-  const RecordRead settings_read = server_.read_record(record_key('E', settings_), record);
-  const RecordRead state_read = server_.read_record(record_key('A', settings_), state);
-  const bool used_up = state_read == RecordRead::found && !says_valid(state);
-  // One half that is surely missing is enough to know that there is none.
-  if (used_up || settings_read == RecordRead::none) return RecordRead::none;
-  return state_read == RecordRead::found ? settings_read : state_read;
+  Strings record;
+  Strings state;
+  const RecordRead read = server_.read_both(settings_key(), record, state_key(), state);
+  return is_used_up(state) ? RecordRead::none : read;
 }
 
 }  // namespace tonarix

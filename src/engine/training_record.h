@@ -1,39 +1,68 @@
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "base/delay.h"
+#include "base/sequence.h"
 #include "host/error_report.h"
 #include "host/server.h"
+#include "settings/exercises.h"
 #include "settings/saved_training.h"
 #include "settings/settings.h"
 
 namespace tonarix {
 
 /// The training of the chosen exercise among the host's records: kept, gone on with, dropped.
+/// Settings and state belong together: the settings of one training beside the state of another
+/// would go on with nonsense.
 class TrainingRecord {
  public:
-  /// `current` is what the settings window read when level 2 was chosen.
+  /// `current` is what the settings window read when level 2 was chosen. While the host is busy a
+  /// store waits in `waits`, which closing does not cut short, up to 10 s.
   TrainingRecord(Server& server, ErrorReport& errors, Settings& settings,
-                 std::optional<SavedTraining>& current)
-      : server_(server), errors_(errors), settings_(settings), current_(current) {}
+                 std::optional<SavedTraining>& current, Scheduler& scheduler, Waits& waits)
+      : server_(server),
+        errors_(errors),
+        settings_(settings),
+        current_(current),
+        scheduler_(scheduler),
+        waits_(waits) {}
 
-  /// Stores settings and state, both or none: the settings of one training beside the state of
-  /// another would go on with nonsense. Nothing is stored when the former settings can't be read
-  /// and so could not be restored. False when the host failed; the reason is in the log.
-  bool keep(const SavedTraining& training);
+  /// Stores both records, or none. Where the host can't take them at once, the state is marked as
+  /// used up before and valid last, so that whatever breaks off in between leaves no training
+  /// rather than a mixture; nothing is stored where the former records can't be read. `kept` is
+  /// false when the host failed; the reason is in the log.
+  Sequence keep(SavedTraining training, bool& kept);
   /// The training at level 2; RuntimeError 1000 when none was read.
   const SavedTraining& resumed() const;
-  /// Marks the training as used up. False when the host failed.
-  bool drop();
-  /// Whether the store holds a training to go on with, whichever it is; `failed` when the host
-  /// doesn't tell.
+  /// Marks the training as used up. `dropped` is false when the host failed.
+  Sequence drop(bool& dropped);
+  /// Whether the store holds a training to go on with, whichever it is.
   RecordRead stored() const;
 
  private:
+  using Strings = std::vector<std::string>;
+  /// Calls, again while the host is busy; at last its HostBusy goes on.
+  Sequence patiently(std::function<void()> call);
+  /// For a host that takes one record at a time.
+  void keep_one_by_one();
+  void put_back(RecordRead settings_read, const Strings& settings, RecordRead state_read,
+                const Strings& state);
+  std::string settings_key() const { return record_key('E', settings_); }
+  std::string state_key() const { return record_key('A', settings_); }
+  void store(const std::string& key, const Strings& record) {
+    server_.ServerStore(key, Variant::strings(record));
+  }
+
   Server& server_;
   ErrorReport& errors_;
   Settings& settings_;
   std::optional<SavedTraining>& current_;
+  Scheduler& scheduler_;
+  Waits& waits_;
 };
 
 }  // namespace tonarix

@@ -13,8 +13,14 @@ constexpr double kResultPause = 300;  // ms for the result sheet to stand before
 
 }  // namespace
 
-Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces) {
-  if (keep) co_await ask_to_save(std::move(keep), replaces);
+void show_wait(Window& window, ExerciseControls& controls, bool waiting) {
+  window.busy = waiting;
+  controls.hint.visible = !waiting;
+  controls.WaitMeldung.visible = waiting;
+}
+
+Sequence WayOut::leave(WorkDone work, Keep keep, RecordRead former) {
+  if (keep) co_await ask_to_save(std::move(keep), former);
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
@@ -26,24 +32,28 @@ Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces)
   co_await write_protocol();
 }
 
-Sequence WayOut::ask_to_save(std::function<bool()> keep, bool replaces) {
+Sequence WayOut::ask_to_save(Keep keep, RecordRead former) {
   std::string asked = Wort(495_text);
-  if (replaces) asked += " " + Wort(text::replaces_saved_training);
+  if (former == RecordRead::found) asked += " " + Wort(text::replaces_saved_training);
+  if (former == RecordRead::failed) asked += " " + Wort(text::may_replace_saved_training);
   const Message question{Wort(8_text), asked, MessageStyle::yes_no, Wort(text::save_training),
                          Wort(text::do_not_save)};
   Reply reply = co_await ask(waits_, context_.common.dialogs, question);
   const Message again{Wort(8_text), Wort(text::training_not_saved), MessageStyle::yes_no,
                       Wort(text::try_again), Wort(text::leave_without_saving)};
-  while (reply == Reply::yes && !keep()) {
+  bool kept = false;
+  while (reply == Reply::yes) {
+    show_wait(window_, controls_, true);
+    co_await keep(kept);
+    show_wait(window_, controls_, false);
+    if (kept) break;
     reply = co_await ask(waits_, context_.common.dialogs, again);
   }
   if (reply == Reply::yes) context_.caller.training_saved();
 }
 
 Sequence WayOut::write_protocol() {
-  window_.busy = true;
-  controls_.hint.visible = false;
-  controls_.WaitMeldung.visible = true;
+  show_wait(window_, controls_, true);
   co_await waits_.FullDelay(0);
   FinishResult result = close_protocol();
   const auto why = [this](std::error_code error) {

@@ -8,6 +8,9 @@
 
 namespace tonarix {
 
+/// Says that a moment is needed, and later that it is over. The window can be moved and read.
+void show_wait(Window& window, ExerciseControls& controls, bool waiting);
+
 /// The last steps of an exercise: keeping the training, the result sheet, the protocol, and back to
 /// the settings.
 class WayOut {
@@ -15,15 +18,17 @@ class WayOut {
   WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits)
       : context_(context), window_(window), controls_(controls), waits_(waits) {}
 
-  /// Walks to the end; `work` goes on the sheet. `keep` stores the training and says whether it
-  /// could; empty where there is nothing to keep, and then nothing is asked. `replaces`: another
-  /// saved training would go, which the question says.
-  Sequence leave(WorkDone work, std::function<bool()> keep, bool replaces);
+  /// Stores the training and says whether it could.
+  using Keep = std::function<Sequence(bool& kept)>;
+  /// Walks to the end; `work` goes on the sheet. `keep` is empty where there is nothing to keep,
+  /// and then nothing is asked. `former`: whether another saved training would go, which the
+  /// question says.
+  Sequence leave(WorkDone work, Keep keep, RecordRead former);
   /// What can still be done is done: the student is told and is back at the settings.
   void give_up(std::string_view tag, std::exception_ptr error);
 
  private:
-  Sequence ask_to_save(std::function<bool()> keep, bool replaces);
+  Sequence ask_to_save(Keep keep, RecordRead former);
   Sequence write_protocol();
   FinishResult close_protocol();
   void go_back();

@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/runtime_error.h"
+
 namespace tonarix {
 
 /// A value that passes between the module and its host: empty, a flag, a number, a text or an array
@@ -43,6 +45,20 @@ class Variant {
   std::variant<std::monostate, bool, double, std::string, Array> value_;
 };
 
+/// The host is occupied just now; the same call may be answered in a moment.
+class HostBusy final : public RuntimeError {
+ public:
+  HostBusy(const std::string& description, std::string source)
+      : RuntimeError(kHostFailure, description, std::move(source)) {}
+};
+
+/// What the host keeps under this name is no record any more; it stays as it is.
+class DamagedRecord final : public RuntimeError {
+ public:
+  DamagedRecord(const std::string& description, std::string source)
+      : RuntimeError(kHostFailure, description, std::move(source)) {}
+};
+
 /// The host application's one keyed operation.
 class Host {
  public:
@@ -50,6 +66,9 @@ class Host {
   /// `key` selects the function, `input` carries what the module gives, `output` is pre-set with a
   /// default and overwritten. True when the host answered. A failing call raises RuntimeError.
   virtual bool Request(std::string& key, Variant& input, Variant& output) = 0;
+  /// Stores several records at once, each as "STORE" takes it: all of them or, when the call
+  /// raises, none. False, with nothing stored, where the host can't.
+  virtual bool StoreTogether(const Variant::Array&) { return false; }
 };
 
 }  // namespace tonarix

@@ -121,6 +121,14 @@ void Server::ServerStore(const std::string& short_key, const Variant& data) {
   call("STORE", stored_);
 }
 
+bool Server::ServerStoreTogether(const std::vector<Record>& records) {
+  Variant::Array inputs;
+  for (const auto& [short_key, data] : records) {
+    inputs.push_back(Variant::Array{application_.executable, short_key, data});
+  }
+  return ServerObject().StoreTogether(inputs);
+}
+
 RecordRead Server::read_record(const std::string& short_key, std::vector<std::string>& target) {
   Variant output;
   try {
@@ -128,6 +136,8 @@ RecordRead Server::read_record(const std::string& short_key, std::vector<std::st
     std::string key = "READ";
     Variant input = Variant::Array{application_.executable, short_key};
     if (!host || !host->Request(key, input, output)) return RecordRead::failed;
+  } catch (const DamagedRecord&) {
+    return RecordRead::damaged;
   } catch (const std::exception&) {
     return RecordRead::failed;
   }
@@ -136,8 +146,18 @@ RecordRead Server::read_record(const std::string& short_key, std::vector<std::st
     target = texts_of(output);
     return RecordRead::found;
   } catch (const RuntimeError&) {
-    return RecordRead::none;
+    return RecordRead::damaged;
   }
+}
+
+RecordRead Server::read_both(const std::string& first_key, std::vector<std::string>& first,
+                             const std::string& second_key, std::vector<std::string>& second) {
+  const RecordRead one = read_record(first_key, first);
+  const RecordRead other = read_record(second_key, second);
+  for (const RecordRead read : {RecordRead::none, RecordRead::failed, RecordRead::damaged}) {
+    if (one == read || other == read) return read;
+  }
+  return RecordRead::found;
 }
 
 void Server::ServerLogMess(const std::string& text) {

@@ -12,9 +12,9 @@
 
 namespace tonarix {
 
-/// What asking for a record came to: read; the host says that there is none, or what it holds is no
+/// What asking for a record came to: read; the host says that there is none; what it holds is no
 /// record of texts; the host failed or did not answer.
-enum class RecordRead : std::uint8_t { found, none, failed };
+enum class RecordRead : std::uint8_t { found, none, damaged, failed };
 
 /// The link to the host application: everything the module asks of it. One instance for the
 /// process.
@@ -57,6 +57,13 @@ class Server {
   /// The language that the host names now; the last one known when it names none.
   std::string ServerLang();
   void ServerStore(const std::string& short_key, const Variant& data);
+  /// Stores all records or none. False, with nothing stored, for a host that takes only one at a
+  /// time.
+  struct Record {
+    std::string short_key;
+    Variant data;
+  };
+  bool ServerStoreTogether(const std::vector<Record>& records);
   /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
   /// read.
   bool ServerRead(const std::string& short_key, std::vector<std::string>& target) {
@@ -65,6 +72,10 @@ class Server {
   /// The same, for whoever must not take a failing host for an empty store. The target is untouched
   /// unless the record was found.
   RecordRead read_record(const std::string& short_key, std::vector<std::string>& target);
+  /// Reads two records that belong together: `none` as soon as one is surely missing, `found` with
+  /// both.
+  RecordRead read_both(const std::string& first_key, std::vector<std::string>& first,
+                       const std::string& second_key, std::vector<std::string>& second);
   void ServerLogMess(const std::string& text);
   /// Logs a failure at `place`. A host that fails here too is passed over: there is nobody left to
   /// tell.

@@ -19,6 +19,11 @@ inline bool says_valid(const std::vector<std::string>& state) {
   return !state.empty() && state.front() == kValidState;
 }
 
+/// True for the record of a state, where there is one, that can't be gone on with.
+inline bool is_used_up(const std::vector<std::string>& state) {
+  return !state.empty() && !says_valid(state);
+}
+
 /// One row of the frequency box.
 struct BoxRow {
   std::int16_t value = 0;   ///< signed interval value

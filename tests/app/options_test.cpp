@@ -34,5 +34,23 @@ TEST(Options, MistakesAreNamedInOneLine) {
   }
 }
 
+TEST(Options, TheUsualFolderIsNeverWhereTheProgramWasStarted) {
+  constexpr const char* kNames[] = {"XDG_DATA_HOME", "HOME"};
+  struct Case {
+    const char *data, *home, *folder;
+  };
+  for (const auto& [data, home, folder] : {Case{"/d", "/h", "/d/tonarix"},
+                                           {"d", "/h", "/h/.local/share/tonarix"},
+                                           {"", "/h", "/h/.local/share/tonarix"},
+                                           {nullptr, "h", ""},
+                                           {nullptr, "", ""},
+                                           {nullptr, nullptr, ""}}) {
+    for (const auto& [name, value] : {std::pair(kNames[0], data), {kNames[1], home}}) {
+      value != nullptr ? setenv(name, value, 1) : unsetenv(name);
+    }
+    EXPECT_EQ(usual_data_folder().value_or(""), folder);
+  }
+}
+
 }  // namespace
 }  // namespace tonarix

@@ -86,6 +86,50 @@ TEST(Levels, HalfATrainingIsNotOfferedAndABrokenOneToldAndLevelOneChosen) {
   }
 }
 
+TEST(Levels, ATrainingThatCannotBeReadNowIsToldAndOfferedAgainWhenItCan) {
+  for (const bool shown_again : {false, true}) {
+    SettingsBed bed;
+    bed.store("E1", kSaved);
+    bed.store("A1", kState);
+    bed.host.failing = {"READ"};
+    Einstellung1& window = bed.open();
+    const auto look = [&] {
+      shown_again ? window.show_again() : window.open_list(window.training_Combo);
+    };
+    for (const bool readable : {false, true}) {
+      if (readable) bed.host.failing.clear();
+      bed.choose_level(3);
+      EXPECT_EQ(window.status.text, "");
+      look();
+      EXPECT_EQ(window.training_Combo.items[2].text, readable ? "[565]" : "---------------");
+      EXPECT_EQ(window.status.text, readable ? "" : "[1037]");
+      EXPECT_EQ(window.training_Combo.selected, 3);
+    }
+    const std::size_t reads = bed.host.calls_of("READ").size();
+    look();
+    EXPECT_EQ(bed.host.calls_of("READ").size(), reads);
+  }
+}
+
+TEST(Levels, ADamagedRecordIsToldOnceWhenTheTrainingIsLookedFor) {
+  for (const char* key : {"E1", "A1"}) {
+    for (const auto& other : {kState, {"False"}, {}}) {
+      SettingsBed bed;
+      if (!other.empty()) bed.store("A1", other);
+      if (other != kState) bed.store("E1", kSaved);
+      bed.records[std::string("vemo06/") + key] = "no array";
+      Einstellung1& window = bed.open();
+      // Beside a state that is used up, or beside nothing, there was none to lose.
+      const bool lost = key[0] == 'A' ? other != kState : other == kState;
+      EXPECT_EQ(window.status.text, lost ? "[1038]" : "") << key << other.size();
+      EXPECT_EQ(window.training_Combo.items[2].text, "---------------");
+      bed.choose_level(1);
+      window.show_again();
+      EXPECT_EQ(window.status.text, "");
+    }
+  }
+}
+
 TEST(Levels, ATrainingKeepsItsSettingsATestItsOrderAndAnExamLocksWhatItGoverns) {
   SettingsBed bed;
   Einstellung1& window = bed.open();

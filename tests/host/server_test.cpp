@@ -78,6 +78,8 @@ TEST_F(ServerTest, RecordsComeBackWholeThroughAHostOfTheirOwnOrNotAtAll) {
   for (const Variant& answer : answers) {
     host.answers["READ"] = answer;
     EXPECT_FALSE(server.ServerRead("A1", target));
+    const bool says_none = answer == Variant(Array{"NIL", "1"});
+    EXPECT_EQ(server.read_record("A1", target), says_none ? RecordRead::none : RecordRead::damaged);
   }
   host.answers.clear();
   EXPECT_EQ(server.read_record("A2", target), RecordRead::none);

@@ -53,6 +53,9 @@ class FakeHost {
   std::map<std::string, Variant> answers;  ///< the output by key, before all else
   std::set<std::string> failing;           ///< keys whose call raises
   std::set<std::string> failing_records;   ///< records that can't be stored: "vemo06/E1"
+  bool together = false;                   ///< takes several records at once
+  int busy = 0;                            ///< so many stores are refused as HostBusy
+  std::string fates;                       ///< of the next stores: r refused, s stored and refused
   std::map<std::string, Variant> records;  ///< the store: "vemo06/E1"
   std::vector<Call> calls;
   int created = 0;
@@ -66,16 +69,40 @@ class FakeHost {
       owner.calls.push_back({instance, key, input, output});
       return owner.answer(key, input, output);
     }
+    bool StoreTogether(const Variant::Array& inputs) override {
+      if (!owner.together) return false;
+      owner.be_busy();
+      const auto former = owner.records;
+      try {
+        for (Variant input : inputs) {
+          Variant output;
+          std::string key = "STORE";
+          Request(key, input, output);
+        }
+      } catch (...) {
+        owner.records = former;
+        throw;
+      }
+      return true;
+    }
     FakeHost& owner;
     int instance;
   };
 
+  void be_busy() {
+    if (busy > 0 && busy--) throw HostBusy("Somebody else stores", "FakeHost");
+  }
   bool answer(const std::string& key, const Variant& input, Variant& output) {
     const bool stores = key == "STORE", reads = key == "READ";
     const std::string record =
         stores || reads ? input.at(0).text() + "/" + input.at(1).text() : std::string();
-    const bool fails = failing.contains(key) || (stores && failing_records.contains(record));
+    const char fate = stores && !fates.empty() ? fates.front() : ' ';
+    if (stores && !fates.empty()) fates.erase(0, 1);
+    if (fate == 's') records[record] = input.at(2);
+    const bool fails = fate == 'r' || fate == 's' || failing.contains(key) ||
+                       (stores && failing_records.contains(record));
     if (fails) throw RuntimeError(RuntimeError::kHostFailure, "No answer", "FakeHost");
+    if (stores) be_busy();
     if (key == "STATUS") output = Variant::Array{0, 2};
     if (stores) records[record] = input.at(2);
     if (reads) output = records.contains(record) ? records[record] : Variant(Variant::Array{"NIL"});

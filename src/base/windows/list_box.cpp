@@ -49,6 +49,7 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 void ListBox::showPopup() {
   if (may_open && !may_open()) return;
   set_accessible_name(*view(), name_);
+  if (on_popup) on_popup();
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
   QComboBox::showPopup();
 }

@@ -20,6 +20,8 @@ class ListBox : public QComboBox {
   void set_name(const QString& name);
   const QString& name() const { return name_; }
 
+  std::function<void()> on_popup;  ///< before the entries are shown
+
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

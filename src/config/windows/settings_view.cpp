@@ -74,6 +74,7 @@ void SettingsView::fill(Card& card, const FrameRow& row) {
     ListBox* box =
         list(control, [this, &control](int entry) { settings_window_.choose(control, entry); },
              {.keep_place = true});
+    box->on_popup = [this, &control] { settings_window_.open_list(control); };
     lists->addWidget(box, row.columns > 1 ? columns : 0);
   }
 }

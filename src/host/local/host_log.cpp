@@ -2,10 +2,14 @@
 
 #include <cstdio>
 
+#include "base/private_file.h"
+
 namespace tonarix {
 
-HostLog::HostLog(const std::filesystem::path& file, const WallClock& clock)
-    : file_(file, std::ios::app), clock_(clock) {}
+HostLog::HostLog(const std::filesystem::path& file, const WallClock& clock) : clock_(clock) {
+  make_private_file(file);
+  file_.open(file, std::ios::app);
+}
 
 void HostLog::add(const std::string& entry) {
   const CivilTime time = clock_.now();

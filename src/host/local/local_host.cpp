@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "base/module_texts.h"
+#include "base/private_file.h"
 #include "host/local/record_format.h"
 
 namespace tonarix {
@@ -12,7 +13,7 @@ namespace {
 
 /// Makes the folder; the path comes back so that what lies in it can be opened next.
 std::filesystem::path make_folder(const std::filesystem::path& folder, std::error_code& error) {
-  std::filesystem::create_directories(folder, error);
+  error = make_private_folder(folder);
   return folder;
 }
 
@@ -43,13 +44,12 @@ void LocalHostHome::find_problems() {
     case Place::file_renewed:
       problems_.push_back({text::database_damaged, store_.put_aside().string(), {}, reason});
       break;
-    case Place::memory_unwritable:
+    case Place::memory:
       problems_.push_back(
           {text::folder_read_only, folder, folder_error_ ? folder_error_ : store_.error(), reason});
       break;
-    case Place::memory_in_use:
-      problems_.push_back({text::database_in_use, folder, {}, reason});
-      break;
+    case Place::waiting:
+      break;  // it may be free before anything is wanted of it
   }
   if (store_.place() != Place::file) log_.add("host.sqlite: " + reason);
 }
@@ -69,7 +69,7 @@ bool LocalHost::Request(std::string& key, Variant& input, Variant& output) {
   } else if (key == "LANG") {
     output = home_.options_.language;
   } else if (key == "STORE") {
-    store(input);
+    StoreTogether({input});
   } else if (key == "READ") {
     read(input, output);
   } else if (key == "LOGMESS") {
@@ -97,22 +97,30 @@ void LocalHost::login(Variant& output) const {
   output = fields;
 }
 
-void LocalHost::store(const Variant& input) {
-  home_.store_.write(user(), input.at(0).text(), input.at(1).text(), write_record(input.at(2)));
+bool LocalHost::StoreTogether(const Variant::Array& inputs) {
+  RecordTexts records;
+  for (const Variant& input : inputs) {
+    records.insert_or_assign({user(), input.at(0).text(), input.at(1).text()},
+                             write_record(input.at(2)));
+  }
+  home_.store_.write(records);
+  return true;
 }
 
 void LocalHost::read(const Variant& input, Variant& output) {
   const std::string module = input.at(0).text();
   const std::string key = input.at(1).text();
   output = Variant::Array{"NIL"};
-  const std::optional<std::string> json = home_.store_.read(user(), module, key);
+  const std::optional<std::string> json = home_.store_.read({user(), module, key});
   if (!json) return;
   const std::optional<Variant> data = read_record(*json);
   if (data) {
     output = *data;
-  } else {
-    home_.log_.add("Record " + key + " of " + module + " is damaged; it stays as it is");
+    return;
   }
+  const std::string told = "Record " + key + " of " + module + " is damaged; it stays as it is";
+  home_.log_.add(told);
+  throw DamagedRecord(told, "LocalHost");
 }
 
 void LocalHost::log_error(const Variant& input) {

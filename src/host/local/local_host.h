@@ -21,7 +21,7 @@ struct LocalHostOptions {
   int role = 2;                     ///< 2 ordinary user, 4 supervisor
   std::string language = "Deutsch";
   std::optional<int> midi;  ///< device number
-  int patience_ms = 1000;   ///< how long a record waits for another program that writes
+  int patience_ms = 20;     ///< how long a call stands still for another program that writes
 };
 
 /// Something that the user should know: a text and what it speaks of, such as a path.
@@ -61,10 +61,10 @@ class LocalHost final : public Host {
  public:
   explicit LocalHost(LocalHostHome& home) : home_(home) {}
   bool Request(std::string& key, Variant& input, Variant& output) override;
+  bool StoreTogether(const Variant::Array& inputs) override;
 
  private:
   void login(Variant& output) const;
-  void store(const Variant& input);
   void read(const Variant& input, Variant& output);
   void log_error(const Variant& input);
   /// Half of each record's key: the same however the fields were spaced; empty for nobody.

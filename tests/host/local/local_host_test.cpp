@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -96,10 +97,47 @@ TEST_F(LocalHostTest, ADamagedRecordIsNoRecordAndStaysAsItIs) {
   Session session(folder, "A");
   const std::string half = R"({"record":["true","3)";
   RecordStore other(file, "x", 0);
-  other.write("A", "vemo06", "A1", half);
-  EXPECT_THAT(session.read(), ElementsAre("none"));
+  other.write({{{"A", "vemo06", "A1"}, half}});
+  Strings target;
+  EXPECT_EQ(session.server.read_record("A1", target), RecordRead::damaged);
   EXPECT_THAT(folder.content("data/host.log"), HasSubstr("Record A1 of vemo06 is damaged"));
-  EXPECT_EQ(other.read("A", "vemo06", "A1"), half);
+  EXPECT_EQ(other.read({"A", "vemo06", "A1"}), half);
+}
+
+TEST_F(LocalHostTest, RecordsThatBelongTogetherAreStoredTogetherOrNotAtAll) {
+  Session session(folder);
+  session.store({"old"});
+  const Variant anew = Variant::strings({"new"});
+  EXPECT_THROW(session.server.ServerStoreTogether({{"A1", anew}, {"E1", "no text: \xFF"}}),
+               RuntimeError);
+  EXPECT_THAT(session.read(), ElementsAre("old"));
+  EXPECT_TRUE(session.server.ServerStoreTogether({{"A1", anew}, {"E1", anew}}));
+  Strings target;
+  EXPECT_TRUE(Session(folder).server.ServerRead("E1", target) && target == Session(folder).read());
+}
+
+TEST_F(LocalHostTest, NobodyElseCanReadAnythingWhateverTheUmask) {
+  namespace fs = std::filesystem;
+  folder.write("old/data/host.sqlite", "");  // of a time before
+  for (const mode_t mask : {0000, 0777, 0022, 0000}) {
+    const fs::path data = folder.path / (mask == 0022 ? "old/data" : "new/deep/data");
+    const mode_t before = umask(0);
+    if (mask != 0022) fs::remove_all(folder.path / "new");
+    fs::create_directories(folder.path / "new/deep");
+    umask(mask);
+    const StandingClock clock;
+    LocalHostHome home({data, "A", 2, "Deutsch", {}, 0}, clock);
+    Server server{home.factory(), {"vemo06", "Intervalle", 1, 0, 0}};
+    server.ServerInit();
+    server.ServerStore("A1", Variant::strings({"x"}));
+    umask(before);
+    EXPECT_TRUE(home.problems().empty()) << mask;
+    const auto kept = fs::status(data).permissions();
+    EXPECT_EQ(kept, fs::perms(mask == 0022 ? 0755 : 0700)) << mask;
+    for (const auto& entry : fs::directory_iterator(data)) {
+      EXPECT_EQ(entry.status().permissions(), fs::perms(0600)) << entry << mask;
+    }
+  }
 }
 
 TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
@@ -134,18 +172,81 @@ TEST_F(LocalHostTest, ADamagedFileIsKeptAndANewOneTakesItsPlace) {
   }
 }
 
-TEST_F(LocalHostTest, AFileInUseIsLeftAloneAndKeepsItsRecords) {
+/// Another program at the same file.
+struct OtherProgram {
+  explicit OtherProgram(const std::filesystem::path& file) {
+    EXPECT_EQ(sqlite3_open(file.c_str(), &database), SQLITE_OK);
+  }
+  ~OtherProgram() { sqlite3_close(database); }
+  void run(const char* sql) {
+    EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql;
+  }
+  sqlite3* database = nullptr;
+};
+
+TEST_F(LocalHostTest, WhoReadsNeverWaitsAndAStoreIsTriedAgainWhenTheOtherIsDone) {
   Session session(folder);
   session.store({"old"});
-  sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open(file.c_str(), &other), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  EXPECT_THROW(session.store({"new"}), RuntimeError);
-  EXPECT_EQ(Session(folder).problem(), 1012_text);
-  sqlite3_close(other);
-  EXPECT_THAT(session.read(), ElementsAre("old"));
+  {
+    OtherProgram other(file);
+    other.run("BEGIN EXCLUSIVE; UPDATE records SET data = '?'");
+    EXPECT_THROW(session.store({"new"}), HostBusy);
+    EXPECT_THAT(session.read(), ElementsAre("old"));
+    EXPECT_THAT(Session(folder).read(), ElementsAre("old"));
+  }
   session.store({"new"});
-  EXPECT_THAT(Session(folder).read(), ElementsAre("new"));
+  OtherProgram other(file);
+  other.run("BEGIN; SELECT * FROM records");
+  session.store({"newer"});
+  EXPECT_THAT(Session(folder).read(), ElementsAre("newer"));
+}
+
+TEST_F(LocalHostTest, AFileThatCannotBeOpenedNowIsTriedAgainAtEachNeed) {
+  folder.write("data/host.sqlite", "");
+  std::optional<OtherProgram> other(file);
+  other->run("BEGIN EXCLUSIVE; CREATE TABLE other (x)");
+  Session session(folder);
+  EXPECT_TRUE(session.home.problems().empty());
+  EXPECT_THROW(session.store({"lost"}), HostBusy);
+  Strings target;
+  EXPECT_EQ(session.server.read_record("A1", target), RecordRead::failed) << "not: none";
+  other.reset();
+  session.store({"kept"});
+  EXPECT_THAT(Session(folder).read(), ElementsAre("kept"));
+
+  std::filesystem::rename(folder.path / "data", folder.path / "moved");
+  session.store({"anew"});
+  EXPECT_THAT(Session(folder).read(), ElementsAre("anew"));
+}
+
+TEST_F(LocalHostTest, WhatWasKeptInMemoryGoesIntoTheFileOnceThereIsOne) {
+  for (const bool stores_again : {false, true}) {
+    folder.write("data", "a file stands where the folder should be");
+    {
+      Session session(folder);
+      EXPECT_EQ(session.problem(), 1010_text);
+      session.store({"early"});
+      std::filesystem::remove(folder.path / "data");
+      if (stores_again) session.store({"late"});
+    }
+    EXPECT_THAT(Session(folder).read(), ElementsAre(stores_again ? "late" : "early"));
+    std::filesystem::remove_all(folder.path / "data");
+  }
+}
+
+TEST_F(LocalHostTest, TheJournalIsTheOneThatTheFileSystemCanKeep) {
+  // The second has no memory that the users of a write-ahead log could share, the last has it
+  // again.
+  sqlite3_vfs* const usual = sqlite3_vfs_find(nullptr);
+  for (const char* system : {usual->zName, "unix-dotfile", usual->zName}) {
+    sqlite3_vfs_register(sqlite3_vfs_find(system), 1);
+    Session session(folder);
+    session.store({system});
+    EXPECT_TRUE(session.home.problems().empty());
+    EXPECT_EQ(session.read(), Strings{system});
+    EXPECT_EQ(std::filesystem::exists(file.string() + "-wal"), system == usual->zName) << system;
+  }
+  sqlite3_vfs_register(usual, 1);
 }
 
 /// A record all of one letter, so that a mixture of two shows, and several pages long, so that a
@@ -186,7 +287,9 @@ TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
   std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
   const uid_t user = geteuid();
   constexpr uid_t kNobody = 65534;  // root writes everywhere
-  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);
+  const uid_t reader = user == 0 ? kNobody : user;
+  ASSERT_EQ(chown(file.c_str(), reader, gid_t(-1)), 0);
+  ASSERT_EQ(seteuid(reader), 0);
   {
     Session session(folder);
     EXPECT_EQ(session.problem(), 1010_text);
