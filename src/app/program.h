@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 
 #include "app/module.h"
@@ -37,10 +38,11 @@ class Program {
   WindowList& windows() { return windows_; }
 
  private:
-  Outside outside(const Options& options);
+  Outside outside();
   std::optional<TextKey> sound_problem() const;
   void tell_problems();
 
+  std::filesystem::path data_;
   QtScheduler scheduler_;
   SystemClock clock_;
   SeededChance chance_;

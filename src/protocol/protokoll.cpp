@@ -65,6 +65,7 @@ void Protokoll::ProtokollNeu() {
   sections.Add("", "settings");
   sections.Add("", "lessons");
   answer_given_ = any_answer_given_ = false;
+  finished_.reset();
 }
 
 void Protokoll::ProtokollAufgabe(const LessonFacts& facts) {
@@ -163,16 +164,19 @@ FinishResult Protokoll::finish_again() {
   if (!document_.has_document()) {
     throw RuntimeError(RuntimeError::kOther, "No document to finish", "ProtokollSchluss");
   }
+  if (finished_) return *finished_;
   FinishResult result;
   result.wanted = folders_.protocols / file_;
-  result.path = result.wanted;
   const WriteResult first = write_to(result.wanted);
-  if (first.written) return result;
-
-  result.error = first.error;
-  result.path = folders_.data / file_;
-  result.fell_back = write_to(result.path).written;
-  result.failed = !result.fell_back;
+  result.path = first.path;
+  if (!first.written) {
+    result.error = first.error;
+    const WriteResult second = write_to(folders_.data / file_);
+    result.path = second.path;
+    result.fell_back = second.written;
+    result.failed = !second.written;
+  }
+  if (!result.failed) finished_ = result;
   return result;
 }
 
