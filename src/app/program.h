@@ -10,6 +10,7 @@
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
 #include "host/local/local_host.h"
+#include "protocol/kept_files.h"
 #include "results/windows/qt_sheet_printer.h"
 #include "sound/devices/system_devices.h"
 
@@ -52,6 +53,7 @@ class Program {
   QtDialogs dialogs_;
   QtSheetPrinter printer_;
   FileDocumentWriter documents_;
+  KeptFiles kept_;
   SystemDevices devices_;
   LocalHostHome host_;
   Module module_;

@@ -6,7 +6,7 @@
 #include "base/module_texts.h"
 #include "engine/answer_rules.h"
 #include "engine/material/training_state.h"
-#include "music/analysis.h"
+#include "engine/row_facts.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -30,7 +30,8 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       standing_(*this, context.common.texts, box_),
       sitting_(context.common.scheduler),
       next_task_(context.common.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
-      way_out_(context_, *this, *this, waits()),
+      keeping_(context_, *this),
+      way_out_(context_, *this, *this, waits(), keeping_),
       start_(context.common.scheduler, [this] { start_timer(); }),
       Uhrzeit_(context.common.scheduler, [this] { Uhrzeit_timer(); }),
       testtimer_(context.common.scheduler, [this] { run(kLeavingTag, leave()); }) {
@@ -90,6 +91,7 @@ void ExerciseWindow::prepare_level() {
 }
 
 Sequence ExerciseWindow::mat_wahl() {
+  keeping_.now();
   sitting_.begin_task();
   material_.mat_wahl();
   next_task_.name(context_.common.texts, ++lesson_nr_);
@@ -111,17 +113,7 @@ Sequence ExerciseWindow::mat_wahl() {
 }
 
 LessonFacts ExerciseWindow::lesson_facts() {
-  const auto tones = static_cast<std::size_t>(context_.settings.invzahl) + 2;
-  const RowAnalysis analysis =
-      analyse_row(std::span(context_.row.inv_ton).first(tones), context_.key, context_.tone_names,
-                  context_.interval_names);
-  LessonFacts facts;
-  facts.iv_nr = to_int16(first_asked());
-  for (const AnalysedTone& tone : analysis.tones) facts.qz_tones.push_back(tone.qz);
-  for (const AnalysedInterval& interval : analysis.intervals) {
-    facts.intervals.push_back({interval.degree_text, interval.interval_text});
-  }
-  return facts;
+  return row_facts(context_, first_asked());
 }
 
 int ExerciseWindow::first_scored() const {
@@ -205,7 +197,14 @@ void ExerciseWindow::finish_row() {
     standing_.show_test();
   }
   enter(next);
+  const bool goes_on = is_training(level()) && next != Phase::training_finished;
+  keeping_.task_done(sitting_.tasks(), goes_on ? std::optional(training_now()) : std::nullopt);
   if (next == Phase::training_finished) finish_training();
+}
+
+SavedTraining ExerciseWindow::training_now() const {
+  return training_state(box_, context_.settings, context_.statistics, answers_.counts.wrong,
+                        answers_.counts.repeats);
 }
 
 // The list of the settings window follows the store; while the store is silent it stays.
@@ -287,13 +286,11 @@ Sequence ExerciseWindow::break_off() {
 
 Sequence ExerciseWindow::leave() {
   if (!begin_leaving()) co_return;
-  const bool ended = is_over(phase_) || phase_ == Phase::broken;
+  const bool broken = phase_ == Phase::broken;
+  const bool ended = is_over(phase_) || broken;
   std::function<bool()> keep;
   if (!ended && is_training(level()) && sitting_.tasks() > 0) {
-    keep = [this] {
-      return training_.keep(training_state(box_, context_.settings, context_.statistics,
-                                           answers_.counts.wrong, answers_.counts.repeats));
-    };
+    keep = [this] { return training_.keep(training_now()); };
   }
   // A training that goes on replaces nothing but its own earlier state.
   const bool replaces =
@@ -301,7 +298,13 @@ Sequence ExerciseWindow::leave() {
   enter(Phase::leaving);
   stop_all();
   const auto in_all = is_test(level()) ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
+  if (broken) co_await keeping_.tell_interrupted(waits());
   co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, replaces);
+}
+
+void ExerciseWindow::session_ends() {
+  stop_all();
+  keeping_.end_session();
 }
 
 void ExerciseWindow::stop_all() {

@@ -14,7 +14,10 @@ constexpr double kResultPause = 300;  // ms for the result sheet to stand before
 }  // namespace
 
 Sequence WayOut::leave(WorkDone work, std::function<bool()> keep, bool replaces) {
-  if (keep) co_await ask_to_save(std::move(keep), replaces);
+  if (keep) {
+    co_await ask_to_save(std::move(keep), replaces);
+    keeping_.settle_training();
+  }
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
@@ -66,10 +69,12 @@ Sequence WayOut::write_protocol() {
                                  Wort(text::protocol_saved_instead) + "\n" + result.path.string());
     co_await ask(waits_, context_.common.dialogs, told);
   }
+  keeping_.finish();
   go_back();
 }
 
 void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
+  keeping_.leave_behind();
   context_.errors.report(tag, error);
   go_back();
 }

@@ -5,6 +5,7 @@
 
 #include "engine/exercise_context.h"
 #include "engine/exercise_controls.h"
+#include "engine/keeping.h"
 
 namespace tonarix {
 
@@ -12,8 +13,9 @@ namespace tonarix {
 /// the settings.
 class WayOut {
  public:
-  WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits)
-      : context_(context), window_(window), controls_(controls), waits_(waits) {}
+  WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits,
+         Keeping& keeping)
+      : context_(context), window_(window), controls_(controls), waits_(waits), keeping_(keeping) {}
 
   /// Walks to the end; `work` goes on the sheet. `keep` stores the training and says whether it
   /// could; empty where there is nothing to keep, and then nothing is asked. `replaces`: another
@@ -32,6 +34,7 @@ class WayOut {
   Window& window_;
   ExerciseControls& controls_;
   Waits& waits_;
+  Keeping& keeping_;
 };
 
 }  // namespace tonarix

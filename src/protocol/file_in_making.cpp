@@ -85,10 +85,10 @@ std::optional<std::filesystem::path> FileInMaking::place_beside(const std::files
   return place;
 }
 
-std::optional<Descriptor> FileInMaking::replace(const std::filesystem::path& path) {
-  if (::rename(name_.c_str(), path.c_str()) != 0) return {};
+bool FileInMaking::replace(const std::filesystem::path& path) {
+  if (::rename(name_.c_str(), path.c_str()) != 0) return false;
   name_.clear();
-  return std::move(file_);
+  return true;
 }
 
 std::optional<Descriptor> lock_file(const std::filesystem::path& path) {

@@ -45,8 +45,10 @@ class FileInMaking {
   /// Gives the name, or the next free one ("a.xml", "a-2.xml", "a-3.xml"), and never replaces a
   /// file, however many programs want the name at once. The path that it got.
   std::optional<std::filesystem::path> place_beside(const std::filesystem::path& path);
-  /// Takes the place of an own older file. The open, locked file is handed over.
-  std::optional<Descriptor> replace(const std::filesystem::path& path);
+  /// Takes the place of an own older file.
+  bool replace(const std::filesystem::path& path);
+  /// Hands over the open, locked file.
+  Descriptor release() { return std::move(file_); }
 
  private:
   Descriptor file_;

@@ -81,6 +81,11 @@ class Protokoll {
   FinishResult ProtokollSchluss(const std::string& exercise_caption,
                                 const std::string& exercise_name,
                                 const std::vector<std::string>& pairs);
+  /// The document as ProtokollSchluss would write it now. To be asked between two tasks.
+  std::string so_far(const std::string& exercise_caption, const std::string& exercise_name,
+                     const std::vector<std::string>& pairs);
+  /// The name of its file.
+  const std::filesystem::path& file_name() const { return file_; }
   /// Tries to write the finished document again, for a user who has made room meanwhile; one that
   /// lies somewhere is not written a second time. A place that does not take it is logged under
   /// "ProtokollSchluss." with the system's words.
@@ -89,6 +94,9 @@ class Protokoll {
  private:
   void record_lesson(const LessonFacts& facts);
   void drop_unanswered();
+  /// What is known of the exercise as a whole, in place of what was told before.
+  void tell_exercise(const std::string& caption, const std::string& name,
+                     const std::vector<std::string>& pairs);
   WriteResult write_to(const std::filesystem::path& path);
   Element section(const std::string& name) const;
   Element current_answer() const;
