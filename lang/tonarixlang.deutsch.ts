@@ -1784,6 +1784,24 @@ Vorzeichen!</translation>
         <source>Taste %1</source>
         <translation>Taste %1</translation>
     </message>
+    <message id="1168s">
+        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
+        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</translation>
+    </message>
+    <message id="1169s">
+        <source>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <translation>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
+    </message>
+    <message id="1170s">
+        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</source>
+        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
+        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</translation>
+    </message>
+    <message id="1171s">
+        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
+    </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>
         <extracomment>title of the result sheet</extracomment>

@@ -14,7 +14,8 @@ Module::Module(Outside outside)
       errors_(server_, outside_.language, outside_.dialogs),
       protocol_(
           server_, outside_.clock, outside_.documents, outside_.folders,
-          [this](std::string_view tag, std::exception_ptr error) { errors_.log(tag, error); }) {
+          [this](std::string_view tag, std::exception_ptr error) { errors_.log(tag, error); }),
+      interrupted_(outside_.scheduler, server_, errors_, outside_.language, outside_.dialogs) {
   outside_.windows.on_empty = outside_.quit;
 }
 
@@ -34,10 +35,38 @@ void Module::open() {
                            .show_help = [this] { show_help(); },
                            .quit = outside_.quit,
                            .available = can_be_practised,
-                           .join_companion = {}};
+                           .join_companion = {},
+                           .started = [this] { take_up_interrupted(); }};
   auto& window = outside_.windows.open(std::make_unique<SelectionWindow>(std::move(context)));
   selection_ = WindowRef(window);
   window.load();
+}
+
+void Module::take_up_interrupted() {
+  outside_.scheduler.post([this] {
+    try {
+      interrupted_.take_up(outside_.kept, outside_.documents, outside_.folders);
+    } catch (const std::exception&) {
+      errors_.log("take_up.", std::current_exception());
+    }
+  });
+}
+
+void Module::end_session() {
+  if (std::exchange(session_ended_, true)) return;
+  const auto step = [this](const auto& work) {
+    try {
+      work();
+    } catch (const std::exception&) {
+      errors_.log("end_session.", std::current_exception());
+    }
+  };
+  WindowList& windows = outside_.windows;
+  for (int i = windows.count() - 1; i >= 0; --i) {
+    windows.at(i)->on_changed = nullptr;
+    step([&] { windows.at(i)->session_ends(); });
+  }
+  step([&] { server_.ServerMenue(windows); });
 }
 
 WindowContext Module::window_context() const {
@@ -106,6 +135,8 @@ void Module::open_exercise(SettingsWindow& caller) {
       .statistics = statistics_,
       .best = best_,
       .protocol = protocol_,
+      .kept = outside_.kept,
+      .interrupted = interrupted_,
       .tone_names = *tone_names_,
       .interval_names = *interval_names_,
       .caller = {.training_saved =

@@ -11,6 +11,7 @@
 #include "base/window.h"
 #include "config/selection_window.h"
 #include "config/settings_context.h"
+#include "engine/interrupted_exercises.h"
 #include "host/error_report.h"
 #include "host/language.h"
 #include "host/server.h"
@@ -38,6 +39,7 @@ struct Outside {
   Dialogs& dialogs;
   MidiDevices& devices;
   DocumentWriter& documents;
+  KeptExercises& kept;
   SheetPrinter& printer;
   Server::HostFactory create_host;
   ProtocolFolders folders;
@@ -59,6 +61,9 @@ class Module {
 
   /// Opens the first window and connects to the host.
   void open();
+  /// The program ends here and now: silence, protocol and kept training first, then the host is
+  /// given back control. Asks for nothing and shows nothing.
+  void end_session();
 
   const Settings& settings() const { return settings_; }
   const TaskRow& row() const { return row_; }
@@ -70,6 +75,7 @@ class Module {
   WindowContext window_context() const;
   void load_names();
   void tell_sound_problem();
+  void take_up_interrupted();
   void show_help(const std::function<void()>& closed = [] {});
 
   Outside outside_;
@@ -86,9 +92,11 @@ class Module {
   Midi midi_;
   MidiEvent midi_event_;
   Protokoll protocol_;
+  InterruptedExercises interrupted_;
   std::optional<ToneNames> tone_names_;
   std::optional<IntervalNames> interval_names_;
   bool sound_problem_told_ = false;
+  bool session_ended_ = false;
 };
 
 }  // namespace tonarix

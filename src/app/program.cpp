@@ -19,6 +19,7 @@
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "host/local/catalogue_folder.h"
+#include "protocol/file_in_making.h"
 #include "results/windows/result_view.h"
 
 namespace tonarix {
@@ -83,16 +84,18 @@ std::filesystem::path catalogue_place() {
 }
 
 Program::Program(const Options& options)
-    : chance_(clock_seed()),
+    : data_(options.data),
+      chance_(clock_seed()),
       windows_(scheduler_),
       language_(catalogue_folder(catalogue_place())),
       presenter_(windows_),
       dialogs_(scheduler_, language_, presenter_),
       printer_(language_, [this] { return presenter_.newest_visible(); }),
+      kept_(data_),
       devices_(scheduler_,
                [this](Scheduler::Task task) { scheduler_.post_from_thread(std::move(task)); }),
       host_(host_options(options), clock_),
-      module_(outside(options)) {
+      module_(outside()) {
   install_accessibility();
   presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
@@ -102,7 +105,7 @@ Program::Program(const Options& options)
 
 Program::~Program() = default;
 
-Outside Program::outside(const Options& options) {
+Outside Program::outside() {
   return {.scheduler = scheduler_,
           .windows = windows_,
           .language = language_,
@@ -111,9 +114,10 @@ Outside Program::outside(const Options& options) {
           .dialogs = dialogs_,
           .devices = devices_,
           .documents = documents_,
+          .kept = kept_,
           .printer = printer_,
           .create_host = host_.factory(),
-          .folders = {.protocols = protocol_folder(), .data = options.data},
+          .folders = {.protocols = protocol_folder(), .data = data_},
           .application = application_facts(),
           .computer_user = computer_user(),
           .screen_width = QGuiApplication::primaryScreen()->size().width(),
@@ -124,6 +128,9 @@ Outside Program::outside(const Options& options) {
 
 void Program::open() {
   module_.open();
+  scheduler_.post([this] {
+    for (const auto& folder : {protocol_folder(), data_}) clear_leftovers(folder);
+  });
   scheduler_.post(milliseconds(0), [this] { tell_problems(); });
 }
 

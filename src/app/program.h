@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 
 #include "app/module.h"
@@ -9,6 +10,7 @@
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
 #include "host/local/local_host.h"
+#include "protocol/kept_files.h"
 #include "results/windows/qt_sheet_printer.h"
 #include "sound/devices/system_devices.h"
 
@@ -37,10 +39,11 @@ class Program {
   WindowList& windows() { return windows_; }
 
  private:
-  Outside outside(const Options& options);
+  Outside outside();
   std::optional<TextKey> sound_problem() const;
   void tell_problems();
 
+  std::filesystem::path data_;
   QtScheduler scheduler_;
   SystemClock clock_;
   SeededChance chance_;
@@ -50,6 +53,7 @@ class Program {
   QtDialogs dialogs_;
   QtSheetPrinter printer_;
   FileDocumentWriter documents_;
+  KeptFiles kept_;
   SystemDevices devices_;
   LocalHostHome host_;
   Module module_;

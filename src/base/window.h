@@ -51,6 +51,9 @@ class Window {
 
   void show();
   void hide();
+  /// The program ends here and now, without a question: what sounds stops, and what would be lost
+  /// is put away. Nothing is shown any more.
+  virtual void session_ends() {}
 
   /// A window takes no input while it is hidden or disabled, nor on its way out.
   bool takes_input() const { return visible && enabled && !leaving_; }

@@ -67,6 +67,7 @@ Sequence SelectionWindow::start_up() {
   settings().tempo_ms = tempo_beats();
   settings().klein_bildschirm = context_.screen_width >= kWideScreen;
   choose_theory(static_cast<int>(settings().Theoriewahl));
+  if (context_.started) context_.started();
   if (all_well) co_return;
   // Only now is there a language to say it in.
   const Message box = context_.errors.message();

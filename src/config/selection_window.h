@@ -32,6 +32,8 @@ struct SelectionContext {
   std::function<bool(const ExerciseRow&)> available;
   /// Hands the host to its companion object, where the host has one.
   std::function<void(Host&)> join_companion;
+  /// The language and the user are known.
+  std::function<void()> started = {};
 };
 
 /// The window the module opens with: what is to be practised. Its options lie open where there is

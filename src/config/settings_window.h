@@ -50,6 +50,7 @@ class SettingsWindow : public Window, public SettingsControls {
   void training_saved();
   /// The exercise has closed.
   void show_again();
+  void session_ends() override { stop_sound(); }
   /// Caption of the kind of exercise, as the first window shows it.
   std::string exercise_caption() const;
 

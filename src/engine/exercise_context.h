@@ -6,6 +6,7 @@
 #include "base/chance.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
+#include "engine/interrupted_exercises.h"
 #include "host/error_report.h"
 #include "host/server.h"
 #include "music/interval.h"
@@ -43,6 +44,8 @@ struct ExerciseContext {
   Auswertung& statistics;
   Ergebnis& best;
   Protokoll& protocol;
+  KeptExercises& kept;
+  InterruptedExercises& interrupted;
   const ToneNames& tone_names;
   const IntervalNames& interval_names;
   ExerciseCaller caller;

@@ -6,7 +6,7 @@
 #include "base/module_texts.h"
 #include "engine/answer_rules.h"
 #include "engine/material/training_state.h"
-#include "music/analysis.h"
+#include "engine/row_facts.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -31,7 +31,8 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       standing_(*this, context.common.texts, box_),
       sitting_(context.common.scheduler),
       next_task_(context.common.scheduler, *this, [this] { run("mat_wahl.", mat_wahl()); }),
-      way_out_(context_, *this, *this, waits()),
+      keeping_(context_, *this),
+      way_out_(context_, *this, *this, waits(), keeping_),
       start_(context.common.scheduler, [this] { start_timer(); }),
       Uhrzeit_(context.common.scheduler, [this] { Uhrzeit_timer(); }),
       testtimer_(context.common.scheduler, [this] { run(kLeavingTag, leave()); }) {
@@ -91,6 +92,7 @@ void ExerciseWindow::prepare_level() {
 }
 
 Sequence ExerciseWindow::mat_wahl() {
+  keeping_.now();
   sitting_.begin_task();
   material_.mat_wahl();
   next_task_.name(context_.common.texts, ++lesson_nr_);
@@ -112,17 +114,7 @@ Sequence ExerciseWindow::mat_wahl() {
 }
 
 LessonFacts ExerciseWindow::lesson_facts() {
-  const auto tones = static_cast<std::size_t>(context_.settings.invzahl) + 2;
-  const RowAnalysis analysis =
-      analyse_row(std::span(context_.row.inv_ton).first(tones), context_.key, context_.tone_names,
-                  context_.interval_names);
-  LessonFacts facts;
-  facts.iv_nr = to_int16(first_asked());
-  for (const AnalysedTone& tone : analysis.tones) facts.qz_tones.push_back(tone.qz);
-  for (const AnalysedInterval& interval : analysis.intervals) {
-    facts.intervals.push_back({interval.degree_text, interval.interval_text});
-  }
-  return facts;
+  return row_facts(context_, first_asked());
 }
 
 int ExerciseWindow::first_scored() const {
@@ -206,7 +198,14 @@ void ExerciseWindow::finish_row() {
     standing_.show_test();
   }
   enter(next);
+  const bool goes_on = is_training(level()) && next != Phase::training_finished;
+  keeping_.task_done(sitting_.tasks(), goes_on ? std::optional(training_now()) : std::nullopt);
   if (next == Phase::training_finished) run("intervall_antw.", finish_training());
+}
+
+SavedTraining ExerciseWindow::training_now() const {
+  return training_state(box_, context_.settings, context_.statistics, answers_.counts.wrong,
+                        answers_.counts.repeats);
 }
 
 // The list of the settings window follows the store; while the store is silent it stays.
@@ -306,14 +305,11 @@ Sequence ExerciseWindow::break_off() {
 
 Sequence ExerciseWindow::leave() {
   if (phase_ == Phase::leaving) co_return;
-  const bool ended = is_over(phase_) || phase_ == Phase::broken;
+  const bool broken = phase_ == Phase::broken;
+  const bool ended = is_over(phase_) || broken;
   WayOut::Keep keep;
   if (!ended && is_training(level()) && sitting_.tasks() > 0) {
-    keep = [this](bool& kept) {
-      return training_.keep(training_state(box_, context_.settings, context_.statistics,
-                                           answers_.counts.wrong, answers_.counts.repeats),
-                            kept);
-    };
+    keep = [this](bool& kept) { return training_.keep(training_now(), kept); };
   }
   // A training that goes on replaces nothing but its own earlier state.
   const RecordRead former =
@@ -323,7 +319,13 @@ Sequence ExerciseWindow::leave() {
   stop_all();
   const auto in_all =
       is_test(level()) && lesson_nr_ > 0 ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
+  if (broken) co_await keeping_.tell_interrupted(waits());
   co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, former);
+}
+
+void ExerciseWindow::session_ends() {
+  stop_all();
+  keeping_.end_session();
 }
 
 void ExerciseWindow::stop_all() {

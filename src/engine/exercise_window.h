@@ -6,6 +6,7 @@
 #include "engine/exercise_context.h"
 #include "engine/exercise_controls.h"
 #include "engine/exercise_hooks.h"
+#include "engine/keeping.h"
 #include "engine/material/frequency_box.h"
 #include "engine/material/material.h"
 #include "engine/next_task.h"
@@ -30,6 +31,8 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
 
   Phase phase() const { return phase_; }
   Level level() const { return context_.settings.Uebungsmodus; }
+  /// Silent at once; the protocol is written and the training kept without a question.
+  void session_ends() override;
   /// What Return presses now: the way on, or nullptr while there is only answering to do.
   virtual const Control* default_button() const;
 
@@ -62,6 +65,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void go_on_after_reading();
   Sequence break_off();
   Sequence finish_training();
+  SavedTraining training_now() const;
   Sequence leave();
   void Uhrzeit_timer();
   void stop_all();
@@ -74,6 +78,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Standing standing_;
   Sitting sitting_;
   NextTask next_task_;
+  Keeping keeping_;
   WayOut way_out_;
   std::unique_ptr<RowPlayer> player_;
   Timer start_;

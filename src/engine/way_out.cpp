@@ -20,7 +20,10 @@ void show_wait(Window& window, ExerciseControls& controls, bool waiting) {
 }
 
 Sequence WayOut::leave(WorkDone work, Keep keep, RecordRead former) {
-  if (keep) co_await ask_to_save(std::move(keep), former);
+  if (keep) {
+    co_await ask_to_save(std::move(keep), former);
+    keeping_.settle_training();
+  }
   controls_.zurueck.text = Wort(640_text);
   controls_.zurueck.back.reset();
   controls_.zurueck.fore = signal::leaving;
@@ -74,13 +77,17 @@ Sequence WayOut::write_protocol() {
                                  Wort(text::protocol_saved_instead) + "\n" + result.path.string());
     co_await ask(waits_, context_.common.dialogs, told);
   }
+  keeping_.finish();
   go_back();
 }
 
 FinishResult WayOut::close_protocol() {
   protocol_closed_ = true;
-  return context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
-                                            window_.caption, context_.settings.EinstDatSave);
+  FinishResult result =
+      context_.protocol.ProtokollSchluss(Wort(exercise_row(context_.settings).caption),
+                                         window_.caption, context_.settings.EinstDatSave);
+  protocol_written_ = !result.failed;
+  return result;
 }
 
 void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
@@ -90,6 +97,7 @@ void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
   } catch (...) {
     context_.errors.log(tag, std::current_exception());
   }
+  protocol_written_ ? keeping_.finish() : keeping_.leave_behind();
   go_back();
 }
 

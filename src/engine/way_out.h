@@ -5,6 +5,7 @@
 
 #include "engine/exercise_context.h"
 #include "engine/exercise_controls.h"
+#include "engine/keeping.h"
 
 namespace tonarix {
 
@@ -15,8 +16,9 @@ void show_wait(Window& window, ExerciseControls& controls, bool waiting);
 /// the settings.
 class WayOut {
  public:
-  WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits)
-      : context_(context), window_(window), controls_(controls), waits_(waits) {}
+  WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits,
+         Keeping& keeping)
+      : context_(context), window_(window), controls_(controls), waits_(waits), keeping_(keeping) {}
 
   /// Stores the training and says whether it could.
   using Keep = std::function<Sequence(bool& kept)>;
@@ -38,7 +40,9 @@ class WayOut {
   Window& window_;
   ExerciseControls& controls_;
   Waits& waits_;
+  Keeping& keeping_;
   bool protocol_closed_ = false;
+  bool protocol_written_ = false;
 };
 
 }  // namespace tonarix

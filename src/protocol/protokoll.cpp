@@ -65,6 +65,7 @@ void Protokoll::ProtokollNeu() {
   sections.Add("", "settings");
   sections.Add("", "lessons");
   answer_given_ = any_answer_given_ = false;
+  finished_.reset();
 }
 
 void Protokoll::ProtokollAufgabe(const LessonFacts& facts) {
@@ -137,19 +138,34 @@ FinishResult Protokoll::ProtokollSchluss(const std::string& exercise_caption,
                                          const std::string& exercise_name,
                                          const std::vector<std::string>& pairs) {
   drop_unanswered();
+  tell_exercise(exercise_caption, exercise_name, pairs);
+  lesson_ = {};
+  answer_ = {};
+  return finish_again();
+}
+
+std::string Protokoll::so_far(const std::string& exercise_caption, const std::string& exercise_name,
+                              const std::vector<std::string>& pairs) {
+  tell_exercise(exercise_caption, exercise_name, pairs);
+  return document_.text();
+}
+
+void Protokoll::tell_exercise(const std::string& caption, const std::string& name,
+                              const std::vector<std::string>& pairs) {
+  for (const char* told : {"properties", "settings"}) {
+    const ElementList before = section(told).Children();
+    for (std::size_t i = 1; i <= before.Count(); ++i) before.Item(i).Remove();
+  }
   ElementList facts = section("properties").Children();
-  facts.Add(exercise_caption, "exercise");
+  facts.Add(caption, "exercise");
   facts.Add(timestamp(clock_.now()), "timestamp");
-  facts.Add("Untersuchung: " + exercise_name, "description");
+  facts.Add("Untersuchung: " + name, "description");
   ElementList settings = section("settings").Children();
   for (std::size_t label = 1; label + 1 < pairs.size(); label += 2) {
     AttributeList pair = settings.Add("", "setting").Attributes();
     pair.Add(pairs[label], "key");
     pair.Add(pairs[label + 1], "value");
   }
-  lesson_ = {};
-  answer_ = {};
-  return finish_again();
 }
 
 void Protokoll::drop_unanswered() {
@@ -163,16 +179,19 @@ FinishResult Protokoll::finish_again() {
   if (!document_.has_document()) {
     throw RuntimeError(RuntimeError::kOther, "No document to finish", "ProtokollSchluss");
   }
+  if (finished_) return *finished_;
   FinishResult result;
   result.wanted = folders_.protocols / file_;
-  result.path = result.wanted;
   const WriteResult first = write_to(result.wanted);
-  if (first.written) return result;
-
-  result.error = first.error;
-  result.path = folders_.data / file_;
-  result.fell_back = write_to(result.path).written;
-  result.failed = !result.fell_back;
+  result.path = first.path;
+  if (!first.written) {
+    result.error = first.error;
+    const WriteResult second = write_to(folders_.data / file_);
+    result.path = second.path;
+    result.fell_back = second.written;
+    result.failed = !second.written;
+  }
+  if (!result.failed) finished_ = result;
   return result;
 }
 

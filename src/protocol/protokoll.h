@@ -34,7 +34,7 @@ struct LessonFacts {
 /// Where the finished document went. Exactly one of three: written as wanted, `fell_back`,
 /// `failed`.
 struct FinishResult {
-  std::filesystem::path path;    ///< where it lies; when it failed, where it was last tried
+  std::filesystem::path path;    ///< where it lies, if it does
   std::filesystem::path wanted;  ///< where it should lie
   std::error_code error;         ///< why it could not be written there, if it couldn't
   bool fell_back = false;        ///< it lies in the data folder instead
@@ -59,8 +59,8 @@ class Protokoll {
   Protokoll(Server& server, const WallClock& clock, DocumentWriter& writer, ProtocolFolders folders,
             Logger logger);
 
-  /// Begins the document of an exercise. A second one within the same second bears the same file
-  /// name and replaces the first.
+  /// Begins the document of an exercise. Its file is named after the second; another one of the
+  /// same second, of whichever program, gets a number behind the name.
   void ProtokollNeu();
   /// Begins the record of a task and, except in writing, its first answer with number 1. A failure
   /// is logged under "ProtokollAufgabe." and the exercise goes on.
@@ -81,13 +81,22 @@ class Protokoll {
   FinishResult ProtokollSchluss(const std::string& exercise_caption,
                                 const std::string& exercise_name,
                                 const std::vector<std::string>& pairs);
-  /// Writes the finished document once more, for a user who has made room meanwhile. A place that
-  /// does not take it is logged under "ProtokollSchluss." with the system's words.
+  /// The document as ProtokollSchluss would write it now. To be asked between two tasks.
+  std::string so_far(const std::string& exercise_caption, const std::string& exercise_name,
+                     const std::vector<std::string>& pairs);
+  /// The name of its file.
+  const std::filesystem::path& file_name() const { return file_; }
+  /// Tries to write the finished document again, for a user who has made room meanwhile; one that
+  /// lies somewhere is not written a second time. A place that does not take it is logged under
+  /// "ProtokollSchluss." with the system's words.
   FinishResult finish_again();
 
  private:
   void record_lesson(const LessonFacts& facts);
   void drop_unanswered();
+  /// What is known of the exercise as a whole, in place of what was told before.
+  void tell_exercise(const std::string& caption, const std::string& name,
+                     const std::vector<std::string>& pairs);
   WriteResult write_to(const std::filesystem::path& path);
   Element section(const std::string& name) const;
   Element current_answer() const;
@@ -98,6 +107,7 @@ class Protokoll {
   Logger logger_;
   DocumentBuilder document_;
   std::filesystem::path file_;
+  std::optional<FinishResult> finished_;  ///< where the document lies
   Element lesson_;
   Element answer_;
   bool answer_given_ = false;      ///< something was told of the current answer

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/sounding_window.h"
+#include "settings/saved_settings.h"
 #include "support/engine_bed.h"
 
 namespace tonarix {
@@ -120,6 +121,28 @@ TEST_F(ExerciseWindowTest, AnErrorClosesItWithoutAskingAndWritesTheProtocol) {
   EXPECT_EQ(window.phase(), Phase::broken);
   scheduler.advance_ms(1000);
   EXPECT_TRUE(dialogs.shown.size() == 1 && documents.written.size() == 1 && windows.count() == 0);
+  EXPECT_FALSE(kept.own);
+}
+
+TEST_F(ExerciseWindowTest, ATrainingThatAnErrorEndsIsStoredAsItStoodAfterItsLastTask) {
+  settings.EinstSicherung = build_EinstSicherung(settings, SettingsKind::einstellung1);
+  for (const bool store_works : {true, false}) {
+    dialogs.shown.clear();
+    auto& broken = open<SilentWindow>();
+    scheduler.advance_ms(50);
+    broken.answer(true);
+    scheduler.advance_ms(1);
+    const auto state = Variant::strings(kept.own.value().training.value().state);
+    if (!store_works) host.failing = {"STORE"};
+    broken.fails = true;
+    broken.CmdNextAufg_click();
+    scheduler.advance_ms(1000);
+    EXPECT_EQ(host.records["vemo06/A1"] == state, store_works);
+    EXPECT_EQ(kept.left.size(), store_works ? 0U : 1U) << "what could not be stored stays kept";
+    EXPECT_FALSE(kept.own);
+    protocol.ProtokollNeu();
+    host.records["vemo06/A1"] = Variant::Array{"False"};
+  }
 }
 
 }  // namespace

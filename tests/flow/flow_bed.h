@@ -15,6 +15,7 @@
 #include "support/fake_dialogs.h"
 #include "support/fake_document_writer.h"
 #include "support/fake_host.h"
+#include "support/fake_kept_exercises.h"
 #include "support/key_language.h"
 #include "support/recording_midi.h"
 #include "support/recording_printer.h"
@@ -28,6 +29,11 @@ namespace tonarix {
 class FlowBed {
  public:
   explicit FlowBed(FakeHost& host, std::uint64_t seed = 1) : factory(host.factory()), chance(seed) {
+    open();
+  }
+  /// With kept exercises that outlive it.
+  FlowBed(FakeHost& host, KeptExercises& shared)
+      : kept(shared), factory(host.factory()), chance(1) {
     open();
   }
   /// With texts of its own, closed until `open()`.
@@ -148,6 +154,8 @@ class FlowBed {
     return found;
   }
 
+  FakeKeptExercises own_kept;
+  KeptExercises& kept = own_kept;
   Server::HostFactory factory;
   VirtualScheduler scheduler;
   StandingClock clock;
@@ -170,6 +178,7 @@ class FlowBed {
                  dialogs,
                  devices,
                  documents,
+                 kept,
                  printer,
                  factory,
                  {"/protocols", "/data"},

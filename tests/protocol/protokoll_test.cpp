@@ -2,10 +2,13 @@
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <locale>
 
+#include "protocol/file_in_making.h"
 #include "support/fake_document_writer.h"
 #include "support/host_bed.h"
 #include "support/temporary_folder.h"
@@ -78,10 +81,12 @@ TEST_F(ProtokollTest, NothingIsLostWhileNoFolderTakesIt) {
   EXPECT_EQ(fallen_back.path, "/data/EXR261121090532.xml");
   EXPECT_EQ(fallen_back.error, std::errc::no_space_on_device);
   writer.broken_folders.clear();
-  const FinishResult result = protokoll.finish_again();
-  EXPECT_FALSE(result.failed || result.fell_back);
-  EXPECT_EQ(writer.written.at(1).path, result.wanted);
-  EXPECT_EQ(writer.written[1].content, document()) << "the end is told once";
+  EXPECT_EQ(protokoll.finish_again().path, fallen_back.path);
+  EXPECT_EQ(writer.written.size(), 1U) << "what lies somewhere is not written twice";
+  for (const char* path : {"/usual/EXR261121090532.xml", "/usual/EXR261121090532-2.xml"}) {
+    protokoll.ProtokollNeu();
+    EXPECT_EQ(protokoll.ProtokollSchluss("bestimmen", "", {}).path, path);
+  }
 }
 
 TEST_F(ProtokollTest, ATaskThatCannotBeRecordedIsLoggedAllElseSurfaces) {
@@ -128,12 +133,19 @@ TEST(XmlText, WhatIsNoCharacterOfXmlIsReplaced) {
   }
 }
 
-TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
+std::vector<std::string> files_in(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(entry.path().filename());
+  }
+  return names;
+}
+
+TEST(FileWriter, AFullDiskLeavesNoFile) {
   TemporaryFolder folder;
   FileDocumentWriter writer;
   const auto path = folder.path / "deep" / "EXR.xml";
   ASSERT_TRUE(writer.write(path, "first").written);
-  ASSERT_TRUE(writer.write(path, "second").written);
   using std::filesystem::perms;
   EXPECT_EQ(status(path).permissions(), perms::owner_read | perms::owner_write);
 
@@ -148,14 +160,45 @@ TEST(FileWriter, AFullDiskLeavesTheOldFileAndNothingElse) {
 
   EXPECT_FALSE(result.written);
   EXPECT_EQ(result.error, std::errc::file_too_large) << result.reason;
-  EXPECT_EQ(folder.content("deep/EXR.xml"), "second");
   const WriteResult below_a_file = writer.write(path / "EXR.xml", "text");
   EXPECT_FALSE(below_a_file.written);
   EXPECT_EQ(below_a_file.error, std::errc::not_a_directory) << below_a_file.reason;
-  std::filesystem::create_directory(folder.path / "deep/taken.xml");
-  EXPECT_FALSE(writer.write(folder.path / "deep/taken.xml", "text").written);
-  const std::filesystem::directory_iterator files(path.parent_path());
-  EXPECT_EQ(std::distance(begin(files), end(files)), 2) << "no temporary file is left";
+  EXPECT_THAT(files_in(path.parent_path()), testing::ElementsAre("EXR.xml"));
+}
+
+TEST(FileWriter, ManyWhoWantOneNameAllGetAFileOfTheirOwn) {
+  TemporaryFolder folder;
+  std::filesystem::create_directory(folder.path / "EXR-2.xml");
+  std::vector<pid_t> children(8);
+  for (pid_t& child : children) {
+    child = fork();
+    if (child != 0) continue;
+    for (int i = 0; i < 20; ++i) {
+      const std::string text = std::to_string(getpid()) + " " + std::to_string(i);
+      const WriteResult result = FileDocumentWriter().write(folder.path / "EXR.xml", text);
+      clear_leftovers(folder.path);
+      if (!result.written || folder.content(result.path) != text) std::_Exit(1);
+    }
+    std::_Exit(0);
+  }
+  for (const pid_t child : children) {
+    int ended = -1;
+    waitpid(child, &ended, 0);
+    EXPECT_EQ(ended, 0);
+  }
+  const std::vector<std::string> names = files_in(folder.path);
+  EXPECT_THAT(names, testing::SizeIs(161));
+  EXPECT_THAT(names, testing::IsSupersetOf({"EXR.xml", "EXR-2.xml", "EXR-161.xml"}));
+}
+
+TEST(FileWriter, OnlyWhatAKilledProgramLeftIsCleared) {
+  TemporaryFolder folder;
+  folder.write(".tonarix-abc123", "half");
+  folder.write("EXR.xml.tonarix-abc123", "another's");
+  const FileInMaking living(folder.path);
+  clear_leftovers(folder.path);
+  EXPECT_THAT(files_in(folder.path), testing::SizeIs(2));
+  EXPECT_FALSE(std::filesystem::exists(folder.path / ".tonarix-abc123"));
 }
 
 }  // namespace

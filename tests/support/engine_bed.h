@@ -6,6 +6,7 @@
 #include "engine/exercise_context.h"
 #include "settings/settings_tables.h"
 #include "support/fake_document_writer.h"
+#include "support/fake_kept_exercises.h"
 #include "support/host_bed.h"
 #include "support/recording_midi.h"
 
@@ -24,9 +25,10 @@ struct EngineBed : HostBed {
   ~EngineBed() { windows.clear(); }
   template <typename Kind>
   Kind& open() {
-    ExerciseContext context{common,     server,         errors, clock, chance,     midi, midi_event,
-                            settings,   saved_training, key,    row,   statistics, best, protocol,
-                            tone_names, interval_names, {},     {},    {}};
+    ExerciseContext context{
+        common, server, errors,     clock, chance,   midi, midi_event,  settings,   saved_training,
+        key,    row,    statistics, best,  protocol, kept, interrupted, tone_names, interval_names,
+        {},     {},     {}};
     context.caller = {[] {}, [] {}, [] {}};
     context.open_result = [this](const WorkDone& told, const std::function<void()>& closed) {
       work = told;
@@ -51,6 +53,8 @@ struct EngineBed : HostBed {
   WorkDone work;  ///< what the result sheet was told
   FakeDocumentWriter documents;
   Protokoll protocol{server, clock, documents, {"/protocols", "/data"}, {}};
+  FakeKeptExercises kept;
+  InterruptedExercises interrupted{scheduler, server, errors, texts, dialogs};
   ToneNames tone_names{texts};
   IntervalNames interval_names{texts};
 };

@@ -1,0 +1,138 @@
+#include "engine/interrupted_exercises.h"
+
+#include <algorithm>
+
+#include "base/delay.h"
+#include "base/filled_text.h"
+#include "base/module_texts.h"
+#include "base/runtime_error.h"
+#include "engine/training_record.h"
+#include "music/key.h"
+#include "settings/exercises.h"
+#include "settings/saved_settings.h"
+
+namespace tonarix {
+
+namespace {
+
+struct Training {
+  Settings settings;
+  SavedTraining state;
+};
+
+/// The training if it can be gone on with.
+std::optional<Training> read(const KeptTraining& kept) {
+  Settings settings;
+  settings.Theoriewahl = static_cast<Study>(kept.study);
+  settings.ueb_typ = static_cast<ExerciseKind>(kept.kind);
+  const ExerciseRow* row = find_exercise(settings.Theoriewahl, settings.ueb_typ);
+  if (row == nullptr) return {};
+  try {
+    settings = read_EinstSicherung(settings, row->settings, kept.settings);
+  } catch (const RuntimeError&) {
+    return {};
+  }
+  settings.EinstSicherung = kept.settings;
+  Key key;
+  build_scale(key, settings.tongeschl, settings.abfr_iv);
+  const auto state = from_record(kept.state, settings, key);
+  const auto* whole = std::get_if<SavedTraining>(&state);
+  if (whole == nullptr) return {};
+  return Training{std::move(settings), *whole};
+}
+
+}  // namespace
+
+std::string user_name(Server& server) {
+  std::string name;
+  for (const std::string& field : server.ServerLogin()) name += field + ";";
+  return name;
+}
+
+void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
+                                   const ProtocolFolders& folders) {
+  const std::string user = user_name(server_);
+  left_ = kept.left_behind();
+  std::erase_if(left_, [&](KeptExercises::Left& left) {
+    KeptExercise& exercise = left.exercise;
+    if (!exercise.document.empty()) {
+      if (!put_protocol(exercise, writer, folders)) return true;
+      exercise.document.clear();
+      kept.keep(exercise, left.name);
+    }
+    const bool own = exercise.user == user;
+    if (!own && !exercise.training) kept.use_up(left.name);
+    return !own;
+  });
+  std::ranges::reverse(left_);
+  take_up_next(kept);
+}
+
+bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
+                                        const ProtocolFolders& folders) {
+  const std::filesystem::path file = std::filesystem::path(exercise.file).filename();
+  for (const auto& folder : {folders.protocols, folders.data}) {
+    const WriteResult result = writer.write(folder / file, exercise.document);
+    if (result.written) return true;
+    errors_.log("take_up.", std::make_exception_ptr(RuntimeError(
+                                RuntimeError::kPathError,
+                                (folder / file).string() + ": " + result.reason, "take_up")));
+  }
+  return false;
+}
+
+// One after the other: what the newest training has brought into the store the older ones meet.
+void InterruptedExercises::take_up_next(KeptExercises& kept) {
+  if (left_.empty()) return;
+  const KeptExercises::Left left = std::move(left_.back());
+  left_.pop_back();
+  offer(left.exercise, [this, &kept, left](End end) {
+    if (end != End::stays_kept) kept.use_up(left.name);
+    const auto next = [this, &kept] { take_up_next(kept); };
+    end == End::nothing ? tell(text::exercise_interrupted, left.exercise, next) : next();
+  });
+}
+
+void InterruptedExercises::offer(const KeptExercise& exercise, std::function<void(End)> done) {
+  auto training = exercise.training ? read(*exercise.training) : std::nullopt;
+  if (!training) return done(End::nothing);
+  const KeptTraining& kept = *exercise.training;
+  std::vector<std::string> stored;
+  const RecordRead found = server_.read_record(record_key('A', training->settings), stored);
+  if (found == RecordRead::failed) {
+    return tell(text::interrupted_not_stored, exercise, [done] { done(End::stays_kept); });
+  }
+  if (!says_valid(stored)) stored.clear();
+  if (kept.stored_before && stored != *kept.stored_before) return done(End::nothing);
+  auto store = [this, exercise, training = *training, done](Reply reply) mutable {
+    if (reply == Reply::no) return done(End::refused);
+    std::optional<SavedTraining> current;
+    // Tried once: what a busy host does not take now stays kept for the next start.
+    Waits waits(scheduler_);
+    TrainingRecord record(server_, errors_, training.settings, current, scheduler_, waits);
+    bool stored_now = false;
+    Sequence storing = record.keep(training.state, stored_now);
+    storing.start();
+    const End end = stored_now ? End::stored : End::stays_kept;
+    if (end == End::stored && reply == Reply::yes) return done(end);
+    tell(end == End::stored ? text::training_interrupted : text::interrupted_not_stored, exercise,
+         [done, end] { done(end); });
+  };
+  if (stored.empty() || (kept.continued && kept.stored_before)) return store(Reply::ok);
+  dialogs_.show(
+      {"Tonarix 2000", words(text::keep_interrupted_training, exercise), MessageStyle::yes_no,
+       texts_.Wort(text::save_training), texts_.Wort(text::do_not_save)},
+      std::move(store));
+}
+
+void InterruptedExercises::tell(TextKey text, const KeptExercise& exercise,
+                                std::function<void()> then) {
+  dialogs_.show({"Tonarix 2000", words(text, exercise), MessageStyle::plain, {}, {}},
+                [then = std::move(then)](Reply) { then(); });
+}
+
+std::string InterruptedExercises::words(TextKey text, const KeptExercise& exercise) const {
+  return filled(texts_.Wort(text), {std::to_string(exercise.tasks), texts_.Wort(565_text)});
+}
+
+}  // namespace tonarix

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "base/delay.h"
+#include "base/scheduler.h"
+#include "base/sequence.h"
+#include "engine/exercise_context.h"
+#include "protocol/kept_exercise.h"
+
+namespace tonarix {
+
+/// Keeps the running exercise for the case that the program ends without its way out: after each
+/// task the protocol so far and, in a training, its state.
+class Keeping {
+ public:
+  Keeping(const ExerciseContext& context, const Window& window);
+
+  /// A task is done to its end. `training` as it stands now; nothing where there is none to go on
+  /// with. It is kept by a posted task, off the answer's path.
+  void task_done(int tasks, const std::optional<SavedTraining>& training);
+  /// What waits to be kept is kept now, before the protocol goes on.
+  void now();
+  /// The training is saved, or not wanted: it is not offered again.
+  void settle_training();
+  /// An error ends the training: as it stood after its last task it is stored, and the student is
+  /// told.
+  Sequence tell_interrupted(Waits& waits);
+
+  /// The exercise has come to its end. Only a training that nobody could settle stays kept.
+  void finish();
+  /// The way out has failed: all stays kept for the next start.
+  void leave_behind();
+  /// The session ends: the protocol is written without a question, and the training stays kept.
+  void end_session();
+
+ private:
+  void keep(bool with_protocol);
+  void write();
+  std::string caption() const;
+
+  const ExerciseContext& context_;
+  const Window& window_;
+  Timer due_;
+  KeptExercise kept_;
+  std::optional<SavedTraining> training_;
+  bool over_ = false;
+};
+
+}  // namespace tonarix

@@ -1,0 +1,145 @@
+#include <gmock/gmock.h>
+
+#include "flow/flow_bed.h"
+
+namespace tonarix {
+namespace {
+
+struct InterruptedFlowTest : testing::Test {
+  /// A program works through some tasks, the last of them left open, and dies.
+  void work_and_die(int level, int tasks) {
+    FlowBed bed(host, kept);
+    Arbeitsblatt1& window = bed.begin(level);
+    for (int task = 1; task <= tasks; ++task) {
+      bed.answer_row(window, 1, 0.3);
+      bed.next_task(window);
+    }
+    bed.press(window, bed.right_code(0));
+    bed.scheduler.advance_ms(0);
+    kept.crash();
+  }
+  static std::vector<std::string> told(const FlowBed& bed) {
+    std::vector<std::string> texts;
+    for (const Message& message : bed.dialogs.shown) texts.push_back(message.text);
+    return texts;
+  }
+  FakeHost host;
+  FakeKeptExercises kept;
+};
+
+TEST_F(InterruptedFlowTest, ATrainingGoesOnAtTheNextStartWithItsProtocolInPlace) {
+  work_and_die(1, 3);
+  const KeptExercise left = kept.left.at(0).exercise;
+  FlowBed bed(host, kept);
+  EXPECT_THAT(told(bed), testing::ElementsAre("[1168s]"));
+  EXPECT_EQ(bed.documents.written.at(0).path, "/protocols/EXR261121090532.xml");
+  EXPECT_EQ(bed.documents.written[0].content, left.document);
+  const pugi::xml_node exercise = bed.written();
+  EXPECT_EQ(FlowBed::lessons(exercise).size(), 3U);
+  EXPECT_TRUE(exercise.child("settings").first_child());
+  EXPECT_TRUE(exercise.child("properties").child("timestamp"));
+  EXPECT_EQ(host.records["vemo06/E1"], Variant::strings(left.training->settings));
+  EXPECT_EQ(host.records["vemo06/A1"], Variant::strings(left.training->state));
+  EXPECT_TRUE(kept.left.empty());
+
+  Arbeitsblatt1& window = bed.begin(2);
+  EXPECT_EQ(window.level(), Level::continued);
+  EXPECT_NE(window.zaehler[1].text, "") << "goes on with the wrong answers of before";
+}
+
+TEST_F(InterruptedFlowTest, AnOrderlyEndLeavesNothingKept) {
+  for (const int level : {0, 1, 4}) {
+    FlowBed bed(host, kept);
+    Arbeitsblatt1& window = bed.begin(level);
+    bed.answer_row(window);
+    bed.scheduler.advance_ms(0);
+    EXPECT_TRUE(kept.own && kept.own->tasks == 1);
+    EXPECT_EQ(kept.own->training.has_value(), level == 1);
+    if (level > 0) bed.dialogs.script = {level == 1 ? Reply::no : Reply::yes};
+    window.zurueck_click();
+    bed.scheduler.advance_ms(400);
+    EXPECT_TRUE(kept.own && !kept.own->training) << "what was refused is not offered again";
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(450);
+    EXPECT_FALSE(kept.own);
+    FlowBed next(host, kept);
+    EXPECT_TRUE(next.dialogs.shown.empty() && next.documents.written.empty());
+  }
+}
+
+TEST_F(InterruptedFlowTest, WhatIsStoredMeanwhileWinsAndWhatWouldBeReplacedIsAskedFor) {
+  const auto other = [&] {
+    FlowBed bed(host, kept);
+    Arbeitsblatt1& window = bed.begin(1);
+    bed.answer_row(window, 1, 1);
+    bed.dialogs.script = {Reply::yes};
+    bed.leave(window);
+    return host.records.at("vemo06/A1");
+  };
+  work_and_die(1, 2);
+  const auto left = std::exchange(kept.left, {});
+  const Variant newer = other();
+  kept.left = left;
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1169s]"));
+  EXPECT_EQ(host.records["vemo06/A1"], newer);
+
+  for (const Reply reply : {Reply::no, Reply::yes}) {
+    work_and_die(1, 2);
+    const auto state = Variant::strings(kept.left.at(0).exercise.training->state);
+    FlowBed bed(host, kept);
+    EXPECT_THAT(told(bed), testing::ElementsAre("[1170s]"));
+    bed.dialogs.answer(reply);
+    EXPECT_EQ(host.records["vemo06/A1"], reply == Reply::yes ? state : newer);
+    EXPECT_TRUE(kept.left.empty());
+  }
+  work_and_die(2, 1);  // goes on with what is stored
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
+}
+
+TEST_F(InterruptedFlowTest, AStoreThatFailsAndAnotherUserLeaveTheTrainingKept) {
+  work_and_die(1, 2);
+  host.failing = {"READ"};
+  FlowBed(host, kept);
+  EXPECT_TRUE(kept.left.at(0).exercise.training && kept.left[0].exercise.document.empty());
+  host.failing = {"STORE"};
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1171s]"));
+  host.failing.clear();
+  host.answers["LOGIN"] = Variant::Array{"Grace"};
+  EXPECT_TRUE(told(FlowBed(host, kept)).empty());
+  host.answers.clear();
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
+  EXPECT_TRUE(kept.left.empty());
+}
+
+TEST_F(InterruptedFlowTest, TheEndOfTheSessionIsSilentWritesTheProtocolAndKeepsTheTraining) {
+  for (const int level : {0, 1}) {
+    FlowBed bed(host, kept);
+    Arbeitsblatt1& window = bed.begin(level);
+    bed.answer_row(window);
+    bed.next_task(window);
+    bed.press(window, bed.right_code(0));
+    window.wieder_click();
+    bed.scheduler.advance_ms(200);  // sounds
+    bool shown = false;
+    window.on_changed = [&shown] { shown = true; };
+    bed.devices.log.clear();
+    bed.module.end_session();
+    bed.module.end_session();
+    EXPECT_FALSE(shown) << "the display may be gone";
+    bed.scheduler.advance_ms(5000);
+    EXPECT_TRUE(bed.devices.notes().empty());
+    EXPECT_EQ(FlowBed::lessons(bed.written()).size(), 2U);
+    EXPECT_EQ(FlowBed::lessons(bed.written()).at(1).size(), 1U) << "the answer given counts";
+    EXPECT_EQ(bed.documents.written.size(), 1U);
+    EXPECT_EQ(host.calls_of("MENUE").size(), 1U);
+    host.calls.clear();
+    kept.crash();
+    FlowBed next(host, kept);
+    EXPECT_EQ(told(next),
+              level == 1 ? std::vector<std::string>{"[1168s]"} : std::vector<std::string>{});
+    EXPECT_TRUE(next.documents.written.empty()) << "the protocol lies where it belongs";
+  }
+}
+
+}  // namespace
+}  // namespace tonarix
