@@ -31,11 +31,7 @@ class InterruptedExercises {
 
   InterruptedExercises(Scheduler& scheduler, Server& server, ErrorReport& errors,
                        const Texts& texts, Dialogs& dialogs)
-      : scheduler_(scheduler),
-        server_(server),
-        errors_(errors),
-        texts_(texts),
-        dialogs_(dialogs) {}
+      : scheduler_(scheduler), server_(server), errors_(errors), texts_(texts), dialogs_(dialogs) {}
 
   /// Takes up what earlier programs have left. The training of another user waits for that user.
   void take_up(KeptExercises& kept, DocumentWriter& writer, const ProtocolFolders& folders);
