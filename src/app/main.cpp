@@ -6,6 +6,7 @@
 
 #include "app/options.h"
 #include "app/program.h"
+#include "app/session_end.h"
 #include "base/windows/theme.h"
 #include "host/local/catalogue_folder.h"
 
@@ -110,6 +111,7 @@ int main(int argc, char* argv[]) {
   application.setQuitOnLastWindowClosed(false);
   tonarix::theme::apply(application);
   tonarix::Program program(options);
+  const tonarix::SessionEnd session_end(application, program);
   program.open();
   return application.exec();
 }

@@ -66,7 +66,9 @@ void Module::end_session() {
     windows.at(i)->on_changed = nullptr;
     step([&] { windows.at(i)->session_ends(); });
   }
-  step([&] { server_.ServerMenue(windows); });
+  // The windows stay as they are until the program takes them down.
+  WindowList none(outside_.scheduler);
+  step([&] { server_.ServerMenue(none); });
 }
 
 WindowContext Module::window_context() const {

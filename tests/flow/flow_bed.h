@@ -31,6 +31,15 @@ class FlowBed {
   explicit FlowBed(FakeHost& host, std::uint64_t seed = 1) : factory(host.factory()), chance(seed) {
     open();
   }
+  /// With files, real ones.
+  FlowBed(FakeHost& host, KeptExercises& shared, DocumentWriter& files, ProtocolFolders places)
+      : kept(shared),
+        writer(files),
+        folders(std::move(places)),
+        factory(host.factory()),
+        chance(1) {
+    open();
+  }
   /// With kept exercises that outlive it.
   FlowBed(FakeHost& host, KeptExercises& shared)
       : kept(shared), factory(host.factory()), chance(1) {
@@ -156,6 +165,9 @@ class FlowBed {
 
   FakeKeptExercises own_kept;
   KeptExercises& kept = own_kept;
+  FakeDocumentWriter documents;
+  DocumentWriter& writer = documents;
+  ProtocolFolders folders{"/protocols", "/data"};
   Server::HostFactory factory;
   VirtualScheduler scheduler;
   StandingClock clock;
@@ -165,29 +177,33 @@ class FlowBed {
   Language language{key_languages()};
   RecordingDialogs dialogs{scheduler};
   RecordingDevices devices{scheduler};
-  FakeDocumentWriter documents;
   RecordingPrinter printer;
   std::string work;  ///< as the last sheet told it
   bool ended = false;
   pugi::xml_document document;
-  Module module{{scheduler,
-                 windows,
-                 language,
-                 clock,
-                 chance,
-                 dialogs,
-                 devices,
-                 documents,
-                 kept,
-                 printer,
-                 factory,
-                 {"/protocols", "/data"},
-                 {"vemo06", "Tonarix 2000"},
-                 "ada (desk)",
-                 1280,
-                 {},
-                 {},
-                 [this] { ended = true; }}};
+  Module module{outside()};
+
+ private:
+  Outside outside() {
+    return {.scheduler = scheduler,
+            .windows = windows,
+            .language = language,
+            .clock = clock,
+            .chance = chance,
+            .dialogs = dialogs,
+            .devices = devices,
+            .documents = writer,
+            .kept = kept,
+            .printer = printer,
+            .create_host = factory,
+            .folders = folders,
+            .application = {"vemo06", "Tonarix 2000"},
+            .computer_user = "ada (desk)",
+            .screen_width = 1280,
+            .sound_problem = {},
+            .put_listing = {},
+            .quit = [this] { ended = true; }};
+  }
 };
 
 }  // namespace tonarix
