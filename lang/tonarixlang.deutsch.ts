@@ -1802,6 +1802,10 @@ Vorzeichen!</translation>
         <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
         <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
     </message>
+    <message id="1172s">
+        <source>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</source>
+        <translation>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</translation>
+    </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>
         <extracomment>title of the result sheet</extracomment>

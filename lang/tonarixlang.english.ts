@@ -1802,6 +1802,10 @@ in any order.</translation>
         <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
         <translation>The last training was interrupted after task %1 and cannot be saved at the moment. The next start of the program will try again.</translation>
     </message>
+    <message id="1172s">
+        <source>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</source>
+        <translation>The sound font is damaged or cannot be read. The exercise goes on but stays silent. Install the package “timgm6mb-soundfont” again.</translation>
+    </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>
         <extracomment>title of the result sheet</extracomment>

@@ -3,6 +3,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "app/options.h"
 #include "app/program.h"
@@ -43,6 +46,12 @@ int list_midi(int argc, char* argv[]) {
   return 0;
 }
 
+/// Only the terminal can be told.
+int tell_terminal(const std::string& line, int result) {
+  std::cerr << "vemo06: " << line << '\n';
+  return result;
+}
+
 std::vector<tonarix::LanguageRow> installed_languages() {
   try {
     return tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
@@ -51,30 +60,59 @@ std::vector<tonarix::LanguageRow> installed_languages() {
   }
 }
 
-/// One line when there are catalogues but not of the language asked for; without any the program
-/// runs without texts.
-bool language_missing(const std::string& name) {
+/// What is wrong with the catalogues. English, as there is no language to say it in.
+struct CatalogueTrouble {
+  std::string text;
+  bool ends = false;   ///< the program can't go on in the language asked for
+  bool typed = false;  ///< a name that was never there: for the terminal where it was typed
+};
+
+std::optional<CatalogueTrouble> catalogue_trouble(const std::string& name) {
+  const std::string folder = tonarix::catalogue_place().lexically_normal().string();
+  std::string damaged;
+  for (const std::string& file : tonarix::damaged_catalogues(folder)) damaged += " " + file;
+  const std::string help = " Install the program again.";
   const auto languages = installed_languages();
   if (languages.empty()) {
-    std::cerr << "vemo06: no language catalogues in " << tonarix::catalogue_place().string()
-              << "; every text will read VOID.\n";
-    return false;
+    const std::string found =
+        damaged.empty() ? "There are no language catalogues in " + folder
+                        : "The language catalogues in " + folder + " are damaged:" + damaged;
+    return CatalogueTrouble{found + ". Every text will read VOID." + help};
   }
   std::string known;
   for (const auto& language : languages) {
-    if (language.name == name) return false;
+    if (language.name == name) return {};
     known += (known.empty() ? "" : ", ") + language.name;
   }
-  std::cerr << "vemo06: --language: \"" << name << "\" is not one of " << known << ".\n";
-  return true;
+  if (damaged.empty()) {
+    return CatalogueTrouble{"--language: \"" + name + "\" is not one of " + known + ".", true,
+                            true};
+  }
+  return CatalogueTrouble{"The language \"" + name + "\" cannot be used: damaged in " + folder +
+                              ":" + damaged + "." + help + " Until then --language " +
+                              languages.front().name + " works.",
+                          true};
+}
+
+/// Whoever has not started the program in a terminal sees the same in a box.
+int tell_in_box(QApplication& application, const std::string& text) {
+  tonarix::QtScheduler scheduler;
+  const tonarix::Language none({});
+  tonarix::WindowList windows(scheduler);
+  tonarix::Presenter presenter(windows);
+  tonarix::QtDialogs dialogs(scheduler, none, presenter);
+  dialogs.show(tonarix::warning(text), [](tonarix::Reply) { QCoreApplication::exit(2); });
+  return application.exec();
 }
 
 void quiet_qt(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type == QtFatalMsg) {
     const char* display = std::getenv("DISPLAY");
-    std::cerr << "vemo06: the display" << (display != nullptr ? std::string(" ") + display : "")
-              << " can't be opened.\n";
-    std::_Exit(1);
+    const std::string name = display != nullptr ? std::string(" ") + display : "";
+    std::_Exit(tell_terminal("the display" + name +
+                                 " can't be opened. Start the program from the desktop, or set "
+                                 "DISPLAY to a display that runs and lets you in.",
+                             1));
   }
   if (std::getenv("QT_LOGGING_RULES") != nullptr) std::cerr << text.toStdString() << '\n';
 }
@@ -100,18 +138,24 @@ int main(int argc, char* argv[]) {
       break;
   }
   if (!find_data_folder(options)) return 2;
-  if (language_missing(options.language)) return 2;
+  const auto trouble = catalogue_trouble(options.language);
+  if (trouble) tell_terminal(trouble->text, 2);
+  if (trouble && (trouble->typed || (trouble->ends && display_missing()))) return 2;
   if (display_missing()) {
-    std::cerr << "vemo06: no display; the program needs a graphical session.\n";
-    return 1;
+    return tell_terminal(
+        "there is no display. Start the program from the desktop; over the network, connect with "
+        "\"ssh -X\" first.",
+        1);
   }
   qInstallMessageHandler(quiet_qt);
   int one = 1;  // the options are our own; Qt gets the name alone
   QApplication application(one, argv);
   application.setQuitOnLastWindowClosed(false);
   tonarix::theme::apply(application);
+  if (trouble && trouble->ends) return tell_in_box(application, trouble->text);
   tonarix::Program program(options);
   const tonarix::SessionEnd session_end(application, program);
   program.open();
+  if (trouble) program.tell(trouble->text);
   return application.exec();
 }

@@ -140,6 +140,8 @@ std::optional<TextKey> Program::sound_problem() const {
       return {};
     case Synthesizer::Problem::no_sound_font:
       return text::no_sound_font;
+    case Synthesizer::Problem::damaged_sound_font:
+      return text::damaged_sound_font;
     case Synthesizer::Problem::no_sound_hardware:
       return text::no_sound_output;
   }

@@ -34,6 +34,11 @@ class Program {
   /// Opens the first window; the application's event loop does the rest.
   void open();
 
+  /// A warning in a box.
+  void tell(const std::string& text) {
+    dialogs_.show(warning(text), [](Reply) {});
+  }
+
   Module& module() { return module_; }
   Presenter& presenter() { return presenter_; }
   WindowList& windows() { return windows_; }

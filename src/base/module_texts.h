@@ -150,6 +150,7 @@ inline constexpr TextKey training_interrupted = 1168_text;
 inline constexpr TextKey exercise_interrupted = 1169_text;
 inline constexpr TextKey keep_interrupted_training = 1170_text;
 inline constexpr TextKey interrupted_not_stored = 1171_text;
+inline constexpr TextKey damaged_sound_font = 1172_text;
 inline constexpr TextKey sheet_caption = 1200_text;
 inline constexpr TextKey sheet_settings = 1201_text;
 inline constexpr TextKey sheet_results = 1202_text;

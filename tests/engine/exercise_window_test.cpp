@@ -114,6 +114,14 @@ TEST_F(ExerciseWindowTest, ATestIsToldInAllAndItsTimeEndsWithItself) {
   EXPECT_EQ(leave(quick), (WorkDone{in_all, in_all, in_all, in_all, 0}));
 }
 
+TEST_F(ExerciseWindowTest, ATaskIsKeptWithoutTheNextOneHoweverSoonThatBegins) {
+  window.answer(true);
+  window.CmdNextAufg_click();
+  const std::string document = kept.own.value().document;
+  EXPECT_NE(document.find("<lesson interval=\"1\">"), std::string::npos);
+  EXPECT_EQ(document.find("<lesson interval=\"2\">"), std::string::npos);
+}
+
 TEST_F(ExerciseWindowTest, AnErrorClosesItWithoutAskingAndWritesTheProtocol) {
   window.answer(true);
   window.fails = true;

@@ -62,12 +62,25 @@ TEST(Catalogues, ABrokenOrMissingOneIsNoLanguageAndNoHarmToTheOthers) {
   const TemporaryFolder folder;
   EXPECT_EQ(Catalogue("Deutsch", folder.path / "missing").text(432), "VOID");
   const std::string whole = folder.content(kFolder / "tonarixlang.deutsch.qm");
-  folder.write("tonarixlang.english.qm", folder.content(kFolder / "tonarixlang.english.qm"));
-  for (std::size_t size = 0; size < whole.size(); size += 997) {
-    folder.write("tonarixlang.deutsch.qm", whole.substr(0, size));
-    EXPECT_EQ(Catalogue("Deutsch", folder.path).text(432), "VOID") << size;
-    EXPECT_EQ(Catalogue("English", folder.path).text(432), "OK") << size;
+  for (const char* file :
+       {"tonarixlang.english.qm", "tonarixlang.english.qm.sum", "tonarixlang.deutsch.qm.sum"}) {
+    folder.write(file, folder.content(kFolder / file));
   }
+  const auto refused = [&](const std::string& content) {
+    folder.write("tonarixlang.deutsch.qm", content);
+    EXPECT_EQ(Catalogue("English", folder.path).text(432), "OK");
+    return Catalogue("Deutsch", folder.path).text(432) == "VOID" &&
+           damaged_catalogues(folder.path) == std::vector<std::string>{"tonarixlang.deutsch.qm"};
+  };
+  for (std::size_t size = 0; size < whole.size(); size += 997) {
+    EXPECT_TRUE(refused(whole.substr(0, size))) << size;
+  }
+  std::string changed = whole;
+  changed[whole.size() / 2] ^= 1;
+  EXPECT_TRUE(refused(changed));
+  EXPECT_FALSE(refused(whole));
+  folder.write("tonarixlang.deutsch.qm.sum", "");
+  EXPECT_TRUE(refused(whole)) << "nothing tells whether it is whole";
 }
 
 TEST(Catalogues, TranslateATermAlikeEverywhere) {

@@ -55,7 +55,8 @@ TEST_F(ProtokollTest, AnExerciseReadsAsTheExampleWhateverTheLocale) {
   protokoll.ProtokollMesswerte(2.25, 1.5);
   protokoll.ProtokollAntwort(2, 0);
   protokoll.ProtokollProperty("Antwort", "true");
-  task(2, false, 1, {0, -5, 3});  // tuning
+  protokoll.so_far("bilden", "so far", {"2", "Tempo", "so far"});  // is told anew at the end
+  task(2, false, 1, {0, -5, 3});                                   // tuning
   protokoll.ProtokollMesswerte(1e22, 0.00001, -12);
   protokoll.ProtokollProperty("float", 0.1F);
   task(3, true, 0, {1, 2, 3});  // writing has its answers later

@@ -1,8 +1,10 @@
 #include "host/local/catalogue_folder.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QTranslator>
 #include <algorithm>
+#include <optional>
 
 #include "base/runtime_error.h"
 
@@ -13,13 +15,24 @@ namespace {
 constexpr const char* kClass = "tonarixlang.";
 constexpr const char* kEnding = ".qm";
 
+QByteArray content_of(const std::string& file) {
+  QFile source(QString::fromStdString(file));
+  return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+}
+
+/// The content is what was compiled: cut off or changed, a catalogue may still load and lack texts.
+bool is_whole(const QByteArray& content, const QByteArray& sum) {
+  const QByteArray checksum = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+  return sum.trimmed() == QByteArray::number(content.size()) + ' ' + checksum;
+}
+
 class CatalogueLanguage final : public LanguageObject {
  public:
   explicit CatalogueLanguage(const std::filesystem::path& file) {
-    QFile source(QString::fromStdString(file.string()));
-    if (source.open(QIODevice::ReadOnly)) content_ = source.readAll();
+    content_ = content_of(file.string());
     const auto* bytes = reinterpret_cast<const uchar*>(content_.constData());
-    if (content_.isEmpty() || !catalogue_.load(bytes, static_cast<int>(content_.size()))) {
+    if (content_.isEmpty() || !is_whole(content_, content_of(file.string() + ".sum")) ||
+        !catalogue_.load(bytes, static_cast<int>(content_.size()))) {
       throw RuntimeError(RuntimeError::kPathError, "No catalogue: " + file.string(),
                          "CatalogueLanguage");
     }
@@ -38,26 +51,41 @@ class CatalogueLanguage final : public LanguageObject {
   QTranslator catalogue_;
 };
 
+/// Suffixes of all files that are called like a catalogue.
+std::vector<std::string> suffixes_in(const std::filesystem::path& folder) {
+  std::vector<std::string> suffixes;
+  const std::string start = kClass;
+  const std::string end = kEnding;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    const std::string file = entry.path().filename().string();
+    if (file.size() <= start.size() + end.size() || !file.starts_with(start)) continue;
+    if (!file.ends_with(end)) continue;
+    suffixes.push_back(file.substr(start.size(), file.size() - start.size() - end.size()));
+  }
+  return suffixes;
+}
+
+std::string file_of(const std::string& suffix) {
+  return kClass + suffix + kEnding;
+}
+
+/// What the language calls itself; nothing where the catalogue is not whole.
+std::optional<std::string> name_in(const std::filesystem::path& folder, const std::string& suffix) {
+  try {
+    return CatalogueLanguage(folder / file_of(suffix)).Wort("1000s");
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
 class FolderList final : public LanguageList {
  public:
   explicit FolderList(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   std::vector<LanguageRow> languages() override {
     std::vector<LanguageRow> rows;
-    const std::string start = kClass;
-    const std::string end = kEnding;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-      const std::string file = entry.path().filename().string();
-      if (file.size() <= start.size() + end.size() || !file.starts_with(start) ||
-          !file.ends_with(end)) {
-        continue;
-      }
-      try {
-        rows.push_back({CatalogueLanguage(entry.path()).Wort("1000s"),
-                        file.substr(start.size(), file.size() - start.size() - end.size())});
-      } catch (const RuntimeError&) {
-        continue;
-      }
+    for (const std::string& suffix : suffixes_in(folder_)) {
+      if (const auto name = name_in(folder_, suffix)) rows.push_back({*name, suffix});
     }
     std::sort(rows.begin(), rows.end(), [](const LanguageRow& one, const LanguageRow& other) {
       return one.suffix < other.suffix;
@@ -78,6 +106,17 @@ LanguageLibraries catalogue_folder(const std::filesystem::path& folder) {
         return std::make_unique<CatalogueLanguage>(folder / (class_name + kEnding));
       },
   };
+}
+
+std::vector<std::string> damaged_catalogues(const std::filesystem::path& folder) {
+  std::vector<std::string> damaged;
+  std::error_code missing;
+  if (!std::filesystem::is_directory(folder, missing)) return damaged;
+  for (const std::string& suffix : suffixes_in(folder)) {
+    if (!name_in(folder, suffix)) damaged.push_back(file_of(suffix));
+  }
+  std::ranges::sort(damaged);
+  return damaged;
 }
 
 }  // namespace tonarix

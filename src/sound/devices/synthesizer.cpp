@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <utility>
 
 #include "sound/devices/library_messages.h"
@@ -22,6 +23,11 @@ struct Driver {
 };
 constexpr Driver kDrivers[] = {{"pulseaudio", 256}, {"pipewire", 256}, {"alsa", 64}, {"jack", 64}};
 constexpr auto kGrace = std::chrono::seconds(2);
+
+bool is_file(const std::string& path) {
+  std::error_code missing;
+  return std::filesystem::is_regular_file(path, missing);
+}
 
 }  // namespace
 
@@ -58,7 +64,8 @@ Synthesizer::Synthesizer(Output output, const std::vector<std::string>& sound_fo
   fluid_settings_setnum(settings_.get(), "synth.gain", kFullGain);
   synth_.reset(new_fluid_synth(settings_.get()));
   if (!load_font(sound_fonts)) {
-    problem_ = Problem::no_sound_font;
+    const bool there = std::ranges::any_of(sound_fonts, is_file);
+    problem_ = there ? Problem::damaged_sound_font : Problem::no_sound_font;
     reason_ = "No sound font can be read at:";
     for (const std::string& font : sound_fonts) reason_ += " " + font;
     return;

@@ -24,10 +24,10 @@ class Synthesizer {
   static constexpr int kBlock = 64;  ///< frames; events begin at the start of a block
 
   enum class Output { sound_hardware, rendered_by_caller };
-  enum class Problem { none, no_sound_font, no_sound_hardware };
+  enum class Problem { none, no_sound_font, damaged_sound_font, no_sound_hardware };
 
-  /// Takes the first sound font that can be read. Without a font or a sound output `problem` says
-  /// so and nothing plays.
+  /// Takes the first sound font that can be read. Without a font, with none but damaged ones, or
+  /// without a sound output `problem` says so and nothing plays.
   Synthesizer(Output output, const std::vector<std::string>& sound_fonts, PostToMain post_to_main);
   ~Synthesizer();
   Synthesizer(const Synthesizer&) = delete;

@@ -13,6 +13,7 @@
 #include "sound/devices/external_port.h"
 #include "sound/midi.h"
 #include "support/main_thread.h"
+#include "support/temporary_folder.h"
 #include "support/virtual_scheduler.h"
 
 namespace tonarix {
@@ -39,7 +40,7 @@ TEST_F(SystemDevicesTest, TheSynthesiserIsTheLastDeviceAndTheDefault) {
 }
 
 TEST_F(SystemDevicesTest, WithoutASoundFontTheQueuesStillRunOut) {
-  SystemDevices devices(scheduler, main.poster(), {"/nonexistent/font.sf2", __FILE__});
+  SystemDevices devices(scheduler, main.poster(), {"/nonexistent/font.sf2"});
   const auto port = devices.open(-1);
   EXPECT_EQ(devices.problem(), Synthesizer::Problem::no_sound_font);
   EXPECT_NE(devices.reason(), "");
@@ -99,6 +100,22 @@ struct Receiver {
   std::set<Bytes> received;
   RtMidiIn input{RtMidi::UNIX_JACK, "receiver"};
 };
+
+TEST_F(SystemDevicesTest, AFontThatIsThereButNotWholeIsCalledDamaged) {
+  const TemporaryFolder folder;
+  const auto places = sound_font_places();
+  const auto font = std::ranges::find_if(
+      places, [](const std::string& place) { return std::filesystem::exists(place); });
+  ASSERT_NE(font, places.end());
+  folder.write("cut.sf2", folder.content(*font));
+  for (const int quarters : {3, 1, 0}) {
+    const auto path = folder.path / "cut.sf2";
+    std::filesystem::resize_file(path, std::filesystem::file_size(*font) * quarters / 4);
+    SystemDevices devices(scheduler, main.poster(), {"/nonexistent/font.sf2", path});
+    devices.open(-1);
+    EXPECT_EQ(devices.problem(), Synthesizer::Problem::damaged_sound_font) << quarters;
+  }
+}
 
 TEST_F(SystemDevicesTest, ARowReachesTheMidiPortAndADeadServerIsAnErrorOnly) {
   if (access("/usr/bin/jackd", X_OK) != 0) GTEST_SKIP() << "jackd is not installed";
