@@ -1,6 +1,8 @@
 #include "engine/interrupted_exercises.h"
 
 #include <algorithm>
+#include <fstream>
+#include <sstream>
 
 #include "base/delay.h"
 #include "base/filled_text.h"
@@ -29,16 +31,25 @@ std::optional<Training> read(const KeptTraining& kept) {
   if (row == nullptr) return {};
   try {
     settings = read_EinstSicherung(settings, row->settings, kept.settings);
+    settings.EinstSicherung = kept.settings;
+    Key key;
+    build_scale(key, settings.tongeschl, settings.abfr_iv);
+    const auto state = from_record(kept.state, settings, key);
+    const auto* whole = std::get_if<SavedTraining>(&state);
+    if (whole == nullptr) return {};
+    return Training{std::move(settings), *whole};
   } catch (const RuntimeError&) {
     return {};
   }
-  settings.EinstSicherung = kept.settings;
-  Key key;
-  build_scale(key, settings.tongeschl, settings.abfr_iv);
-  const auto state = from_record(kept.state, settings, key);
-  const auto* whole = std::get_if<SavedTraining>(&state);
-  if (whole == nullptr) return {};
-  return Training{std::move(settings), *whole};
+}
+
+/// True when the file holds just this text.
+bool holds(const std::filesystem::path& file, const std::string& text) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return false;
+  std::ostringstream content;
+  content << in.rdbuf();
+  return std::move(content).str() == text;
 }
 
 }  // namespace
@@ -53,18 +64,18 @@ void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
                                    const ProtocolFolders& folders) {
   const std::string user = user_name(server_);
   left_ = kept.left_behind();
+  // The oldest first: what is written anew keeps its place in the order of time.
+  std::ranges::reverse(left_);
   std::erase_if(left_, [&](KeptExercises::Left& left) {
     KeptExercise& exercise = left.exercise;
-    if (!exercise.document.empty()) {
-      if (!put_protocol(exercise, writer, folders)) return true;
+    if (!exercise.document.empty() && put_protocol(exercise, writer, folders)) {
       exercise.document.clear();
       kept.keep(exercise, left.name);
     }
     const bool own = exercise.user == user;
-    if (!own && !exercise.training) kept.use_up(left.name);
+    if (!own && !exercise.training && exercise.document.empty()) kept.use_up(left.name);
     return !own;
   });
-  std::ranges::reverse(left_);
   take_up_next(kept);
 }
 
@@ -72,6 +83,7 @@ bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWr
                                         const ProtocolFolders& folders) {
   const std::filesystem::path file = std::filesystem::path(exercise.file).filename();
   for (const auto& folder : {folders.protocols, folders.data}) {
+    if (holds(folder / file, exercise.document)) return true;  // put there before
     const WriteResult result = writer.write(folder / file, exercise.document);
     if (result.written) return true;
     errors_.log("take_up.", std::make_exception_ptr(RuntimeError(
@@ -87,7 +99,11 @@ void InterruptedExercises::take_up_next(KeptExercises& kept) {
   const KeptExercises::Left left = std::move(left_.back());
   left_.pop_back();
   offer(left.exercise, [this, &kept, left](End end) {
-    if (end != End::stays_kept) kept.use_up(left.name);
+    if (end != End::stays_kept) {
+      KeptExercise still = left.exercise;
+      still.training.reset();
+      still.document.empty() ? kept.use_up(left.name) : void(kept.keep(still, left.name));
+    }
     const auto next = [this, &kept] { take_up_next(kept); };
     end == End::nothing ? tell(text::exercise_interrupted, left.exercise, next) : next();
   });
@@ -102,10 +118,20 @@ void InterruptedExercises::offer(const KeptExercise& exercise, std::function<voi
   if (found == RecordRead::failed) {
     return tell(text::interrupted_not_stored, exercise, [done] { done(End::stays_kept); });
   }
-  if (!says_valid(stored)) stored.clear();
-  if (kept.stored_before && stored != *kept.stored_before) return done(End::nothing);
-  auto store = [this, exercise, training = *training, done](Reply reply) mutable {
+  const bool valid = found == RecordRead::found && says_valid(stored);
+  if (!valid) stored.clear();
+  // A training that was saved since wins, and one that was gone on with may have come to its end.
+  const bool there_already = stored == kept.state;
+  const bool newer = valid && kept.stored_before && stored != *kept.stored_before;
+  const bool ended = found == RecordRead::found && !valid && kept.continued;
+  if (!there_already && (newer || ended)) return done(End::nothing);
+  auto store = [this, exercise, training = *training, done, stored](Reply reply) mutable {
     if (reply == Reply::no) return done(End::refused);
+    if (reply == Reply::yes) {
+      std::vector<std::string> now;
+      const RecordRead read_now = server_.read_record(record_key('A', training.settings), now);
+      if (read_now == RecordRead::found && now != stored) return offer(exercise, done);
+    }
     std::optional<SavedTraining> current;
     // Tried once: what a busy host does not take now stays kept for the next start.
     Waits waits(scheduler_);
@@ -118,10 +144,11 @@ void InterruptedExercises::offer(const KeptExercise& exercise, std::function<voi
     tell(end == End::stored ? text::training_interrupted : text::interrupted_not_stored, exercise,
          [done, end] { done(end); });
   };
-  if (stored.empty() || (kept.continued && kept.stored_before)) return store(Reply::ok);
+  if (stored.empty() || there_already || (kept.continued && kept.stored_before))
+    return store(Reply::ok);
   dialogs_.show(
       {"Tonarix 2000", words(text::keep_interrupted_training, exercise), MessageStyle::yes_no,
-       texts_.Wort(text::save_training), texts_.Wort(text::do_not_save)},
+       texts_.Wort(text::save_training), texts_.Wort(text::do_not_save), Reply::no},
       std::move(store));
 }
 

@@ -1,5 +1,7 @@
 #include "engine/keeping.h"
 
+#include <memory>
+
 #include "base/completion.h"
 #include "base/runtime_error.h"
 #include "settings/exercises.h"
@@ -30,7 +32,7 @@ KeptTraining begin_training(Server& server, const Settings& settings) {
 }  // namespace
 
 Keeping::Keeping(const ExerciseContext& context, const Window& window)
-    : context_(context), window_(window), due_(context.common.scheduler, [this] { write(); }) {}
+    : context_(context), window_(window), due_(context.common.scheduler, [this] { write(true); }) {}
 
 void Keeping::task_done(int tasks, const std::optional<SavedTraining>& training) {
   kept_.tasks = tasks;
@@ -41,13 +43,13 @@ void Keeping::task_done(int tasks, const std::optional<SavedTraining>& training)
 void Keeping::now() {
   if (!due_.enabled()) return;
   due_.disable();
-  write();
+  write(true);
 }
 
 void Keeping::settle_training() {
   training_.reset();
   kept_.training.reset();
-  if (kept_.tasks > 0) write();
+  if (kept_.tasks > 0) write(true);
 }
 
 Sequence Keeping::tell_interrupted(Waits& waits) {
@@ -55,21 +57,22 @@ Sequence Keeping::tell_interrupted(Waits& waits) {
   if (!kept_.training) co_return;
   using End = InterruptedExercises::End;
   Completion told(waits);
-  End end = End::stays_kept;
-  context_.interrupted.offer(kept_, [&end, done = told.signal()](End became) {
-    end = became;
+  // The answer may come when the window has gone.
+  const auto end = std::make_shared<End>(End::stays_kept);
+  context_.interrupted.offer(kept_, [end, done = told.signal()](End became) {
+    *end = became;
     done();
   });
   co_await told;
-  if (end == End::stored) context_.caller.training_saved();
-  if (end != End::stays_kept) settle_training();
+  if (*end == End::stored) context_.caller.training_saved();
+  if (*end != End::stays_kept) settle_training();
 }
 
-void Keeping::finish() {
+void Keeping::finish(bool protocol_written) {
   now();
   over_ = true;
-  if (!kept_.training) return context_.kept.use_up();
-  keep(false);
+  if (protocol_written && !kept_.training) return context_.kept.use_up();
+  write(!protocol_written);
   context_.kept.leave_behind();
 }
 
@@ -86,12 +89,12 @@ void Keeping::end_session() {
   const FinishResult result = context_.protocol.ProtokollSchluss(caption(), window_.caption,
                                                                  context_.settings.EinstDatSave);
   if (!result.failed && !kept_.training) return context_.kept.use_up();
-  keep(result.failed);
+  write(result.failed);
 }
 
-void Keeping::write() {
+void Keeping::write(bool with_protocol) {
   try {
-    keep(true);
+    keep(with_protocol);
   } catch (const std::exception&) {
     context_.errors.log(kTag, std::current_exception());
   }

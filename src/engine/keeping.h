@@ -28,8 +28,9 @@ class Keeping {
   /// told.
   Sequence tell_interrupted(Waits& waits);
 
-  /// The exercise has come to its end. Only a training that nobody could settle stays kept.
-  void finish();
+  /// The exercise has come to its end. Only a training that nobody could settle stays kept, and a
+  /// protocol that no place took.
+  void finish(bool protocol_written);
   /// The way out has failed: all stays kept for the next start.
   void leave_behind();
   /// The session ends: the protocol is written without a question, and the training stays kept.
@@ -37,7 +38,7 @@ class Keeping {
 
  private:
   void keep(bool with_protocol);
-  void write();
+  void write(bool with_protocol);
   std::string caption() const;
 
   const ExerciseContext& context_;

@@ -71,13 +71,14 @@ Sequence WayOut::write_protocol() {
     if (reply != Reply::yes) break;
     result = context_.protocol.finish_again();
   }
+  protocol_written_ = !result.failed;
+  keeping_.finish(protocol_written_);
   if (result.fell_back) {
     const Message told = warning(Wort(text::protocol_not_written_to) + " " +
                                  result.wanted.string() + ": " + why(result.error) + "\n" +
                                  Wort(text::protocol_saved_instead) + "\n" + result.path.string());
     co_await ask(waits_, context_.common.dialogs, told);
   }
-  keeping_.finish();
   go_back();
 }
 
@@ -94,10 +95,10 @@ void WayOut::give_up(std::string_view tag, std::exception_ptr error) {
   context_.errors.report(tag, error);
   try {
     if (!protocol_closed_) close_protocol();
+    protocol_written_ ? keeping_.finish(true) : keeping_.leave_behind();
   } catch (...) {
     context_.errors.log(tag, std::current_exception());
   }
-  protocol_written_ ? keeping_.finish() : keeping_.leave_behind();
   go_back();
 }
 

@@ -49,7 +49,8 @@ FileInMaking::FileInMaking(const std::filesystem::path& folder) {
     name_ = name;
     // Before the lock another program may have taken it for a leftover. Where the file system
     // knows no locks, nobody clears either.
-    ::flock(file_.number(), LOCK_EX);
+    while (::flock(file_.number(), LOCK_EX) != 0 && errno == EINTR) {
+    }
   } while (!has_name(file_));
 }
 

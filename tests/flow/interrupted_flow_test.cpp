@@ -96,6 +96,38 @@ TEST_F(InterruptedFlowTest, WhatIsStoredMeanwhileWinsAndWhatWouldBeReplacedIsAsk
   EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
 }
 
+TEST_F(InterruptedFlowTest, ATrainingThatTheStoreHasLostMeanwhileIsNotGivenUp) {
+  work_and_die(1, 1);
+  { const FlowBed bed(host, kept); }
+  work_and_die(2, 1);
+  const auto state = Variant::strings(kept.left.at(0).exercise.training->state);
+  host.records.clear();
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
+  EXPECT_EQ(host.records["vemo06/A1"], state);
+  // The box may have been closed by another death: what is stored already is no newer training.
+  work_and_die(2, 1);
+  host.records["vemo06/A1"] = Variant::strings(kept.left.at(0).exercise.training->state);
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
+}
+
+TEST_F(InterruptedFlowTest, AProtocolThatNoPlaceTookIsPutThereByTheNextStart) {
+  {
+    FlowBed bed(host, kept);
+    Arbeitsblatt1& window = bed.begin();
+    bed.answer_row(window);
+    bed.documents.broken_folders = {"/protocols", "/data"};
+    bed.dialogs.script = {Reply::no};
+    window.zurueck_click();
+    bed.scheduler.advance_ms(400);
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(450);
+    EXPECT_TRUE(bed.settings().takes_input());
+  }
+  const FlowBed next(host, kept);
+  ASSERT_EQ(next.documents.written.size(), 1U);
+  EXPECT_TRUE(kept.left.empty());
+}
+
 TEST_F(InterruptedFlowTest, AStoreThatFailsAndAnotherUserLeaveTheTrainingKept) {
   work_and_die(1, 2);
   host.failing = {"READ"};
