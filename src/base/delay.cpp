@@ -10,6 +10,7 @@ Waits::Awaitable::~Awaitable() {
 void Waits::Awaitable::await_suspend(std::coroutine_handle<> routine) {
   routine_ = routine;
   waits_.waiting_.insert(this);
+  waits_.yielded_ = yields_;
   arm(span_);
 }
 
@@ -19,8 +20,9 @@ void Waits::Awaitable::arm(Scheduler::Time span) {
     pending_ = 0;
     Waits& waits = waits_;  // the awaitable is gone once the routine goes on
     waits.waiting_.erase(this);
+    waits.yielded_ = false;
     routine_.resume();
-    waits.resumed();
+    if (!waits.yielded_) waits.resumed();
   });
 }
 

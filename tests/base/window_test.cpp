@@ -56,6 +56,22 @@ TEST_F(WindowTest, ARoutineWaitsInVirtualTimeAndAnnouncesEachStep) {
   EXPECT_GT(announced, before);
 }
 
+TEST_F(WindowTest, AFadeIsAnnouncedOnceItsLastStepIsDone) {
+  int announced = 0;
+  Waits waits(scheduler, [&] { ++announced; });
+  const auto fade = [](Waits& own) -> Sequence {
+    for (int step = 0; step < 131; ++step) co_await own.Yield();
+    co_await own.Delay(100);
+  };
+  Sequence routine = fade(waits);
+  routine.start();
+  scheduler.advance_ms(99);
+  EXPECT_EQ(announced, 1);
+  scheduler.advance_ms(1);
+  EXPECT_EQ(announced, 2);
+  EXPECT_TRUE(routine.done());
+}
+
 TEST_F(WindowTest, ClosingTheWaitsEndsThemAtOnceAndDestroyingTheOwnerForgetsThem) {
   window.press_go();
   window.waits().close();
