@@ -42,8 +42,7 @@ class FileInMaking {
   bool write(std::string_view content);
   /// What is written outlives the machine's failure.
   bool sync();
-  /// Gives the name, or the next free one ("a.xml", "a-2.xml", "a-3.xml"), and never replaces a
-  /// file, however many programs want the name at once. The path that it got.
+  /// The same as `move_beside` for this file.
   std::optional<std::filesystem::path> place_beside(const std::filesystem::path& path);
   /// Takes the place of an own older file.
   bool replace(const std::filesystem::path& path);
@@ -55,6 +54,11 @@ class FileInMaking {
   std::filesystem::path name_;  ///< the own name, empty once it has the real one
 };
 
+/// Gives a file the name, or the next free one ("a.xml", "a-2.xml", "a-3.xml"), and never replaces
+/// one, however many programs want the name at once. The path that it got, which outlives the
+/// machine's failure.
+std::optional<std::filesystem::path> move_beside(const std::filesystem::path& file,
+                                                 std::filesystem::path path);
 /// The file, locked for this process; nothing when there is none, or another program holds it.
 std::optional<Descriptor> lock_file(const std::filesystem::path& path);
 /// Takes away what killed programs left half written in the folder.
