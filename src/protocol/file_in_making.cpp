@@ -121,6 +121,25 @@ std::optional<Descriptor> lock_file(const std::filesystem::path& path) {
   return {};
 }
 
+std::optional<std::string> content_of(const Descriptor& file) {
+  struct stat facts {};
+  if (::fstat(file.number(), &facts) != 0 || !S_ISREG(facts.st_mode)) return {};
+  std::string content(static_cast<std::size_t>(facts.st_size), '\0');
+  for (std::size_t done = 0; done < content.size();) {
+    const ssize_t count = ::pread(file.number(), content.data() + done, content.size() - done,
+                                  static_cast<off_t>(done));
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return {};
+    done += static_cast<std::size_t>(count);
+  }
+  return content;
+}
+
+std::optional<std::string> content_of(const std::filesystem::path& path) {
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  return file ? content_of(file) : std::nullopt;
+}
+
 void clear_leftovers(const std::filesystem::path& folder) {
   std::error_code error;
   for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -59,8 +60,13 @@ class FileInMaking {
 /// machine's failure.
 std::optional<std::filesystem::path> move_beside(const std::filesystem::path& file,
                                                  std::filesystem::path path);
-/// The file, locked for this process; nothing when there is none, or another program holds it.
+/// The file, locked for this process; nothing when there is none, or another program holds it, or
+/// it can't be opened, as `errno` tells.
 std::optional<Descriptor> lock_file(const std::filesystem::path& path);
+/// All that is in the file; nothing when it can't be read.
+std::optional<std::string> content_of(const Descriptor& file);
+/// The same of a plain file that nobody writes any more; nothing for whatever else bears the name.
+std::optional<std::string> content_of(const std::filesystem::path& path);
 /// Takes away what killed programs left half written in the folder.
 void clear_leftovers(const std::filesystem::path& folder);
 
