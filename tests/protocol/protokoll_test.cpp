@@ -10,6 +10,7 @@
 
 #include "protocol/file_in_making.h"
 #include "protocol/poor_file_system.h"
+#include "protocol/written_protocol.h"
 #include "support/fake_document_writer.h"
 #include "support/host_bed.h"
 #include "support/temporary_folder.h"
@@ -39,6 +40,46 @@ struct ProtokollTest : testing::Test, HostBed {
   const Protokoll::Logger log = [this](std::string_view tag, std::exception_ptr) { logged += tag; };
   Protokoll protokoll{server, clock, writer, {"/usual", "/data"}, log};
 };
+
+TEST_F(ProtokollTest, AProtocolIsFoundAgainAsItStoodThenOrFurtherOnAndNoOtherIs) {
+  const auto work = [this](int tasks, int wrong) {
+    protokoll.ProtokollNeu();
+    for (std::int16_t number = 1; number <= tasks; ++number) {
+      task(number, false, 0, {});
+      protokoll.ProtokollProperty("FalschIv", wrong);
+    }
+  };
+  work(2, -3);
+  const std::string kept = protokoll.so_far("bestimmen", "", {});
+  task(3, false, 0, {});
+  protokoll.ProtokollMesswerte(1, 0);
+  std::string ended = protokoll.so_far("bestimmen", "", {});
+  ended.replace(ended.find("09:05:32"), 8, "09:59:00");
+  work(1, -3);
+  const std::string shorter = protokoll.so_far("bestimmen", "", {});
+  work(2, 3);
+  const std::string answered_otherwise = protokoll.so_far("bestimmen", "", {});
+  work(2, -3);
+  const std::string of_other_kind = protokoll.so_far("bilden", "", {});
+  const struct {
+    const char* name;
+    std::string content;
+    bool found;
+  } cases[] = {{"EXR1.xml", kept, true},
+               {"EXR1.xml", ended, true},
+               {"EXR1-3.xml", ended, true},
+               {"EXR2.xml", kept, false},
+               {"EXR1.xml", ended.substr(0, ended.size() - 20), false},
+               {"EXR1.xml", shorter, false},
+               {"EXR1.xml", answered_otherwise, false},
+               {"EXR1.xml", of_other_kind, false},
+               {"EXR1.xml", "", false}};
+  for (const auto& [name, content, found] : cases) {
+    TemporaryFolder folder;
+    folder.write(name, content);
+    EXPECT_EQ(lies_in(folder.path, "EXR1.xml", kept), found) << name << content;
+  }
+}
 
 struct Comma final : std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
