@@ -294,6 +294,7 @@ TEST_F(LevelFlowTest, AStoreWaitsForOthersWithoutFreezingTheWindow) {
   host.busy = 50;
   play(bed, again, 0);
   again.title_bar_close();
+  again.wieder2_click();
   bed.scheduler.advance_ms(2'000);
   EXPECT_TRUE(again.busy && !again.zurueck.enabled);
   EXPECT_EQ(saved_training_entry(bed), "[565s]");
