@@ -1190,6 +1190,15 @@ Vorzeichen!</translation>
         <extracomment>Why something failed, where no better word is known; %1 is the number of the error</extracomment>
         <translation>Fehler Nr. %1</translation>
     </message>
+    <message id="1019s">
+        <source>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist beschädigt. Die Datei bleibt hier erhalten:</source>
+        <extracomment>Message at the start; the path follows on the next line</extracomment>
+        <translation>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist beschädigt. Die Datei bleibt hier erhalten:</translation>
+    </message>
+    <message id="1020s">
+        <source>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist leer.</source>
+        <translation>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist leer.</translation>
+    </message>
     <message id="1030s">
         <source>ab 4 Oktaven Tonraum</source>
         <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>

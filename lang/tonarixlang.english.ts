@@ -1190,6 +1190,15 @@ in any order.</translation>
         <extracomment>Why something failed, where no better word is known; %1 is the number of the error</extracomment>
         <translation>Error no. %1</translation>
     </message>
+    <message id="1019s">
+        <source>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist beschädigt. Die Datei bleibt hier erhalten:</source>
+        <extracomment>Message at the start; the path follows on the next line</extracomment>
+        <translation>An interrupted exercise cannot be restored, because the file that holds it is damaged. The file is kept here:</translation>
+    </message>
+    <message id="1020s">
+        <source>Eine unterbrochene Übung kann nicht wiederhergestellt werden, denn die Datei mit ihrem Stand ist leer.</source>
+        <translation>An interrupted exercise cannot be restored, because the file that holds it is empty.</translation>
+    </message>
     <message id="1030s">
         <source>ab 4 Oktaven Tonraum</source>
         <extracomment>Settings: why an option is greyed, for a tooltip and a screen reader</extracomment>

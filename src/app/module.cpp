@@ -49,6 +49,12 @@ void Module::take_up_interrupted() {
     } catch (const std::exception&) {
       errors_.log("take_up.", std::current_exception());
     }
+    for (const std::filesystem::path& file : outside_.kept.take_damaged()) {
+      outside_.dialogs.show(warning(file.empty() ? outside_.language.Wort(text::kept_file_empty)
+                                                 : outside_.language.Wort(text::kept_file_damaged) +
+                                                       "\n" + file.string()),
+                            [](Reply) {});
+    }
   });
 }
 

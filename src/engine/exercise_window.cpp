@@ -15,6 +15,7 @@ namespace {
 
 constexpr double kClockInterval = 10000;  // ms
 constexpr std::int16_t kClockSeconds = 10;
+constexpr double kLookAgain = 100;  // ms until a way out that is held is tried again
 constexpr const char* kLeavingTag = "zurueck_click.";
 
 }  // namespace
@@ -35,7 +36,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
       way_out_(context_, *this, *this, waits(), keeping_),
       start_(context.common.scheduler, [this] { start_timer(); }),
       Uhrzeit_(context.common.scheduler, [this] { Uhrzeit_timer(); }),
-      testtimer_(context.common.scheduler, [this] { run(kLeavingTag, leave()); }) {
+      testtimer_(context.common.scheduler, [this] { leave_broken(); }) {
   caption = word(exercise_row(context.settings).title);
   context_.statistics.init_arr(3, kStatisticRows - 1);
   context_.statistics.Clear();
@@ -43,6 +44,7 @@ ExerciseWindow::ExerciseWindow(std::string name, const ExerciseContext& context)
   context_.best.Clear();
   WaitMeldung.visible = false;
   Uhrzeit_.set_interval(kClockInterval);
+  testtimer_.set_interval(kLookAgain);
   start_.enable();
 }
 
@@ -51,8 +53,6 @@ void ExerciseWindow::start_timer() {
     enter(Phase::starting);
     zurueck.text = word(640_text);
     cmdHilfe.text = word(text::help_caption);
-    true_false[0].text = word(468_text);
-    true_false[1].text = word(232_text);
     WaitMeldung.text = word(text::one_moment);
     Uhr.text = time_of_day(context_.clock.now());
     next_task_.name(context_.common.texts, 0);
@@ -126,7 +126,7 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   const Actions& actions = actions_in(phase);
   const bool automatic = context_.settings.abfrage == 1;
   next_task_.withdraw();
-  if (actions.next_task) next_task_.offer(automatic);
+  if (actions.next_task && reading_ == 0) next_task_.offer(automatic);
   const TextKey head = actions.next_task && automatic ? actions.other : actions.head;
   question.text = head == TextKey{} ? question_text() : word(line(head));
   hint.text = word(line(keynote ? actions.other : actions.hint));
@@ -136,7 +136,8 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
     zurueck.fore = signal::wrong;
     zurueck.text = word(625_text);
   }
-  zurueck.enabled = cmdHilfe.enabled = phase != Phase::leaving;
+  cmdHilfe.enabled = phase != Phase::leaving;
+  zurueck.enabled = cmdHilfe.enabled && !way_out_.held();
   open_answers(actions.answers);
   show_actions(actions);
   tell_phase();
@@ -168,9 +169,7 @@ void ExerciseWindow::go_on_after_answer() {
 }
 
 void ExerciseWindow::update_counts() {
-  zaehler[0].text = std::to_string(answers_.counts.right);
-  zaehler[1].text = std::to_string(answers_.counts.wrong);
-  for (const int kind : {0, 1}) count_by_name(zaehler[kind], true_false[kind]);
+  standing_.show_counts(answers_.counts);
   show_counts(answers_.counts);
 }
 
@@ -189,40 +188,21 @@ void ExerciseWindow::finish_row() {
     if (outcome.finished()) next = Phase::training_finished;
   }
   if (is_test(level())) {
-    if (--box_.test.aufg_rest == 0) {
-      Uhrzeit_.disable();
-      next = Phase::test_finished;
-    } else if (box_.test.aufg_rest * 2 == box_.test.aufg_gesamt) {
-      box_.test.TestListeFuellen();
-    }
+    if (box_.test.finish_task()) next = Phase::test_finished;
+    if (next == Phase::test_finished) Uhrzeit_.disable();
     standing_.show_test();
   }
   enter(next);
   const bool goes_on = is_training(level()) && next != Phase::training_finished;
   keeping_.task_done(sitting_.tasks(), goes_on ? std::optional(training_now()) : std::nullopt);
-  if (next == Phase::training_finished) run("intervall_antw.", finish_training());
+  if (next == Phase::training_finished) {
+    run("intervall_antw.", way_out_.finish_training(training_));
+  }
 }
 
 SavedTraining ExerciseWindow::training_now() const {
   return training_state(box_, context_.settings, context_.statistics, answers_.counts.wrong,
                         answers_.counts.repeats);
-}
-
-// The list of the settings window follows the store; while the store is silent it stays.
-Sequence ExerciseWindow::finish_training() {
-  const auto hold = [this](bool on) {
-    zurueck.enabled = !(held_ = on);
-    show_wait(*this, *this, on);
-  };
-  hold(true);
-  bool dropped = false;
-  co_await training_.drop(dropped);
-  hold(false);
-  const RecordRead left = dropped ? RecordRead::none : training_.stored();
-  if (left == RecordRead::failed) co_return tell(word(text::store_not_read));
-  const bool found = left == RecordRead::found;
-  found ? context_.caller.training_saved() : context_.caller.training_finished();
-  if (!dropped) tell(word(found ? text::training_not_marked : text::no_training_stored));
 }
 
 void ExerciseWindow::CmdNextAufg_click() {
@@ -242,9 +222,9 @@ void ExerciseWindow::Uhrzeit_timer() {
     Uhr.text = time_of_day(context_.clock.now());
     Uhrzeit_.enable();
     if (!is_test(level())) return;
-    box_.test.aufg_dauer = to_int16(box_.test.aufg_dauer - kClockSeconds);
+    const bool time_is_up = box_.test.pass_time(kClockSeconds);
     standing_.show_test();
-    if (box_.test.aufg_dauer > 0) return;
+    if (!time_is_up) return;
     stop_all();
     enter(Phase::time_up);
   });
@@ -272,11 +252,13 @@ void ExerciseWindow::cmdHilfe_click() {
 
 // The time that goes into reading is not the student's, and nothing begins behind what is read.
 void ExerciseWindow::hold_back() {
+  ++reading_;
   answers_.pause();
   next_task_.withdraw();
 }
 
 void ExerciseWindow::go_on_after_reading() {
+  if (--reading_ > 0) return;
   if (phase_ == Phase::answering) answers_.open();
   if (actions_in(phase_).next_task) next_task_.offer(context_.settings.abfrage == 1);
 }
@@ -288,19 +270,13 @@ void ExerciseWindow::zurueck_click() {
 void ExerciseWindow::way_out() {
   const bool running =
       is_test(level()) && lesson_nr_ > 0 && !is_over(phase_) && phase_ != Phase::broken;
-  if (!held_) run(kLeavingTag, running ? break_off() : leave());
+  if (!way_out_.held()) run(kLeavingTag, running ? break_off() : leave());
 }
 
-// A test can't be gone on with, so a slip must not end it. Its time goes on meanwhile.
 Sequence ExerciseWindow::break_off() {
-  held_ = true;
-  const TextKey text = level() == Level::exam ? text::break_off_exam : text::break_off_test;
-  const Message told{
-      caption,  word(text), MessageStyle::yes_no, word(text::break_off), word(text::keep_going),
-      Reply::no};
-  const Reply reply = co_await ask(waits(), common().dialogs, told);
-  held_ = false;
-  if (reply == Reply::yes) co_await leave();
+  bool breaks_off = false;
+  co_await way_out_.ask_to_break_off(breaks_off);
+  if (breaks_off) co_await leave();
 }
 
 Sequence ExerciseWindow::leave() {
@@ -321,6 +297,10 @@ Sequence ExerciseWindow::leave() {
       is_test(level()) && lesson_nr_ > 0 ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
   if (broken) co_await keeping_.tell_interrupted(waits());
   co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, former);
+}
+
+void ExerciseWindow::leave_broken() {
+  way_out_.held() ? testtimer_.enable() : run(kLeavingTag, leave());
 }
 
 void ExerciseWindow::session_ends() {
@@ -353,9 +333,7 @@ void ExerciseWindow::failed(std::string_view tag, std::exception_ptr error) {
   stop_all();
   enter(Phase::broken);
   context_.errors.report_exercise(name(), tag, error, [this, here = alive()] {
-    if (here.expired()) return;
-    testtimer_.set_interval(0);
-    testtimer_.enable();
+    if (!here.expired()) testtimer_.enable();
   });
 }
 

@@ -64,9 +64,9 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   void hold_back();
   void go_on_after_reading();
   Sequence break_off();
-  Sequence finish_training();
   SavedTraining training_now() const;
   Sequence leave();
+  void leave_broken();
   void Uhrzeit_timer();
   void stop_all();
 
@@ -86,7 +86,7 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   Timer testtimer_;
   Phase phase_ = Phase::starting;
   int lesson_nr_ = 0;
-  bool held_ = false;  ///< leaving has to wait: for an answer, or until a record is stored
+  int reading_ = 0;  ///< boxes in front that are being read
 };
 
 }  // namespace tonarix

@@ -1,8 +1,6 @@
 #include "engine/interrupted_exercises.h"
 
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 
 #include "base/delay.h"
 #include "base/filled_text.h"
@@ -10,6 +8,7 @@
 #include "base/runtime_error.h"
 #include "engine/training_record.h"
 #include "music/key.h"
+#include "protocol/written_protocol.h"
 #include "settings/exercises.h"
 #include "settings/saved_settings.h"
 
@@ -43,15 +42,6 @@ std::optional<Training> read(const KeptTraining& kept) {
   }
 }
 
-/// True when the file holds just this text.
-bool holds(const std::filesystem::path& file, const std::string& text) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return false;
-  std::ostringstream content;
-  content << in.rdbuf();
-  return std::move(content).str() == text;
-}
-
 }  // namespace
 
 std::string user_name(Server& server) {
@@ -70,7 +60,7 @@ void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
     KeptExercise& exercise = left.exercise;
     if (!exercise.document.empty() && put_protocol(exercise, writer, folders)) {
       exercise.document.clear();
-      kept.keep(exercise, left.name);
+      kept.keep(exercise, left.name);  // or else the next start finds that the protocol lies there
     }
     const bool own = exercise.user == user;
     if (!own && !exercise.training && exercise.document.empty()) kept.use_up(left.name);
@@ -83,7 +73,9 @@ bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWr
                                         const ProtocolFolders& folders) {
   const std::filesystem::path file = std::filesystem::path(exercise.file).filename();
   for (const auto& folder : {folders.protocols, folders.data}) {
-    if (holds(folder / file, exercise.document)) return true;  // put there before
+    if (lies_in(folder, file, exercise.document)) return true;  // put there before
+  }
+  for (const auto& folder : {folders.protocols, folders.data}) {
     const WriteResult result = writer.write(folder / file, exercise.document);
     if (result.written) return true;
     errors_.log("take_up.", std::make_exception_ptr(RuntimeError(

@@ -9,6 +9,8 @@
 namespace tonarix {
 
 void Standing::prepare(Level level) {
+  controls_.true_false[0].text = texts_.Wort(468_text);
+  controls_.true_false[1].text = texts_.Wort(232_text);
   controls_.cmd_test_ein.text = texts_.Wort(text::show_test_standing);
   controls_.cmd_test_aus.text = texts_.Wort(text::hide_test_standing);
   controls_.ergebnis_anz[0].text = texts_.Wort(text::training_status);
@@ -22,6 +24,12 @@ void Standing::prepare(Level level) {
   controls_.cmd_test_aus.visible = controls_.cmd_test_aus.enabled = is_test(level);
   controls_.cmd_test_ein.visible = controls_.cmd_test_ein.enabled = false;
   if (is_test(level)) show_test();
+}
+
+void Standing::show_counts(const TaskAnswers::Counts& counts) {
+  controls_.zaehler[0].text = std::to_string(counts.right);
+  controls_.zaehler[1].text = std::to_string(counts.wrong);
+  for (const int kind : {0, 1}) count_by_name(controls_.zaehler[kind], controls_.true_false[kind]);
 }
 
 void Standing::show_panel(int panel) {

@@ -19,6 +19,34 @@ void show_wait(Window& window, ExerciseControls& controls, bool waiting) {
   controls.WaitMeldung.visible = waiting;
 }
 
+Sequence WayOut::ask_to_break_off(bool& breaks_off) {
+  const bool exam = context_.settings.Uebungsmodus == Level::exam;
+  const Message told{
+      window_.caption,        Wort(exam ? text::break_off_exam : text::break_off_test),
+      MessageStyle::yes_no,   Wort(text::break_off),
+      Wort(text::keep_going), Reply::no};
+  hold(true);
+  breaks_off = co_await ask(waits_, context_.common.dialogs, told) == Reply::yes;
+  hold(false);
+}
+
+Sequence WayOut::finish_training(TrainingRecord& training) {
+  hold(true);
+  show_wait(window_, controls_, true);
+  bool dropped = false;
+  co_await training.drop(dropped);
+  show_wait(window_, controls_, false);
+  hold(false);
+  const RecordRead left = dropped ? RecordRead::none : training.stored();
+  const auto tell = [this](TextKey text) {
+    context_.common.dialogs.show(warning(Wort(text)), [](Reply) {});
+  };
+  if (left == RecordRead::failed) co_return tell(text::store_not_read);
+  const bool found = left == RecordRead::found;
+  found ? context_.caller.training_saved() : context_.caller.training_finished();
+  if (!dropped) tell(found ? text::training_not_marked : text::no_training_stored);
+}
+
 Sequence WayOut::leave(WorkDone work, Keep keep, RecordRead former) {
   if (keep) {
     co_await ask_to_save(std::move(keep), former);

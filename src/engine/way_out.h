@@ -6,14 +6,15 @@
 #include "engine/exercise_context.h"
 #include "engine/exercise_controls.h"
 #include "engine/keeping.h"
+#include "engine/training_record.h"
 
 namespace tonarix {
 
 /// Says that a moment is needed, and later that it is over. The window can be moved and read.
 void show_wait(Window& window, ExerciseControls& controls, bool waiting);
 
-/// The last steps of an exercise: keeping the training, the result sheet, the protocol, and back to
-/// the settings.
+/// The last steps of an exercise: the end of a training, keeping it, the result sheet, the
+/// protocol, and back to the settings.
 class WayOut {
  public:
   WayOut(const ExerciseContext& context, Window& window, ExerciseControls& controls, Waits& waits,
@@ -26,6 +27,14 @@ class WayOut {
   /// and then nothing is asked. `former`: whether another saved training would go, which the
   /// question says.
   Sequence leave(WorkDone work, Keep keep, RecordRead former);
+  /// Asks whether the student breaks off a test or exam: it can't be gone on with, so a slip must
+  /// not end it. Its time goes on meanwhile.
+  Sequence ask_to_break_off(bool& breaks_off);
+  /// Marks the training that is solved, or too hard, as used up. The list of the settings window
+  /// follows the store; while the store is silent it stays.
+  Sequence finish_training(TrainingRecord& training);
+  /// True while leaving has to wait: for an answer, or until a record is stored.
+  bool held() const { return held_; }
   /// What can still be done is done: the student is told and is back at the settings.
   void give_up(std::string_view tag, std::exception_ptr error);
 
@@ -34,6 +43,7 @@ class WayOut {
   Sequence write_protocol();
   FinishResult close_protocol();
   void go_back();
+  void hold(bool on) { controls_.zurueck.enabled = !(held_ = on); }
   std::string Wort(TextKey nr) const { return context_.common.texts.Wort(nr); }
 
   const ExerciseContext& context_;
@@ -41,6 +51,7 @@ class WayOut {
   ExerciseControls& controls_;
   Waits& waits_;
   Keeping& keeping_;
+  bool held_ = false;
   bool protocol_closed_ = false;
   bool protocol_written_ = false;
 };

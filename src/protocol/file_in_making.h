@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -42,8 +43,7 @@ class FileInMaking {
   bool write(std::string_view content);
   /// What is written outlives the machine's failure.
   bool sync();
-  /// Gives the name, or the next free one ("a.xml", "a-2.xml", "a-3.xml"), and never replaces a
-  /// file, however many programs want the name at once. The path that it got.
+  /// The same as `move_beside` for this file.
   std::optional<std::filesystem::path> place_beside(const std::filesystem::path& path);
   /// Takes the place of an own older file.
   bool replace(const std::filesystem::path& path);
@@ -55,8 +55,18 @@ class FileInMaking {
   std::filesystem::path name_;  ///< the own name, empty once it has the real one
 };
 
-/// The file, locked for this process; nothing when there is none, or another program holds it.
+/// Gives a file the name, or the next free one ("a.xml", "a-2.xml", "a-3.xml"), and never replaces
+/// one, however many programs want the name at once. The path that it got, which outlives the
+/// machine's failure.
+std::optional<std::filesystem::path> move_beside(const std::filesystem::path& file,
+                                                 std::filesystem::path path);
+/// The file, locked for this process; nothing when there is none, or another program holds it, or
+/// it can't be opened, as `errno` tells.
 std::optional<Descriptor> lock_file(const std::filesystem::path& path);
+/// All that is in the file; nothing when it can't be read.
+std::optional<std::string> content_of(const Descriptor& file);
+/// The same of a plain file that nobody writes any more; nothing for whatever else bears the name.
+std::optional<std::string> content_of(const std::filesystem::path& path);
 /// Takes away what killed programs left half written in the folder.
 void clear_leftovers(const std::filesystem::path& folder);
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tonarix {
@@ -49,6 +51,12 @@ class KeptExercises {
   /// What programs that live no longer have left, newest first. Each is this program's alone from
   /// then on, until it is used up or this program ends too.
   virtual std::vector<Left> left_behind() = 0;
+  /// What `left_behind` has found and could not read, each once: the file as it was set aside, or
+  /// an empty path for an empty file, which is gone.
+  std::vector<std::filesystem::path> take_damaged() { return std::exchange(damaged_, {}); }
+
+ protected:
+  std::vector<std::filesystem::path> damaged_;
 };
 
 /// The kept exercise around its protocol: one well-formed document, UTF-8, in three parts to be

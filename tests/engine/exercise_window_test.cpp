@@ -132,6 +132,21 @@ TEST_F(ExerciseWindowTest, AnErrorClosesItWithoutAskingAndWritesTheProtocol) {
   EXPECT_FALSE(kept.own);
 }
 
+TEST_F(ExerciseWindowTest, AnErrorBehindAQuestionWaitsForTheAnswer) {
+  settings.Uebungsmodus = Level::exam;
+  auto& test = open<SilentWindow>();
+  scheduler.advance_ms(50);
+  test.answer(true);
+  test.zurueck_click();  // asks whether to break off
+  test.fails = true;
+  test.CmdNextAufg_click();
+  scheduler.advance_ms(1000);
+  EXPECT_EQ(test.phase(), Phase::broken);
+  dialogs.answer(Reply::no);
+  scheduler.advance_ms(1000);
+  EXPECT_EQ(documents.written.size(), 1U);
+}
+
 TEST_F(ExerciseWindowTest, ATrainingThatAnErrorEndsIsStoredAsItStoodAfterItsLastTask) {
   settings.EinstSicherung = build_EinstSicherung(settings, SettingsKind::einstellung1);
   for (const bool store_works : {true, false}) {

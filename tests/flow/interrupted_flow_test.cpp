@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "flow/flow_bed.h"
+#include "support/temporary_folder.h"
 
 namespace tonarix {
 namespace {
@@ -126,6 +127,35 @@ TEST_F(InterruptedFlowTest, AProtocolThatNoPlaceTookIsPutThereByTheNextStart) {
   const FlowBed next(host, kept);
   ASSERT_EQ(next.documents.written.size(), 1U);
   EXPECT_TRUE(kept.left.empty());
+}
+
+TEST_F(InterruptedFlowTest, AProtocolThatLiesWhereItBelongsIsNotPutThereAgain) {
+  TemporaryFolder folder;
+  FileDocumentWriter writer;
+  const ProtocolFolders folders{folder.path / "protocols", folder.path / "data"};
+  folder.write("protocols/EXR261121090532.xml", "another program's");
+  {
+    FlowBed bed(host, kept, writer, folders);
+    Arbeitsblatt1& window = bed.begin();
+    bed.answer_row(window);
+    bed.next_task(window);
+    const KeptExercise before = kept.own.value();
+    bed.press(window, bed.right_code(0));
+    window.zurueck_click();
+    bed.scheduler.advance_ms(400);
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(450);
+    kept.left = {{"kept-1", before}};  // killed before it was used up
+  }
+  kept.damaged_ = {"", "/data/damaged-kept-2.xml"};
+  kept.refuses = true;
+  FlowBed next(host, kept, writer, folders);
+  EXPECT_THAT(told(next),
+              testing::ElementsAre("[1169s]", "[1020s]", "[1019s]\n/data/damaged-kept-2.xml"));
+  EXPECT_TRUE(kept.left.empty());
+  using Files = std::filesystem::directory_iterator;
+  EXPECT_EQ(std::distance(Files(folders.protocols), {}), 2);
+  EXPECT_FALSE(std::filesystem::exists(folders.data));
 }
 
 TEST_F(InterruptedFlowTest, AStoreThatFailsAndAnotherUserLeaveTheTrainingKept) {

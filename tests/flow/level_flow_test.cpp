@@ -28,6 +28,21 @@ void save(FlowBed& bed, Arbeitsblatt1& window) {
   bed.leave(window);
 }
 
+/// A training with this many intervals, left with yes, and with no where the host refuses; what is
+/// listed then. `fates`: of its stores.
+std::string train(FakeHost& host, int invzahl, const std::string& fates = {}) {
+  FlowBed bed(host);
+  bed.open_settings().click(bed.settings().invzahl[invzahl]);
+  bed.settings().choose(bed.settings().training_Combo, 1);
+  Arbeitsblatt1& window = bed.open_exercise();
+  bed.hear_row();
+  bed.answer_row(window);
+  host.fates = fates;
+  bed.dialogs.script = {Reply::yes, Reply::no};
+  bed.leave(window);
+  return saved_training_entry(bed);
+}
+
 struct LevelFlowTest : testing::Test {
   Variant& state() { return host.records["vemo06/A1"]; }
   FakeHost host;
@@ -138,23 +153,6 @@ TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
   EXPECT_EQ(bed.dialogs.shown.back().text, "[495s] [1139s]") << "perhaps";
 }
 
-TEST_F(LevelFlowTest, SavingIsTriedAgainUntilTheHostTakesItOrTheStudentLeaves) {
-  FlowBed bed(host);
-  Arbeitsblatt1& window = bed.begin(1);
-  bed.answer_row(window);
-  host.failing = {"STORE"};
-  bed.dialogs.script = {Reply::yes};
-  window.zurueck_click();
-  bed.scheduler.advance_ms(50);
-  EXPECT_EQ(bed.dialogs.shown.at(1).text, "[1106s]");
-  EXPECT_EQ(bed.windows.newest(), &window);
-  host.failing.clear();
-  bed.dialogs.answer(Reply::yes);
-  bed.scheduler.advance_ms(400);
-  EXPECT_TRUE(host.records.count("vemo06/A1"));
-  bed.result();
-}
-
 TEST_F(LevelFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheStoreHasIt) {
   struct Case {
     int level;
@@ -197,18 +195,6 @@ TEST_F(LevelFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheStoreHasIt
 }
 
 TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
-  /// A training with this many intervals, left with yes, and with no where the host refuses.
-  const auto train = [](FakeHost& of, int invzahl) {
-    FlowBed bed(of);
-    bed.open_settings().click(bed.settings().invzahl[invzahl]);
-    bed.settings().choose(bed.settings().training_Combo, 1);
-    Arbeitsblatt1& window = bed.open_exercise();
-    bed.hear_row();
-    bed.answer_row(window);
-    bed.dialogs.script = {Reply::yes, Reply::no};
-    bed.leave(window);
-    return saved_training_entry(bed);
-  };
   EXPECT_EQ(train(host, 2), "[565s]");
   ASSERT_EQ(host.records.size(), 2U);
   for (const auto& [settings, state] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}}) {
@@ -239,17 +225,8 @@ TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
 TEST_F(LevelFlowTest, WhateverBecomesOfEachStoreNoTrainingIsMixed) {
   const auto records_after = [](int invzahl, const std::string& fates) {
     FakeHost of;
-    for (const int number : {invzahl, 2}) {
-      FlowBed bed(of);
-      bed.open_settings().click(bed.settings().invzahl[number]);
-      bed.settings().choose(bed.settings().training_Combo, 1);
-      Arbeitsblatt1& window = bed.open_exercise();
-      bed.hear_row();
-      bed.answer_row(window);
-      if (number == 2) of.fates = fates;
-      bed.dialogs.script = {Reply::yes, Reply::no};
-      bed.leave(window);
-    }
+    train(of, invzahl);
+    train(of, 2, fates);
     return of.records;
   };
   const auto former = records_after(1, "rrrrrr");
@@ -294,6 +271,7 @@ TEST_F(LevelFlowTest, AStoreWaitsForOthersWithoutFreezingTheWindow) {
   host.busy = 50;
   play(bed, again, 0);
   again.title_bar_close();
+  again.wieder2_click();
   bed.scheduler.advance_ms(2'000);
   EXPECT_TRUE(again.busy && !again.zurueck.enabled);
   EXPECT_EQ(saved_training_entry(bed), "[565s]");

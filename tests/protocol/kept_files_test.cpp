@@ -1,11 +1,12 @@
 #include "protocol/kept_files.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 
+#include "protocol/poor_file_system.h"
 #include "support/temporary_folder.h"
 
 namespace tonarix {
@@ -76,6 +77,49 @@ TEST(KeptFiles, ALivingProgramsExerciseIsItsOwnAndADeadOnesIsTakenOnce) {
   EXPECT_TRUE(next.keep(exercise(1, {}), {})) << "beside a file of the same number";
   next.use_up({});
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
+}
+
+TEST(KeptFiles, WhatIsKeptIsOnTheDiskBeforeItBearsItsName) {
+  TemporaryFolder folder;
+  KeptFiles files(folder.path);
+  PoorFileSystem::asked.clear();
+  for (const int tasks : {1, 2}) ASSERT_TRUE(files.keep(exercise(tasks, kDocument), {}));
+  EXPECT_EQ(PoorFileSystem::asked, "snssn") << "and its folder, when the name is new";
+}
+
+TEST(KeptFiles, WhatCannotBeReadIsToldOnceAndSetAsideUnlessItIsEmpty) {
+  TemporaryFolder folder;
+  folder.write("kept-1.xml", "<kept>");
+  folder.write("kept-2.xml", "");
+  std::filesystem::create_symlink("elsewhere", folder.path / "kept-3.xml");
+  folder.write("damaged-kept-1.xml", "an older one");
+  KeptFiles files(folder.path);
+  EXPECT_TRUE(files.left_behind().empty());
+  EXPECT_THAT(files.take_damaged(),
+              testing::UnorderedElementsAre(folder.path / "damaged-kept-1-2.xml", "",
+                                            folder.path / "damaged-kept-3.xml"));
+  EXPECT_EQ(folder.content("damaged-kept-1.xml"), "an older one");
+  EXPECT_EQ(folder.content("damaged-kept-1-2.xml"), "<kept>");
+  KeptFiles next(folder.path);
+  EXPECT_TRUE(next.left_behind().empty() && next.take_damaged().empty());
+}
+
+TEST(KeptFiles, WhatIsUsedUpDoesNotComeUpAgainThoughItsFolderLetsNoFileGo) {
+  TemporaryFolder folder;
+  {
+    KeptFiles files(folder.path);
+    files.keep(exercise(1, kDocument), {});
+    PoorFileSystem::removes = false;
+    files.use_up({});
+    folder.write("kept-2.xml", "");
+    files.left_behind();
+  }
+  for (int start = 0; start < 2; ++start) {
+    KeptFiles next(folder.path);
+    EXPECT_TRUE(next.left_behind().empty() && next.take_damaged().empty());
+    PoorFileSystem::removes = true;
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(folder.path)) << "gone as soon as it can be";
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 #include <locale>
 
 #include "protocol/file_in_making.h"
+#include "protocol/poor_file_system.h"
+#include "protocol/written_protocol.h"
 #include "support/fake_document_writer.h"
 #include "support/host_bed.h"
 #include "support/temporary_folder.h"
@@ -38,6 +40,46 @@ struct ProtokollTest : testing::Test, HostBed {
   const Protokoll::Logger log = [this](std::string_view tag, std::exception_ptr) { logged += tag; };
   Protokoll protokoll{server, clock, writer, {"/usual", "/data"}, log};
 };
+
+TEST_F(ProtokollTest, AProtocolIsFoundAgainAsItStoodThenOrFurtherOnAndNoOtherIs) {
+  const auto work = [this](int tasks, int wrong) {
+    protokoll.ProtokollNeu();
+    for (std::int16_t number = 1; number <= tasks; ++number) {
+      task(number, false, 0, {});
+      protokoll.ProtokollProperty("FalschIv", wrong);
+    }
+  };
+  work(2, -3);
+  const std::string kept = protokoll.so_far("bestimmen", "", {});
+  task(3, false, 0, {});
+  protokoll.ProtokollMesswerte(1, 0);
+  std::string ended = protokoll.so_far("bestimmen", "", {});
+  ended.replace(ended.find("09:05:32"), 8, "09:59:00");
+  work(1, -3);
+  const std::string shorter = protokoll.so_far("bestimmen", "", {});
+  work(2, 3);
+  const std::string answered_otherwise = protokoll.so_far("bestimmen", "", {});
+  work(2, -3);
+  const std::string of_other_kind = protokoll.so_far("bilden", "", {});
+  const struct {
+    const char* name;
+    std::string content;
+    bool found;
+  } cases[] = {{"EXR1.xml", kept, true},
+               {"EXR1.xml", ended, true},
+               {"EXR1-3.xml", ended, true},
+               {"EXR2.xml", kept, false},
+               {"EXR1.xml", ended.substr(0, ended.size() - 20), false},
+               {"EXR1.xml", shorter, false},
+               {"EXR1.xml", answered_otherwise, false},
+               {"EXR1.xml", of_other_kind, false},
+               {"EXR1.xml", "", false}};
+  for (const auto& [name, content, found] : cases) {
+    TemporaryFolder folder;
+    folder.write(name, content);
+    EXPECT_EQ(lies_in(folder.path, "EXR1.xml", kept), found) << name << content;
+  }
+}
 
 struct Comma final : std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
@@ -167,14 +209,13 @@ TEST(FileWriter, AFullDiskLeavesNoFile) {
   EXPECT_THAT(files_in(path.parent_path()), testing::ElementsAre("EXR.xml"));
 }
 
-TEST(FileWriter, ManyWhoWantOneNameAllGetAFileOfTheirOwn) {
-  TemporaryFolder folder;
-  std::filesystem::create_directory(folder.path / "EXR-2.xml");
+/// Eight programs write so many files each under one name.
+void write_under_one_name(const TemporaryFolder& folder, int files) {
   std::vector<pid_t> children(8);
   for (pid_t& child : children) {
     child = fork();
     if (child != 0) continue;
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < files; ++i) {
       const std::string text = std::to_string(getpid()) + " " + std::to_string(i);
       const WriteResult result = FileDocumentWriter().write(folder.path / "EXR.xml", text);
       clear_leftovers(folder.path);
@@ -187,9 +228,21 @@ TEST(FileWriter, ManyWhoWantOneNameAllGetAFileOfTheirOwn) {
     waitpid(child, &ended, 0);
     EXPECT_EQ(ended, 0);
   }
-  const std::vector<std::string> names = files_in(folder.path);
-  EXPECT_THAT(names, testing::SizeIs(161));
-  EXPECT_THAT(names, testing::IsSupersetOf({"EXR.xml", "EXR-2.xml", "EXR-161.xml"}));
+}
+
+TEST(FileWriter, ManyWhoWantOneNameAllGetAFileOfTheirOwn) {
+  for (const int ways : {3, 2, 1}) {  // that the file system knows to a free name
+    SCOPED_TRACE(ways);
+    PoorFileSystem::moves = ways == 3;
+    PoorFileSystem::links = ways >= 2;
+    TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path / "EXR-2.xml");
+    write_under_one_name(folder, 20);
+    const std::vector<std::string> names = files_in(folder.path);
+    EXPECT_THAT(names, testing::SizeIs(161));
+    EXPECT_THAT(names, testing::IsSupersetOf({"EXR.xml", "EXR-2.xml", "EXR-161.xml"}));
+  }
+  PoorFileSystem::moves = PoorFileSystem::links = true;
 }
 
 TEST(FileWriter, OnlyWhatAKilledProgramLeftIsCleared) {

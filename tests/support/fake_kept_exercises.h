@@ -31,6 +31,7 @@ struct FakeKeptExercises final : KeptExercises {
   std::vector<Left> left_behind() override { return left; }
   void crash() { leave_behind(); }
 
+  using KeptExercises::damaged_;
   bool refuses = false;
   int crashes = 0;
   std::optional<KeptExercise> own;

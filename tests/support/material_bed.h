@@ -50,9 +50,7 @@ class MaterialBed {
     }
     const BoxOutcome outcome = box.BoxAuswerten(answered);
     if (!is_test(settings.Uebungsmodus)) return outcome.zustand == 1;
-    if (--box.test.aufg_rest == 0) return false;
-    if (box.test.aufg_rest == box.test.aufg_gesamt / 2) box.test.TestListeFuellen();
-    return true;
+    return !box.test.finish_task();
   }
 
   float lateness = 0;  ///< of right answers

@@ -69,6 +69,17 @@ void TestList::TestListeFuellen() {
   for (std::size_t i = 0; i < taken_count_; ++i) taken_[i].place = kFilledAgain;
 }
 
+bool TestList::finish_task() {
+  if (--aufg_rest == 0) return true;
+  if (aufg_rest * 2 == aufg_gesamt) TestListeFuellen();
+  return false;
+}
+
+bool TestList::pass_time(std::int16_t seconds) {
+  aufg_dauer = to_int16(aufg_dauer - seconds);
+  return aufg_dauer <= 0;
+}
+
 // 0 when the draw fell on a row that is not asked beside the chosen degree.
 std::int16_t TestList::draw_offered() {
   const int sign = draw_sign(chance_);

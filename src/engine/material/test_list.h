@@ -22,8 +22,7 @@ struct TestTiming {
   std::int16_t (*shortened)(std::int16_t tasks) = five_eighths;
 };
 
-/// The intervals that half a test asks, to be used up, and how many tasks and seconds are left. The
-/// exercise window counts `aufg_rest` and `aufg_dauer` down and has the list filled again at half.
+/// The intervals that half a test asks, to be used up, and how many tasks and seconds are left.
 class TestList {
  public:
   TestList(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance);
@@ -32,6 +31,10 @@ class TestList {
   void build(const TestTiming& timing);
   /// Enters each interval once, so that all occur, then draws by chance to the end.
   void TestListeFuellen();
+  /// One task less; at half the list is filled again. True when it was the last.
+  bool finish_task();
+  /// So many seconds less. True when the time is used up.
+  bool pass_time(std::int16_t seconds);
   /// Length of a test of `aufg_gesamt` tasks in seconds, rounded up to whole tens.
   std::int16_t estimate(const TestTiming& timing) const;
 
@@ -45,7 +48,7 @@ class TestList {
 
   std::int16_t aufg_gesamt = 0;  ///< tasks of the test
   std::int16_t aufg_rest = 0;    ///< of these left
-  std::int16_t aufg_dauer = 0;   ///< length of the test in seconds
+  std::int16_t aufg_dauer = 0;   ///< seconds left; at first the length of the test
 
   std::vector<std::int16_t> matbox;                         ///< entries not used yet
   std::int16_t matboxmax = 0;                               ///< entries of the full list

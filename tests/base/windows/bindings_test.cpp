@@ -7,12 +7,10 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <string>
-#include <thread>
 
 #include "base/windows/accessibility.h"
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
-#include "base/windows/qt_scheduler.h"
 #include "support/shown_window.h"
 #include "support/window_bed.h"
 
@@ -179,39 +177,22 @@ TEST_F(BindingsTest, ANewWindowTakesNothingAndOldNewsAreNotToldAgain) {
   EXPECT_EQ(window->told, "mode1 ");
 }
 
-TEST_F(BindingsTest, TheArrowKeysPassOverALineThatOnlyFillsAPlace) {
-  for (const char* entry : {"a", "b", "---", "d"}) window->entries.add(entry);
-  window->entries.items[2].gap = true;
-  window->entries.selected = 1;
-  window->changed();
-  for (const int key : {Qt::Key_Down, Qt::Key_Up}) stroke(*view->entries, key);
-  EXPECT_EQ(window->told, "entry3 entry1 ");
-}
-
 TEST_F(BindingsTest, OnlyTheUserSpeaksThroughListsAndSliders) {
-  window->entries.clear();
-  for (const char* entry : {" 30  ", "100  ", "120  "}) window->entries.add(entry);
-  window->entries.selected = 2;
+  for (const char* entry : {" 30  ", "100  ", "---", "120  "}) window->entries.add(entry);
+  window->entries.items[2].gap = true;
+  window->entries.selected = 3;
   window->volume.value = 100;
   window->changed();
   EXPECT_EQ(window->told, "");
-  EXPECT_EQ(view->entries->currentIndex(), 2);
+  EXPECT_EQ(view->entries->currentIndex(), 3);
   EXPECT_EQ(view->entries->itemText(0), "  30");
   EXPECT_EQ(view->volume->value(), 100);
-  stroke(*view->entries, Qt::Key_Up);
+  // The arrow keys pass over a line that only fills a place.
+  for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up}) {
+    stroke(*view->entries, key);
+  }
   view->volume->setValue(90);
-  EXPECT_EQ(window->told, "entry1 volume90 ");
-}
-
-TEST_F(BindingsTest, ALockedFrameHoldsWhatIsInsideAndSaysSo) {
-  window->frame.enabled = false;
-  window->frame.back = signal::locked;
-  window->changed();
-  EXPECT_TRUE(view->frame->locked());
-  EXPECT_TRUE(spoken_name(*view->frame).contains(to_qstring(texts.Wort(1250_text))));
-  EXPECT_FALSE(view->choices[0]->isEnabled());
-  EXPECT_FALSE(view->entries->isEnabled());
-  EXPECT_TRUE(view->volume->isEnabled());
+  EXPECT_EQ(window->told, "entry1 entry3 entry1 entry0 volume90 ");
 }
 
 /// Counts how often a reason was set.
@@ -223,7 +204,7 @@ struct ReasonCounter final : QObject {
   int count = 0;
 };
 
-TEST_F(BindingsTest, WhatIsNotOpenSaysWhyOnceUntilItOpens) {
+TEST_F(BindingsTest, WhatIsNotOpenAndALockedFrameWithAllInItSayWhyOnceUntilTheyOpen) {
   const auto told = [this](std::size_t choice) {
     const Option& option = *view->choices[choice];
     EXPECT_TRUE(option.accessibleDescription().startsWith(option.toolTip()));
@@ -241,6 +222,10 @@ TEST_F(BindingsTest, WhatIsNotOpenSaysWhyOnceUntilItOpens) {
   window->frame.enabled = false;
   window->frame.why = "frame";
   window->changed();
+  EXPECT_TRUE(view->frame->locked());
+  EXPECT_TRUE(spoken_name(*view->frame).contains(to_qstring(texts.Wort(1250_text))));
+  EXPECT_FALSE(view->choices[0]->isEnabled() || view->entries->isEnabled());
+  EXPECT_TRUE(view->volume->isEnabled()) << "it stands beside the frame";
   EXPECT_EQ(told(1), "frame|frame|frame");
   EXPECT_EQ(told(0), "frame|frame|frame");
   ReasonCounter counter;
@@ -357,30 +342,6 @@ TEST_F(BindingsTest, APressMeantForABoxThatHasGoneIsNoAnswerBelowIt) {
   scheduler.advance_ms(InputGuard::kNewlyShown);
   view->go->click();
   EXPECT_EQ(window->told, "go ");
-}
-
-TEST(QtSchedulerTest, TasksRunByDueTimeThenByPostingAlsoThoseOfOtherThreads) {
-  QtScheduler scheduler;
-  std::string order;
-  bool over = false;
-  std::thread::id ran_on;
-  const Scheduler::Time start = scheduler.now();
-  scheduler.post(milliseconds(120), [&] { over = true; });
-  scheduler.post(milliseconds(110), [&] { order += 'd'; });
-  const auto forgotten = scheduler.post(milliseconds(2), [&] { order += 'x'; });
-  scheduler.post([&] {
-    order += 'a';
-    scheduler.post([&] { order += 'c'; });
-  });
-  scheduler.post([&] { order += 'b'; });
-  scheduler.cancel(forgotten);
-  const auto work = [&] { ran_on = std::this_thread::get_id(); };
-  std::thread([&] { scheduler.post_from_thread(work); }).join();
-  EXPECT_EQ(ran_on, std::thread::id());
-  while (!over) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  EXPECT_EQ(order, "abcd");
-  EXPECT_GE(scheduler.now() - start, milliseconds(120));
-  EXPECT_EQ(ran_on, std::this_thread::get_id());
 }
 
 }  // namespace
