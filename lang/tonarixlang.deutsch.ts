@@ -1160,6 +1160,11 @@ Vorzeichen!</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</translation>
     </message>
+    <message id="1012s">
+        <source>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</source>
+        <extracomment>Message at the start; the path and the reason follow on lines of their own</extracomment>
+        <translation>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</translation>
+    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
@@ -1171,9 +1176,9 @@ Vorzeichen!</translation>
         <translation>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</translation>
     </message>
     <message id="1015s">
-        <source>Das Recht zum Schreiben fehlt.</source>
+        <source>Das Recht dazu fehlt.</source>
         <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
-        <translation>Das Recht zum Schreiben fehlt.</translation>
+        <translation>Das Recht dazu fehlt.</translation>
     </message>
     <message id="1016s">
         <source>Den Ordner gibt es nicht.</source>

@@ -1160,6 +1160,11 @@ in any order.</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>The file of saved trainings is damaged. A new one has been made; the damaged one is kept here:</translation>
     </message>
+    <message id="1012s">
+        <source>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</source>
+        <extracomment>Message at the start; the path and the reason follow on lines of their own</extracomment>
+        <translation>The saved trainings cannot be read at the moment. You can practise; a training can be saved again once this file can be read:</translation>
+    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
@@ -1171,9 +1176,9 @@ in any order.</translation>
         <translation>There is no space left on the disk. Please free some.</translation>
     </message>
     <message id="1015s">
-        <source>Das Recht zum Schreiben fehlt.</source>
+        <source>Das Recht dazu fehlt.</source>
         <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
-        <translation>Permission to write is missing.</translation>
+        <translation>Permission is missing.</translation>
     </message>
     <message id="1016s">
         <source>Den Ordner gibt es nicht.</source>

@@ -10,6 +10,7 @@ inline constexpr TextKey not_available_yet = 1002_text;
 inline constexpr TextKey module_subject = 1003_text;
 inline constexpr TextKey folder_read_only = 1010_text;
 inline constexpr TextKey database_damaged = 1011_text;
+inline constexpr TextKey records_not_read = 1012_text;
 inline constexpr TextKey log_not_written = 1013_text;
 inline constexpr TextKey no_space_left = 1014_text;
 inline constexpr TextKey no_permission = 1015_text;
