@@ -1790,26 +1790,43 @@ Vorzeichen!</translation>
         <translation>Taste %1</translation>
     </message>
     <message id="1168s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</translation>
     </message>
     <message id="1169s">
-        <source>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
-        <translation>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
     </message>
     <message id="1170s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</translation>
     </message>
     <message id="1171s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
     </message>
     <message id="1172s">
         <source>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</source>
         <translation>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</translation>
+    </message>
+    <message id="1173s">
+        <source>Das bereits gespeicherte Training dieser Übung ist beschädigt und wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save an interrupted training</extracomment>
+        <translation>Das bereits gespeicherte Training dieser Übung ist beschädigt und wird dabei ersetzt.</translation>
+    </message>
+    <message id="1174s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand lässt sich nicht weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand lässt sich nicht weiterführen.</translation>
+    </message>
+    <message id="1175s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>
