@@ -1160,6 +1160,11 @@ Vorzeichen!</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</translation>
     </message>
+    <message id="1012s">
+        <source>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</source>
+        <extracomment>Message at the start; the path and the reason follow on lines of their own</extracomment>
+        <translation>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</translation>
+    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
@@ -1171,9 +1176,9 @@ Vorzeichen!</translation>
         <translation>Auf dem Datenträger ist kein Platz mehr. Bitte schaffen Sie Platz.</translation>
     </message>
     <message id="1015s">
-        <source>Das Recht zum Schreiben fehlt.</source>
+        <source>Das Recht dazu fehlt.</source>
         <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
-        <translation>Das Recht zum Schreiben fehlt.</translation>
+        <translation>Das Recht dazu fehlt.</translation>
     </message>
     <message id="1016s">
         <source>Den Ordner gibt es nicht.</source>
@@ -1794,26 +1799,43 @@ Vorzeichen!</translation>
         <translation>Taste %1</translation>
     </message>
     <message id="1168s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</translation>
     </message>
     <message id="1169s">
-        <source>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
-        <translation>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
     </message>
     <message id="1170s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</translation>
     </message>
     <message id="1171s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
-        <translation>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</translation>
     </message>
     <message id="1172s">
         <source>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</source>
         <translation>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</translation>
+    </message>
+    <message id="1173s">
+        <source>Das bereits gespeicherte Training dieser Übung ist beschädigt und wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save an interrupted training</extracomment>
+        <translation>Das bereits gespeicherte Training dieser Übung ist beschädigt und wird dabei ersetzt.</translation>
+    </message>
+    <message id="1174s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand lässt sich nicht weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand lässt sich nicht weiterführen.</translation>
+    </message>
+    <message id="1175s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

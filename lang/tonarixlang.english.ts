@@ -1160,6 +1160,11 @@ in any order.</translation>
         <extracomment>Message at the start; the path follows on the next line</extracomment>
         <translation>The file of saved trainings is damaged. A new one has been made; the damaged one is kept here:</translation>
     </message>
+    <message id="1012s">
+        <source>Die gespeicherten Trainings können im Augenblick nicht gelesen werden. Sie können üben; speichern lässt sich ein Training erst wieder, wenn diese Datei gelesen werden kann:</source>
+        <extracomment>Message at the start; the path and the reason follow on lines of their own</extracomment>
+        <translation>The saved trainings cannot be read at the moment. You can practise; a training can be saved again once this file can be read:</translation>
+    </message>
     <message id="1013s">
         <source>Die Logdatei kann nicht geschrieben werden. Das Üben wird davon nicht gestört. Bitte prüfen Sie die Schreibrechte im Ordner:</source>
         <extracomment>Message at the start; the folder follows on the next line</extracomment>
@@ -1171,9 +1176,9 @@ in any order.</translation>
         <translation>There is no space left on the disk. Please free some.</translation>
     </message>
     <message id="1015s">
-        <source>Das Recht zum Schreiben fehlt.</source>
+        <source>Das Recht dazu fehlt.</source>
         <extracomment>Why a file or folder could not be used, behind a message that names it</extracomment>
-        <translation>Permission to write is missing.</translation>
+        <translation>Permission is missing.</translation>
     </message>
     <message id="1016s">
         <source>Den Ordner gibt es nicht.</source>
@@ -1794,26 +1799,43 @@ in any order.</translation>
         <translation>Key %1</translation>
     </message>
     <message id="1168s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Sein Stand ist gespeichert, und Sie können es mit „%2“ weiterführen.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>The last training was interrupted after task %1. It has been saved, and you can go on with it by “%2”.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1. It has been saved, and you can go on with it by “%3”.</translation>
     </message>
     <message id="1169s">
-        <source>Die letzte Übung wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
-        <translation>The last exercise was interrupted after task %1. Its protocol has been saved.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1. Its protocol has been saved.</translation>
     </message>
     <message id="1170s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen. Soll es gespeichert werden, damit Sie es mit „%2“ weiterführen können? Es ersetzt das früher gespeicherte Training.</source>
-        <extracomment>%1 number of tasks, %2 the name of the exercise level</extracomment>
-        <translation>The last training was interrupted after task %1. Save it, so that you can go on with it by “%2”? It replaces the training saved earlier.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level, %3 the name of the exercise level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1. Save it, so that you can go on with it by “%3”?</translation>
     </message>
     <message id="1171s">
-        <source>Das letzte Training wurde nach Aufgabe %1 unterbrochen und kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
-        <translation>The last training was interrupted after task %1 and cannot be saved at the moment. The next start of the program will try again.</translation>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand kann im Augenblick nicht gespeichert werden. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1 and cannot be saved at the moment. The next start of the program will try again.</translation>
     </message>
     <message id="1172s">
         <source>Die Klangbibliothek (SoundFont) ist beschädigt oder kann nicht gelesen werden. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“ neu.</source>
         <translation>The sound font is damaged or cannot be read. The exercise goes on but stays silent. Install the package “timgm6mb-soundfont” again.</translation>
+    </message>
+    <message id="1173s">
+        <source>Das bereits gespeicherte Training dieser Übung ist beschädigt und wird dabei ersetzt.</source>
+        <extracomment>behind the question whether to save an interrupted training</extracomment>
+        <translation>The training already saved for this exercise is damaged and will be replaced.</translation>
+    </message>
+    <message id="1174s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand lässt sich nicht weiterführen.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1. It is not possible to go on with it.</translation>
+    </message>
+    <message id="1175s">
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</source>
+        <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
+        <translation>The exercise “%2” was interrupted after task %1. Newer work has been saved meanwhile; it stays, and the interrupted work is dropped.</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

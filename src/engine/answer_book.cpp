@@ -95,7 +95,8 @@ void AnswerBook::add_lateness(int place, float tenths, std::int16_t zeit_grenze)
 }
 
 void AnswerBook::count_repeat() {
-  places_.at(at(asked())).wdh_gewicht += 1;
+  auto& repeats = places_.at(at(asked())).wdh_gewicht;
+  repeats = to_int16(repeats + 1);
   ++heard_.at(at(asked())).repeats;
 }
 

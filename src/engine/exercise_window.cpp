@@ -295,7 +295,8 @@ Sequence ExerciseWindow::leave() {
   stop_all();
   const auto in_all =
       is_test(level()) && lesson_nr_ > 0 ? std::optional<int>(box_.test.aufg_gesamt) : std::nullopt;
-  if (broken) co_await keeping_.tell_interrupted(waits());
+  const std::function<void(bool)> show = [this](bool waiting) { show_wait(*this, *this, waiting); };
+  if (broken) co_await keeping_.tell_interrupted(waits(), show);
   co_await way_out_.leave(sitting_.work(answers_.counts, in_all), keep, former);
 }
 

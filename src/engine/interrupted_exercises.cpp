@@ -1,8 +1,8 @@
 #include "engine/interrupted_exercises.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "base/delay.h"
 #include "base/filled_text.h"
 #include "base/module_texts.h"
 #include "base/runtime_error.h"
@@ -15,6 +15,8 @@
 namespace tonarix {
 
 namespace {
+
+constexpr const char* kTag = "take_up.";
 
 struct Training {
   Settings settings;
@@ -42,17 +44,36 @@ std::optional<Training> read(const KeptTraining& kept) {
   }
 }
 
+/// What is to be done with a training.
+enum class Way { stored, asked, dropped, left_kept };
+
+Way way_with(const KeptExercise& exercise, const StoredState& before) {
+  if (before.read == RecordRead::failed) return Way::left_kept;
+  const KeptTraining& kept = *exercise.training;
+  if (before.state == kept.state) return Way::stored;
+  const bool damaged = before.read == RecordRead::damaged;
+  const bool valid = says_valid(before.state);
+  // A training that was saved since wins, and one that was gone on with may have come to its end.
+  if (valid && kept.stored_before && before.state != *kept.stored_before) return Way::dropped;
+  if (before.read == RecordRead::found && !valid && kept.continued) return Way::dropped;
+  const bool its_own = kept.continued && kept.stored_before && !damaged;
+  const bool replaces = (valid || damaged) && !its_own;
+  return replaces || exercise.user.empty() ? Way::asked : Way::stored;
+}
+
 }  // namespace
 
-std::string user_name(Server& server) {
+std::optional<std::string> user_name(Server& server) {
+  const auto user = server.logged_on();
+  if (!user) return {};
   std::string name;
-  for (const std::string& field : server.ServerLogin()) name += field + ";";
+  for (const std::string& field : *user) name += field + ";";
   return name;
 }
 
 void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
                                    const ProtocolFolders& folders) {
-  const std::string user = user_name(server_);
+  const std::optional<std::string> user = user_name(server_);
   left_ = kept.left_behind();
   // The oldest first: what is written anew keeps its place in the order of time.
   std::ranges::reverse(left_);
@@ -62,11 +83,12 @@ void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
       exercise.document.clear();
       kept.keep(exercise, left.name);  // or else the next start finds that the protocol lies there
     }
-    const bool own = exercise.user == user;
+    const bool own = user && (exercise.user == *user || exercise.user.empty());
     if (!own && !exercise.training && exercise.document.empty()) kept.use_up(left.name);
     return !own;
   });
-  take_up_next(kept);
+  telling_ = take_up_all(kept);
+  telling_->start();
 }
 
 bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
@@ -78,80 +100,116 @@ bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWr
   for (const auto& folder : {folders.protocols, folders.data}) {
     const WriteResult result = writer.write(folder / file, exercise.document);
     if (result.written) return true;
-    errors_.log("take_up.", std::make_exception_ptr(RuntimeError(
-                                RuntimeError::kPathError,
-                                (folder / file).string() + ": " + result.reason, "take_up")));
+    errors_.log(kTag, std::make_exception_ptr(RuntimeError(
+                          RuntimeError::kPathError, (folder / file).string() + ": " + result.reason,
+                          "take_up")));
   }
   return false;
 }
 
 // One after the other: what the newest training has brought into the store the older ones meet.
-void InterruptedExercises::take_up_next(KeptExercises& kept) {
-  if (left_.empty()) return;
-  const KeptExercises::Left left = std::move(left_.back());
-  left_.pop_back();
-  offer(left.exercise, [this, &kept, left](End end) {
-    if (end != End::stays_kept) {
-      KeptExercise still = left.exercise;
-      still.training.reset();
-      still.document.empty() ? kept.use_up(left.name) : void(kept.keep(still, left.name));
+Sequence InterruptedExercises::take_up_all(KeptExercises& kept) {
+  while (!left_.empty()) {
+    KeptExercises::Left left = std::move(left_.back());
+    left_.pop_back();
+    try {
+      co_await take_up_one(kept, std::move(left));
+    } catch (const std::exception&) {
+      errors_.log(kTag, std::current_exception());
     }
-    const auto next = [this, &kept] { take_up_next(kept); };
-    end == End::nothing ? tell(text::exercise_interrupted, left.exercise, next) : next();
-  });
-}
-
-void InterruptedExercises::offer(const KeptExercise& exercise, std::function<void(End)> done) {
-  auto training = exercise.training ? read(*exercise.training) : std::nullopt;
-  if (!training) return done(End::nothing);
-  const KeptTraining& kept = *exercise.training;
-  std::vector<std::string> stored;
-  const RecordRead found = server_.read_record(record_key('A', training->settings), stored);
-  if (found == RecordRead::failed) {
-    return tell(text::interrupted_not_stored, exercise, [done] { done(End::stays_kept); });
   }
-  const bool valid = found == RecordRead::found && says_valid(stored);
-  if (!valid) stored.clear();
-  // A training that was saved since wins, and one that was gone on with may have come to its end.
-  const bool there_already = stored == kept.state;
-  const bool newer = valid && kept.stored_before && stored != *kept.stored_before;
-  const bool ended = found == RecordRead::found && !valid && kept.continued;
-  if (!there_already && (newer || ended)) return done(End::nothing);
-  auto store = [this, exercise, training = *training, done, stored](Reply reply) mutable {
-    if (reply == Reply::no) return done(End::refused);
-    if (reply == Reply::yes) {
-      std::vector<std::string> now;
-      const RecordRead read_now = server_.read_record(record_key('A', training.settings), now);
-      if (read_now == RecordRead::found && now != stored) return offer(exercise, done);
-    }
-    std::optional<SavedTraining> current;
-    // Tried once: what a busy host does not take now stays kept for the next start.
-    Waits waits(scheduler_);
-    TrainingRecord record(server_, errors_, training.settings, current, scheduler_, waits);
-    bool stored_now = false;
-    Sequence storing = record.keep(training.state, stored_now);
-    storing.start();
-    const End end = stored_now ? End::stored : End::stays_kept;
-    if (end == End::stored && reply == Reply::yes) return done(end);
-    tell(end == End::stored ? text::training_interrupted : text::interrupted_not_stored, exercise,
-         [done, end] { done(end); });
-  };
-  if (stored.empty() || there_already || (kept.continued && kept.stored_before))
-    return store(Reply::ok);
-  dialogs_.show(
-      {"Tonarix 2000", words(text::keep_interrupted_training, exercise), MessageStyle::yes_no,
-       texts_.Wort(text::save_training), texts_.Wort(text::do_not_save), Reply::no},
-      std::move(store));
 }
 
-void InterruptedExercises::tell(TextKey text, const KeptExercise& exercise,
-                                std::function<void()> then) {
-  dialogs_.show({"Tonarix 2000", words(text, exercise), MessageStyle::plain, {}, {}},
-                [then = std::move(then)](Reply) { then(); });
+Sequence InterruptedExercises::take_up_one(KeptExercises& kept, const KeptExercises::Left left) {
+  End end = End::nothing;
+  if (left.exercise.training) {
+    std::function<void(bool)> no_window;
+    co_await offer(left.exercise, waits_, end, std::move(no_window));
+  } else {
+    const Message message = told(text::exercise_interrupted, left.exercise);
+    co_await ask(waits_, dialogs_, message);
+  }
+  if (end == End::stays_kept) co_return;
+  KeptExercise still = left.exercise;
+  still.training.reset();
+  still.document.empty() ? kept.use_up(left.name) : void(kept.keep(still, left.name));
+}
+
+StoredState InterruptedExercises::stored(const Settings& settings) {
+  StoredState found;
+  std::vector<std::string> of_settings;
+  const RecordRead settings_read = server_.read_record(record_key('E', settings), of_settings);
+  found.read = server_.read_record(record_key('A', settings), found.state);
+  for (const RecordRead worse : {RecordRead::failed, RecordRead::damaged}) {
+    if (settings_read == worse || found.read == worse) return {worse, {}};
+  }
+  return found;
+}
+
+Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& end,
+                                     std::function<void(bool)> show_wait) {
+  end = End::nothing;
+  TextKey became = text::training_not_usable;
+  if (std::optional<Training> training = read(*exercise.training)) {
+    StoredState before = stored(training->settings);
+    Way way = way_with(exercise, before);
+    for (bool agreed = false; way == Way::asked && !agreed;) {
+      const Message asked = question(before, exercise);
+      const Reply reply = co_await ask(waits, dialogs_, asked);
+      end = End::refused;
+      if (reply != Reply::yes) co_return;
+      // Another program may have stored while the question stood there.
+      const StoredState now = stored(training->settings);
+      agreed = now == std::exchange(before, now);
+      way = way_with(exercise, before);
+    }
+    const bool asked = way == Way::asked;
+    end = way == Way::dropped ? End::nothing : End::stays_kept;
+    if (way == Way::stored || asked) {
+      if (show_wait) show_wait(true);
+      co_await store(training->state, training->settings, before, waits, end);
+      if (show_wait) show_wait(false);
+    }
+    if (end == End::stored && asked) co_return;
+    became = end == End::stored    ? text::training_interrupted
+             : end == End::nothing ? text::newer_training_stays
+                                   : text::interrupted_not_stored;
+  }
+  const Message message = told(became, exercise);
+  co_await ask(waits, dialogs_, message);
+}
+
+Sequence InterruptedExercises::store(const SavedTraining& state, Settings& settings,
+                                     const StoredState& before, Waits& waits, End& end) {
+  std::optional<SavedTraining> current;
+  bool kept = false;
+  TrainingRecord record(server_, errors_, settings, current, scheduler_, waits, kTag);
+  std::function<bool()> still = [this, &settings, &before] { return stored(settings) == before; };
+  co_await record.keep(state, kept, std::move(still));
+  end = kept ? End::stored : End::stays_kept;
+}
+
+Message InterruptedExercises::told(TextKey text, const KeptExercise& exercise) const {
+  return {"Tonarix 2000", words(text, exercise), MessageStyle::plain, {}, {}};
+}
+
+Message InterruptedExercises::question(const StoredState& before,
+                                       const KeptExercise& exercise) const {
+  std::string asked = words(text::keep_interrupted_training, exercise);
+  const bool damaged = before.read == RecordRead::damaged;
+  if (damaged) asked += " " + texts_.Wort(text::replaces_damaged_training);
+  if (says_valid(before.state)) asked += " " + texts_.Wort(text::replaces_saved_training);
+  return {"Tonarix 2000",
+          asked,
+          MessageStyle::yes_no,
+          texts_.Wort(text::save_training),
+          texts_.Wort(text::do_not_save),
+          Reply::no};
 }
 
 std::string InterruptedExercises::words(TextKey text, const KeptExercise& exercise) const {
-  return filled(texts_.Wort(text), {std::to_string(exercise.tasks), texts_.Wort(565_text)});
+  return filled(texts_.Wort(text),
+                {std::to_string(exercise.tasks), exercise.title, texts_.Wort(565_text)});
 }
 
 }  // namespace tonarix

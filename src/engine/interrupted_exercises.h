@@ -1,21 +1,33 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "base/delay.h"
 #include "base/dialogs.h"
 #include "base/scheduler.h"
+#include "base/sequence.h"
 #include "base/texts.h"
 #include "host/error_report.h"
 #include "host/server.h"
 #include "protocol/kept_exercise.h"
 #include "protocol/protokoll.h"
+#include "settings/saved_training.h"
+#include "settings/settings.h"
 
 namespace tonarix {
 
-/// The user's data in one text, to tell whose an exercise is.
-std::string user_name(Server& server);
+/// The training that the store holds, as far as it can be told.
+struct StoredState {
+  RecordRead read = RecordRead::none;
+  std::vector<std::string> state;  ///< empty unless found
+  friend bool operator==(const StoredState&, const StoredState&) = default;
+};
+
+/// The user's data in one text, to tell whose an exercise is; nothing when the host does not say.
+std::optional<std::string> user_name(Server& server);
 
 /// Exercises that came to no end of their own: their protocols go where they belong, their
 /// trainings into the store, and the student is told in one box each.
@@ -25,25 +37,38 @@ class InterruptedExercises {
   enum class End {
     stored,
     refused,     ///< by the student
-    nothing,     ///< there is none that can be gone on with, or a newer one is saved; not told
+    nothing,     ///< there is none that can be gone on with, or a newer one is saved
     stays_kept,  ///< the host fails; the next start tries again
   };
 
   InterruptedExercises(Scheduler& scheduler, Server& server, ErrorReport& errors,
                        const Texts& texts, Dialogs& dialogs)
-      : scheduler_(scheduler), server_(server), errors_(errors), texts_(texts), dialogs_(dialogs) {}
+      : scheduler_(scheduler),
+        server_(server),
+        errors_(errors),
+        texts_(texts),
+        dialogs_(dialogs),
+        waits_(scheduler) {}
 
   /// Takes up what earlier programs have left. The training of another user waits for that user.
   void take_up(KeptExercises& kept, DocumentWriter& writer, const ProtocolFolders& folders);
-  /// Stores the training and says so; `done` runs once the box is closed. A training that was saved
-  /// meanwhile wins; to replace an older one is asked first.
-  void offer(const KeptExercise& exercise, std::function<void(End)> done);
+  /// Stores the training of the exercise and says what became of it. A training that was saved
+  /// meanwhile wins; to replace an older one, or a record that is damaged, is asked first. While
+  /// the host is busy it waits in `waits`, up to 10 s, with `show_wait` around it.
+  Sequence offer(KeptExercise exercise, Waits& waits, End& end,
+                 std::function<void(bool)> show_wait);
 
  private:
-  void take_up_next(KeptExercises& kept);
+  Sequence take_up_all(KeptExercises& kept);
+  Sequence take_up_one(KeptExercises& kept, const KeptExercises::Left left);
   bool put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
                     const ProtocolFolders& folders);
-  void tell(TextKey text, const KeptExercise& exercise, std::function<void()> then);
+  StoredState stored(const Settings& settings);
+  /// The training is stored unless the store holds anything else than `before`.
+  Sequence store(const SavedTraining& state, Settings& settings, const StoredState& before,
+                 Waits& waits, End& end);
+  Message told(TextKey text, const KeptExercise& exercise) const;
+  Message question(const StoredState& before, const KeptExercise& exercise) const;
   std::string words(TextKey text, const KeptExercise& exercise) const;
 
   Scheduler& scheduler_;
@@ -52,6 +77,8 @@ class InterruptedExercises {
   const Texts& texts_;
   Dialogs& dialogs_;
   std::vector<KeptExercises::Left> left_;  ///< still to be told of, newest last
+  Waits waits_;
+  std::optional<Sequence> telling_;
 };
 
 }  // namespace tonarix

@@ -1,9 +1,7 @@
 #include "engine/keeping.h"
 
-#include <memory>
-
-#include "base/completion.h"
 #include "base/runtime_error.h"
+#include "host/text_tables.h"
 #include "settings/exercises.h"
 
 namespace tonarix {
@@ -29,10 +27,27 @@ KeptTraining begin_training(Server& server, const Settings& settings) {
           .stored_before = continued ? settings.AntwSicherung : stored_state(server, settings)};
 }
 
+/// "Gehörbildung: tonale Intervalle (sukzessiv) bestimmen (Test)"
+std::string title_of(const Settings& settings, const Texts& texts) {
+  TextTables words;
+  words.load(texts);
+  return words.theory_kind(static_cast<int>(settings.Theoriewahl)) + texts.Wort(700_text) +
+         texts.Wort(exercise_row(settings).title) + " (" +
+         words.levels.at(static_cast<std::size_t>(settings.Uebungsmodus)) + ")";
+}
+
 }  // namespace
 
 Keeping::Keeping(const ExerciseContext& context, const Window& window)
-    : context_(context), window_(window), due_(context.common.scheduler, [this] { write(true); }) {}
+    : context_(context),
+      window_(window),
+      due_(context.common.scheduler, [this] { write(Document::as_it_stands); }) {
+  kept_.user = user_name(context.server).value_or("");
+  kept_.title = title_of(context.settings, context.common.texts);
+  if (is_training(context.settings.Uebungsmodus)) {
+    begun_ = begin_training(context.server, context.settings);
+  }
+}
 
 void Keeping::task_done(int tasks, const std::optional<SavedTraining>& training) {
   kept_.tasks = tasks;
@@ -43,36 +58,30 @@ void Keeping::task_done(int tasks, const std::optional<SavedTraining>& training)
 void Keeping::now() {
   if (!due_.enabled()) return;
   due_.disable();
-  write(true);
+  write(Document::as_it_stands);
 }
 
 void Keeping::settle_training() {
   training_.reset();
   kept_.training.reset();
-  if (kept_.tasks > 0) write(true);
+  if (kept_.tasks > 0) write(Document::as_kept);
 }
 
-Sequence Keeping::tell_interrupted(Waits& waits) {
+Sequence Keeping::tell_interrupted(Waits& waits, std::function<void(bool)> show_wait) {
   now();
   if (!kept_.training) co_return;
   using End = InterruptedExercises::End;
-  Completion told(waits);
-  // The answer may come when the window has gone.
-  const auto end = std::make_shared<End>(End::stays_kept);
-  context_.interrupted.offer(kept_, [end, done = told.signal()](End became) {
-    *end = became;
-    done();
-  });
-  co_await told;
-  if (*end == End::stored) context_.caller.training_saved();
-  if (*end != End::stays_kept) settle_training();
+  End end = End::stays_kept;
+  co_await context_.interrupted.offer(kept_, waits, end, std::move(show_wait));
+  if (end == End::stored) context_.caller.training_saved();
+  if (end != End::stays_kept) settle_training();
 }
 
 void Keeping::finish(bool protocol_written) {
   now();
   over_ = true;
   if (protocol_written && !kept_.training) return context_.kept.use_up();
-  write(!protocol_written);
+  write(protocol_written ? Document::none : Document::as_it_stands);
   context_.kept.leave_behind();
 }
 
@@ -89,33 +98,28 @@ void Keeping::end_session() {
   const FinishResult result = context_.protocol.ProtokollSchluss(caption(), window_.caption,
                                                                  context_.settings.EinstDatSave);
   if (!result.failed && !kept_.training) return context_.kept.use_up();
-  write(result.failed);
+  write(result.failed ? Document::as_it_stands : Document::none);
 }
 
-void Keeping::write(bool with_protocol) {
+void Keeping::write(Document document) {
   try {
-    keep(with_protocol);
+    keep(document);
   } catch (const std::exception&) {
     context_.errors.log(kTag, std::current_exception());
   }
 }
 
-void Keeping::keep(bool with_protocol) {
+void Keeping::keep(Document document) {
   const Settings& settings = context_.settings;
-  if (kept_.user.empty()) kept_.user = user_name(context_.server);
+  if (kept_.user.empty()) kept_.user = user_name(context_.server).value_or("");
   kept_.file = context_.protocol.file_name();
-  if (training_) {
-    if (!kept_.training) kept_.training = begin_training(context_.server, settings);
-    kept_.training->state = to_record(*training_, settings);
-  } else {
-    kept_.training.reset();
-  }
-  if (with_protocol) {
+  kept_.training = training_ ? begun_ : std::nullopt;
+  if (kept_.training) kept_.training->state = to_record(*training_, settings);
+  if (document == Document::none) kept_.document.clear();
+  if (document == Document::as_it_stands) {
     kept_.document = context_.protocol.so_far(caption(), window_.caption, settings.EinstDatSave);
   }
-  const bool kept = context_.kept.keep(kept_);
-  kept_.document.clear();
-  if (kept) return;
+  if (context_.kept.keep(kept_)) return;
   throw RuntimeError(RuntimeError::kPathError, "The exercise could not be kept", "Keeping");
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -12,7 +14,8 @@
 namespace tonarix {
 
 /// Keeps the running exercise for the case that the program ends without its way out: after each
-/// task the protocol so far and, in a training, its state.
+/// task the protocol so far and, in a training, its state. Whose it is and what the store held is
+/// as it was when the exercise began.
 class Keeping {
  public:
   Keeping(const ExerciseContext& context, const Window& window);
@@ -25,8 +28,8 @@ class Keeping {
   /// The training is saved, or not wanted: it is not offered again.
   void settle_training();
   /// An error ends the training: as it stood after its last task it is stored, and the student is
-  /// told.
-  Sequence tell_interrupted(Waits& waits);
+  /// told. `show_wait` says that a busy host is waited for, and later that it is over.
+  Sequence tell_interrupted(Waits& waits, std::function<void(bool)> show_wait);
 
   /// The exercise has come to its end. Only a training that nobody could settle stays kept, and a
   /// protocol that no place took.
@@ -37,14 +40,18 @@ class Keeping {
   void end_session();
 
  private:
-  void keep(bool with_protocol);
-  void write(bool with_protocol);
+  /// What is kept of the protocol: as it stands, which is to be asked between two tasks; as it was
+  /// kept last; nothing where it lies in its place.
+  enum class Document : std::uint8_t { as_it_stands, as_kept, none };
+  void keep(Document document);
+  void write(Document document);
   std::string caption() const;
 
   const ExerciseContext& context_;
   const Window& window_;
   Timer due_;
   KeptExercise kept_;
+  std::optional<KeptTraining> begun_;  ///< as the exercise found the store
   std::optional<SavedTraining> training_;
   bool over_ = false;
 };

@@ -1,6 +1,17 @@
 #include "engine/task_answers.h"
 
+#include "base/arithmetic.h"
+
 namespace tonarix {
+
+namespace {
+
+/// A count that 16 bits can't hold any more is an overflow like any other.
+void count(std::int16_t& counter) {
+  counter = to_int16(counter + 1);
+}
+
+}  // namespace
 
 void TaskAnswers::begin_task(std::span<const std::int16_t> intervals,
                              const AnswerBook::Rules& rules) {
@@ -23,8 +34,8 @@ void TaskAnswers::open_next(std::int16_t interval) {
 }
 
 void TaskAnswers::right(int place, float tenths) {
-  ++counts.right;
   protocol_.ProtokollProperty("Antwort", "true");
+  count(counts.right);
   book.right(place, tenths);
 }
 
@@ -34,23 +45,23 @@ void TaskAnswers::near_miss(int place, std::string_view word) {
 }
 
 Verdict TaskAnswers::wrong(int place, std::int16_t value) {
-  ++counts.wrong;
   protocol_.ProtokollProperty("Antwort", "false");
   if (value != 0) {
     protocol_.ProtokollProperty("FalschIv", static_cast<int>(value));
   } else {
     protocol_.ProtokollProperty("FalschIv", "");
   }
+  count(counts.wrong);
   return book.wrong(place, value);
 }
 
 void TaskAnswers::count_repeat() {
-  ++counts.repeats;
+  count(counts.repeats);
   book.count_repeat();
 }
 
 void TaskAnswers::count_keynote() {
-  ++counts.keynotes;
+  count(counts.keynotes);
   book.count_keynote();
 }
 

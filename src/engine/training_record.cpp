@@ -8,79 +8,89 @@ namespace {
 
 constexpr double kPatience = 10'000;  // ms
 constexpr double kPause = 50;         // ms between two tries
-constexpr std::string_view kKeepTag = "zurueck_click.";
 constexpr std::string_view kDropTag = "intervall_antw.";
 const std::vector<std::string> kUsedUp{"False"};
 
 }  // namespace
 
-Sequence TrainingRecord::patiently(std::function<void()> call) {
+Sequence TrainingRecord::patiently(std::function<void()> call, std::string_view tag) {
   const Scheduler::Time end = scheduler_.now() + milliseconds(kPatience);
-  while (true) {
+  for (bool first = true;; first = false) {
     try {
       call();
       co_return;
     } catch (const HostBusy&) {
       if (scheduler_.now() >= end) throw;
+      if (first) errors_.log(tag, std::current_exception());
     }
     co_await waits_.FullDelay(kPause);
   }
 }
 
-Sequence TrainingRecord::keep(SavedTraining training, bool& kept) {
+Sequence TrainingRecord::keep(SavedTraining training, bool& kept, std::function<bool()> still) {
   kept = false;
   try {
     settings_.AntwSicherung = to_record(training, settings_);
     const std::vector<Server::Record> records{
         {settings_key(), Variant::strings(settings_.EinstSicherung)},
         {state_key(), Variant::strings(settings_.AntwSicherung)}};
-    std::function<void()> store_both = [this, &records] {
-      if (!server_.ServerStoreTogether(records)) keep_one_by_one();
+    // Read once: after a first try that was left half way the host holds its traces.
+    std::optional<Former> former;
+    std::function<void()> store_both = [this, &records, &former, &still] {
+      if (!former && still && !still()) {
+        throw RuntimeError(RuntimeError::kHostFailure, "Another training was stored meanwhile",
+                           "TrainingRecord");
+      }
+      if (server_.ServerStoreTogether(records)) return;
+      if (!former) former = read_former();
+      keep_one_by_one(*former);
     };
-    co_await patiently(std::move(store_both));
+    co_await patiently(std::move(store_both), keep_tag_);
     current_ = std::move(training);
     kept = true;
   } catch (const std::exception&) {
-    errors_.log(kKeepTag, std::current_exception());
+    errors_.log(keep_tag_, std::current_exception());
   }
 }
 
-void TrainingRecord::keep_one_by_one() {
-  Strings former_settings;
-  Strings former_state;
-  const RecordRead settings_read = server_.read_record(settings_key(), former_settings);
-  const RecordRead state_read = server_.read_record(state_key(), former_state);
-  if (settings_read == RecordRead::failed || state_read == RecordRead::failed) {
+TrainingRecord::Former TrainingRecord::read_former() {
+  Former former{};
+  former.settings_read = server_.read_record(settings_key(), former.settings);
+  former.state_read = server_.read_record(state_key(), former.state);
+  if (former.settings_read == RecordRead::failed || former.state_read == RecordRead::failed) {
     throw RuntimeError(RuntimeError::kHostFailure, "The former training cannot be read",
                        "TrainingRecord");
   }
+  return former;
+}
+
+void TrainingRecord::keep_one_by_one(const Former& former) {
   try {
     store(state_key(), kUsedUp);
     store(settings_key(), settings_.EinstSicherung);
     store(state_key(), settings_.AntwSicherung);
   } catch (const std::exception&) {
     const std::exception_ptr error = std::current_exception();
-    put_back(settings_read, former_settings, state_read, former_state);
+    put_back(former);
     std::rethrow_exception(error);
   }
 }
 
 // The former state may become valid again only beside the former settings.
-void TrainingRecord::put_back(RecordRead settings_read, const Strings& settings,
-                              RecordRead state_read, const Strings& state) {
-  if (state_read != RecordRead::found) return;
+void TrainingRecord::put_back(const Former& former) {
+  if (former.state_read != RecordRead::found) return;
   try {
     Strings now;
     const RecordRead read = server_.read_record(settings_key(), now);
-    const bool untouched = read == settings_read && now == settings;
-    if (!untouched && settings_read != RecordRead::found) return;
+    const bool untouched = read == former.settings_read && now == former.settings;
+    if (!untouched && former.settings_read != RecordRead::found) return;
     if (!untouched) {
       store(state_key(), kUsedUp);  // the new one may have been stored and refused all the same
-      store(settings_key(), settings);
+      store(settings_key(), former.settings);
     }
-    store(state_key(), state);
+    store(state_key(), former.state);
   } catch (const std::exception&) {
-    errors_.log(kKeepTag, std::current_exception());
+    errors_.log(keep_tag_, std::current_exception());
   }
 }
 
@@ -95,7 +105,7 @@ Sequence TrainingRecord::drop(bool& dropped) {
   dropped = false;
   try {
     std::function<void()> mark = [this] { store(state_key(), kUsedUp); };
-    co_await patiently(std::move(mark));
+    co_await patiently(std::move(mark), kDropTag);
     dropped = true;
   } catch (const std::exception&) {
     errors_.log(kDropTag, std::current_exception());

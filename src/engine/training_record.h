@@ -3,6 +3,8 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/delay.h"
@@ -22,20 +24,24 @@ class TrainingRecord {
  public:
   /// `current` is what the settings window read when level 2 was chosen. While the host is busy a
   /// store waits in `waits`, which closing does not cut short, up to 10 s.
+  /// A failure to keep a training is logged under `keep_tag`, and so is a host found busy, once.
   TrainingRecord(Server& server, ErrorReport& errors, Settings& settings,
-                 std::optional<SavedTraining>& current, Scheduler& scheduler, Waits& waits)
+                 std::optional<SavedTraining>& current, Scheduler& scheduler, Waits& waits,
+                 std::string keep_tag = "zurueck_click.")
       : server_(server),
         errors_(errors),
         settings_(settings),
         current_(current),
         scheduler_(scheduler),
-        waits_(waits) {}
+        waits_(waits),
+        keep_tag_(std::move(keep_tag)) {}
 
   /// Stores both records, or none. Where the host can't take them at once, the state is marked as
   /// used up before and valid last, so that whatever breaks off in between leaves no training
   /// rather than a mixture; nothing is stored where the former records can't be read. `kept` is
-  /// false when the host failed; the reason is in the log.
-  Sequence keep(SavedTraining training, bool& kept);
+  /// false when the host failed; the reason is in the log. `still` is asked before each try that
+  /// begins anew: nothing is stored when it says no.
+  Sequence keep(SavedTraining training, bool& kept, std::function<bool()> still = {});
   /// The training at level 2; RuntimeError 1000 when none was read.
   const SavedTraining& resumed() const;
   /// Marks the training as used up. `dropped` is false when the host failed.
@@ -45,12 +51,20 @@ class TrainingRecord {
 
  private:
   using Strings = std::vector<std::string>;
+  /// What the host held before.
+  struct Former {
+    RecordRead settings_read;
+    RecordRead state_read;
+    Strings settings;
+    Strings state;
+  };
+
   /// Calls, again while the host is busy; at last its HostBusy goes on.
-  Sequence patiently(std::function<void()> call);
+  Sequence patiently(std::function<void()> call, std::string_view tag);
+  Former read_former();
   /// For a host that takes one record at a time.
-  void keep_one_by_one();
-  void put_back(RecordRead settings_read, const Strings& settings, RecordRead state_read,
-                const Strings& state);
+  void keep_one_by_one(const Former& former);
+  void put_back(const Former& former);
   std::string settings_key() const { return record_key('E', settings_); }
   std::string state_key() const { return record_key('A', settings_); }
   void store(const std::string& key, const Strings& record) {
@@ -63,6 +77,7 @@ class TrainingRecord {
   std::optional<SavedTraining>& current_;
   Scheduler& scheduler_;
   Waits& waits_;
+  std::string keep_tag_;
 };
 
 }  // namespace tonarix

@@ -95,16 +95,21 @@ Server::Status Server::ServerInit(const std::string& module) {
   }
 }
 
-std::vector<std::string> Server::ServerLogin() {
-  std::vector<std::string> user{kNobody};
+std::optional<std::vector<std::string>> Server::logged_on() {
   try {
     std::string key = "LOGIN";
     Variant input = "";
     Variant output = Variant::Array{kNobody};
-    if (ServerObject().Request(key, input, output)) user = user_data(output);
+    if (!ServerObject().Request(key, input, output)) return std::vector<std::string>{kNobody};
+    return user_data(output);
   } catch (const std::exception&) {
-    user = {kNobodyAfterFailure};
+    return {};
   }
+}
+
+std::vector<std::string> Server::ServerLogin() {
+  std::vector<std::string> user =
+      logged_on().value_or(std::vector<std::string>{kNobodyAfterFailure});
   user_known_ = user.front() != kNobody;
   return user;
 }

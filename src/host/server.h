@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,8 @@ class Server {
   /// The user's data; "Unbekannt" alone when the call fails, "unbekannt" when nobody is logged on.
   /// Never empty.
   std::vector<std::string> ServerLogin();
+  /// The same without a word to user_known; nothing when the call fails.
+  std::optional<std::vector<std::string>> logged_on();
   /// True when the first element of the last ServerLogin differs from "unbekannt".
   bool user_known() const { return user_known_; }
   /// The language that the host names now; the last one known when it names none.

@@ -58,6 +58,7 @@ KeptText kept_text(const KeptExercise& exercise) {
   pugi::xml_node about = document.append_child("about");
   about.append_attribute("user") = xml_text(exercise.user).c_str();
   about.append_attribute("tasks") = exercise.tasks;
+  about.append_attribute("title") = xml_text(exercise.title).c_str();
   about.append_attribute("file") = xml_text(exercise.file).c_str();
   if (exercise.training) add_training(about, *exercise.training);
   std::ostringstream head;
@@ -78,7 +79,8 @@ std::optional<KeptExercise> read_kept(std::string_view text) {
                         .tasks = about.attribute("tasks").as_int(),
                         .file = about.attribute("file").value(),
                         .document = {},
-                        .training = {}};
+                        .training = {},
+                        .title = about.attribute("title").value()};
   if (const pugi::xml_node training = about.child("training")) {
     exercise.training = training_in(training);
   }

@@ -29,6 +29,7 @@ struct KeptExercise {
   std::string file;      ///< name of the protocol's file
   std::string document;  ///< the protocol so far, whole; empty once it lies where it belongs
   std::optional<KeptTraining> training;
+  std::string title = {};  ///< what the student knows it by: study, exercise and level
   friend bool operator==(const KeptExercise&, const KeptExercise&) = default;
 };
 

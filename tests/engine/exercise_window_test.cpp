@@ -25,6 +25,7 @@ class SilentWindow final : public ExerciseWindow {
     });
   }
   int asked() { return answers().asked(); }
+  TaskAnswers::Counts& counts() { return answers().counts; }
   Control answers_open{*this, "answers_open"};
   int shown = 0;
   bool fails = false;
@@ -128,7 +129,9 @@ TEST_F(ExerciseWindowTest, AnErrorClosesItWithoutAskingAndWritesTheProtocol) {
   window.CmdNextAufg_click();
   EXPECT_EQ(window.phase(), Phase::broken);
   scheduler.advance_ms(1000);
-  EXPECT_TRUE(dialogs.shown.size() == 1 && documents.written.size() == 1 && windows.count() == 0);
+  EXPECT_TRUE(documents.written.size() == 1 && windows.count() == 0);
+  EXPECT_EQ(dialogs.shown.size(), 2U);
+  EXPECT_EQ(dialogs.shown.back().text, "[1174]") << "without settings nothing can be gone on with";
   EXPECT_FALSE(kept.own);
 }
 
@@ -147,9 +150,37 @@ TEST_F(ExerciseWindowTest, AnErrorBehindAQuestionWaitsForTheAnswer) {
   EXPECT_EQ(documents.written.size(), 1U);
 }
 
+TEST_F(ExerciseWindowTest, WhatIsKeptIsWholeTasksOfWhoBeganTheExercise) {
+  const auto next = [&](SilentWindow& of) {
+    of.answer(true);
+    of.CmdNextAufg_click();
+    scheduler.advance_ms(50);
+    return kept.own.value().user;
+  };
+  host.failing = {"LOGIN"};
+  auto& late = open<SilentWindow>();
+  scheduler.advance_ms(50);
+  EXPECT_EQ(next(late), "");
+  host.failing.clear();
+  for (const char* name : {"Ada", "Bob", "unbekannt"}) {
+    host.answers["LOGIN"] = Variant::Array{name};
+    EXPECT_EQ(next(late), "Ada;") << "looked for until it was told";
+    EXPECT_FALSE(server.user_known()) << "asked by nobody whom it serves";
+  }
+  late.answer(false);
+  late.zurueck_click();
+  dialogs.answer(Reply::no);
+  const KeptExercise left = kept.own.value();
+  EXPECT_FALSE(left.training);
+  EXPECT_NE(left.document.find("<lesson interval=\"4\">"), std::string::npos);
+  EXPECT_EQ(left.document.find("<lesson interval=\"5\">"), std::string::npos);
+}
+
 TEST_F(ExerciseWindowTest, ATrainingThatAnErrorEndsIsStoredAsItStoodAfterItsLastTask) {
+  texts.given[1168] = "%1 %2 %3";
   settings.EinstSicherung = build_EinstSicherung(settings, SettingsKind::einstellung1);
-  for (const bool store_works : {true, false}) {
+  for (const std::string trouble : {"a task", "a count", "the store"}) {
+    const bool store_works = trouble != "the store";
     dialogs.shown.clear();
     auto& broken = open<SilentWindow>();
     scheduler.advance_ms(50);
@@ -157,9 +188,16 @@ TEST_F(ExerciseWindowTest, ATrainingThatAnErrorEndsIsStoredAsItStoodAfterItsLast
     scheduler.advance_ms(1);
     const auto state = Variant::strings(kept.own.value().training.value().state);
     if (!store_works) host.failing = {"STORE"};
-    broken.fails = true;
+    broken.fails = trouble != "a count";
     broken.CmdNextAufg_click();
+    scheduler.advance_ms(100);
+    broken.counts().right = 32767;
+    broken.answer(true);
     scheduler.advance_ms(1000);
+    EXPECT_EQ(dialogs.shown.size(), 2U);
+    EXPECT_EQ(dialogs.shown.at(1).text, store_works ? "1 [221][700][291] ([564]) [565]" : "[1171]");
+    const std::string document = documents.written.back().content;
+    EXPECT_EQ(document.find("<lesson interval=\"2\">") != std::string::npos, trouble == "a count");
     EXPECT_EQ(host.records["vemo06/A1"] == state, store_works);
     EXPECT_EQ(kept.left.size(), store_works ? 0U : 1U) << "what could not be stored stays kept";
     EXPECT_FALSE(kept.own);

@@ -81,14 +81,14 @@ TEST_F(InterruptedFlowTest, WhatIsStoredMeanwhileWinsAndWhatWouldBeReplacedIsAsk
   const auto left = std::exchange(kept.left, {});
   const Variant newer = other();
   kept.left = left;
-  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1169s]"));
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1175s]"));
   EXPECT_EQ(host.records["vemo06/A1"], newer);
 
   for (const Reply reply : {Reply::no, Reply::yes}) {
     work_and_die(1, 2);
     const auto state = Variant::strings(kept.left.at(0).exercise.training->state);
     FlowBed bed(host, kept);
-    EXPECT_THAT(told(bed), testing::ElementsAre("[1170s]"));
+    EXPECT_THAT(told(bed), testing::ElementsAre("[1170s] [1138s]"));
     bed.dialogs.answer(reply);
     EXPECT_EQ(host.records["vemo06/A1"], reply == Reply::yes ? state : newer);
     EXPECT_TRUE(kept.left.empty());
@@ -109,6 +109,65 @@ TEST_F(InterruptedFlowTest, ATrainingThatTheStoreHasLostMeanwhileIsNotGivenUp) {
   work_and_die(2, 1);
   host.records["vemo06/A1"] = Variant::strings(kept.left.at(0).exercise.training->state);
   EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1168s]"));
+}
+
+TEST_F(InterruptedFlowTest, ABusyStoreIsWaitedForWhileTheProgramCanBeUsed) {
+  work_and_die(1, 2);
+  const KeptExercise left = kept.left.at(0).exercise;
+  const Variant state = Variant::strings(left.training->state);
+  host.together = true;
+  host.busy = 100'000;
+  {
+    FlowBed bed(host, kept);
+    bed.open_settings();
+    EXPECT_TRUE(bed.dialogs.shown.empty() && bed.settings().takes_input());
+    EXPECT_EQ(host.error_places(), std::vector<std::string>{"vemo06.take_up."});
+  }
+  EXPECT_EQ(kept.left.at(0).exercise.training, left.training) << "the program ended meanwhile";
+  {
+    FlowBed bed(host, kept);
+    bed.scheduler.advance_ms(10'100);
+    EXPECT_THAT(told(bed), testing::ElementsAre("[1171s]"));
+  }
+  for (const bool overtaken : {true, false}) {
+    host.busy = 50;
+    FlowBed bed(host, kept);
+    bed.scheduler.advance_ms(1'000);
+    Variant::Array other = state.array();
+    other.back() = "77";
+    if (overtaken) host.records["vemo06/A1"] = other;
+    bed.scheduler.advance_ms(3'000);
+    EXPECT_THAT(told(bed), testing::ElementsAre(overtaken ? "[1171s]" : "[1168s]"));
+    EXPECT_EQ(host.records["vemo06/A1"], overtaken ? Variant(other) : state);
+    EXPECT_EQ(kept.left.empty(), !overtaken);
+    host.records.clear();
+  }
+}
+
+TEST_F(InterruptedFlowTest, ADamagedRecordAndAnUnknownUserAreAskedFor) {
+  const Variant damaged = "no record";
+  for (const std::string record : {"vemo06/A1", "vemo06/E1", ""}) {
+    for (const Reply reply : {Reply::no, Reply::yes}) {
+      host.records.clear();
+      host.failing = {"LOGIN"};
+      if (!record.empty()) host.failing.clear();
+      work_and_die(1, 1);
+      const Variant state = Variant::strings(kept.left.at(0).exercise.training->state);
+      if (!record.empty()) host.records[record] = damaged;
+      const auto former = host.records;
+      EXPECT_TRUE(record.empty() ? told(FlowBed(host, kept)).empty() : true) << "nobody knows who";
+      host.failing.clear();
+      FlowBed bed(host, kept);
+      EXPECT_THAT(told(bed), testing::ElementsAre(record.empty() ? "[1170s]" : "[1170s] [1173s]"));
+      bed.dialogs.answer(reply);
+      if (reply == Reply::no) {
+        EXPECT_EQ(host.records, former);
+      } else {
+        EXPECT_EQ(host.records["vemo06/A1"], state);
+      }
+      EXPECT_TRUE(kept.left.empty());
+    }
+  }
 }
 
 TEST_F(InterruptedFlowTest, AProtocolThatNoPlaceTookIsPutThereByTheNextStart) {

@@ -244,6 +244,27 @@ TEST_F(LevelFlowTest, WhateverBecomesOfEachStoreNoTrainingIsMixed) {
   EXPECT_EQ(kept, 22) << "what a host refuses only once is put back";
 }
 
+TEST_F(LevelFlowTest, WhatABusyHostLeftHalfWayIsPutBackFromWhatItHeldAtFirst) {
+  FlowBed bed(host);
+  for (const char* fates : {"", " bb r"}) {
+    Arbeitsblatt1& window = *fates ? bed.open_exercise() : bed.begin(1);
+    bed.hear_row();
+    bed.answer_row(window);
+    const auto former = host.records;
+    host.fates = fates;
+    bed.dialogs.script = {Reply::yes, Reply::no};
+    window.zurueck_click();
+    bed.scheduler.advance_ms(500);
+    if (*fates) {
+      EXPECT_EQ(host.records, former);
+      EXPECT_EQ(host.fates, "");
+    }
+    bed.dialogs.script.clear();
+    bed.result().cmdOk_click();
+    bed.scheduler.advance_ms(450);
+  }
+}
+
 TEST_F(LevelFlowTest, AStoreWaitsForOthersWithoutFreezingTheWindow) {
   host.together = true;
   FlowBed bed(host);

@@ -55,7 +55,7 @@ class FakeHost {
   std::set<std::string> failing_records;   ///< records that can't be stored: "vemo06/E1"
   bool together = false;                   ///< takes several records at once
   int busy = 0;                            ///< so many stores are refused as HostBusy
-  std::string fates;                       ///< of the next stores: r refused, s stored and refused
+  std::string fates;  ///< of the next stores: r refused, s stored and refused, b busy
   std::map<std::string, Variant> records;  ///< the store: "vemo06/E1"
   std::vector<Call> calls;
   int created = 0;
@@ -102,6 +102,7 @@ class FakeHost {
     const bool fails = fate == 'r' || fate == 's' || failing.contains(key) ||
                        (stores && failing_records.contains(record));
     if (fails) throw RuntimeError(RuntimeError::kHostFailure, "No answer", "FakeHost");
+    if (fate == 'b') throw HostBusy("Somebody else stores", "FakeHost");
     if (stores) be_busy();
     if (key == "STATUS") output = Variant::Array{0, 2};
     if (stores) records[record] = input.at(2);

@@ -29,7 +29,8 @@ QStringList fields_of(const std::string& user) {
 LocalHostHome::LocalHostHome(LocalHostOptions options, const WallClock& clock)
     : options_(std::move(options)),
       log_(make_folder(options_.folder, folder_error_) / "host.log", clock),
-      store_(options_.folder / "host.sqlite", file_stamp(clock.now()), options_.patience_ms) {
+      store_(options_.folder / "host.sqlite", file_stamp(clock.now()), options_.patience_ms,
+             [this](const std::string& line) { log_.add(line); }) {
   find_problems();
 }
 
@@ -47,6 +48,10 @@ void LocalHostHome::find_problems() {
     case Place::memory:
       problems_.push_back(
           {text::folder_read_only, folder, folder_error_ ? folder_error_ : store_.error(), reason});
+      break;
+    case Place::closed:
+      problems_.push_back({text::records_not_read, (options_.folder / "host.sqlite").string(),
+                           store_.error(), reason});
       break;
     case Place::waiting:
       break;  // it may be free before anything is wanted of it

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sqlite3.h>
-#include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -107,10 +106,28 @@ void RecordFile::Close::operator()(sqlite3_stmt* statement) const {
 }
 
 RecordFile::RecordFile(std::filesystem::path file, int patience_ms)
-    : file_(std::move(file)), patience_ms_(patience_ms) {
+    : file_(std::move(file)), patience_ms_(patience_ms), lock_(file_, NameLock::Kind::shared) {
+  if (lock_.others_hold_it()) {
+    state_ = State::in_use;
+    reason_ = sqlite3_errstr(SQLITE_BUSY);
+    error_ = lock_.error();
+    return;
+  }
+  open();
+  if (state_ == State::writable || state_ == State::readable) return;
+  if (database_) {
+    // Closing leaves everything as it was found, the log too.
+    sqlite3_db_config(database_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  }
+  database_.reset();
+  lock_ = {};
+}
+
+void RecordFile::open() {
   // Files beside it, such as the log, take their rights from the database.
   make_private_file(file_);
   int code = connect(file_.string(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  identity_ = identity_of(file_);
   // Beside the file a write needs room for its journal.
   const bool closed =
       ::faccessat(AT_FDCWD, file_.parent_path().c_str(), W_OK | X_OK, AT_EACCESS) != 0;
@@ -123,22 +140,8 @@ RecordFile::RecordFile(std::filesystem::path file, int patience_ms)
     return;
   }
   if (code == SQLITE_OK) code = prepare_file();
-  if (code != SQLITE_OK) {
-    take_reason(code);
-    state_ = state_after(code);
-    database_.reset();
-    return;
-  }
-  struct stat facts {};
-  if (::stat(file_.c_str(), &facts) != 0) return;
-  device_ = facts.st_dev;
-  inode_ = facts.st_ino;
-  state_ = State::writable;
-}
-
-bool RecordFile::moved() const {
-  struct stat facts {};
-  return ::stat(file_.c_str(), &facts) != 0 || facts.st_dev != device_ || facts.st_ino != inode_;
+  state_ = code == SQLITE_OK ? State::writable : state_after(code);
+  if (code != SQLITE_OK) take_reason(code);
 }
 
 int RecordFile::connect(const std::string& name, int flags) {
@@ -220,9 +223,21 @@ RecordFile::Statement RecordFile::prepare(const char* sql, const RecordName& nam
   return statement;
 }
 
-void RecordFile::write(const RecordTexts& records) {
+bool RecordFile::holds(const KnownTexts& known, const RecordTexts& records) const {
+  return std::ranges::all_of(known, [&](const auto& each) {
+    const std::optional<std::string> now = read(each.first);
+    return now == each.second ||
+           (now && records.contains(each.first) && now == records.at(each.first));
+  });
+}
+
+bool RecordFile::write(const RecordTexts& records, const KnownTexts& known) {
   expect(run("BEGIN IMMEDIATE"), SQLITE_OK);
   try {
+    if (!holds(known, records)) {
+      run("ROLLBACK");
+      return false;
+    }
     for (const auto& [name, data] : records) {
       const Statement statement =
           prepare("INSERT OR REPLACE INTO records VALUES (?1, ?2, ?3, ?4)", name);
@@ -230,6 +245,7 @@ void RecordFile::write(const RecordTexts& records) {
       expect(sqlite3_step(statement.get()), SQLITE_DONE);
     }
     expect(run("COMMIT"), SQLITE_OK);
+    return true;
   } catch (...) {
     run("ROLLBACK");  // a failure that has rolled back already makes this one an error of no weight
     throw;
@@ -249,7 +265,8 @@ void RecordFile::take_reason(int code) {
   const bool full = (code & 0xFF) == SQLITE_FULL;
   errno = full ? ENOSPC : sqlite3_system_errno(database_.get());
   error_ = last_system_error();
-  reason_ = sqlite3_errmsg(database_.get());
+  const bool own = (sqlite3_errcode(database_.get()) & 0xFF) == (code & 0xFF);
+  reason_ = own ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(code);
 }
 
 void RecordFile::expect(int code, int wanted) const {

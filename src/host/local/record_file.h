@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <compare>
 #include <cstdint>
 #include <filesystem>
@@ -11,6 +9,7 @@
 #include <string>
 
 #include "base/runtime_error.h"
+#include "host/local/damaged_file.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -23,6 +22,8 @@ struct RecordName {
   friend auto operator<=>(const RecordName&, const RecordName&) = default;
 };
 using RecordTexts = std::map<RecordName, std::string>;
+/// What is known of records; nothing where there was none.
+using KnownTexts = std::map<RecordName, std::optional<std::string>>;
 
 /// One connection to the SQLite file of the records, its owner's alone. It keeps a write-ahead log:
 /// a store is one synchronisation, and readers never wait for writers. On a network file system,
@@ -44,13 +45,19 @@ class RecordFile {
   /// Why it is not writable, in the words of the library and as an error of the system.
   const std::string& reason() const { return reason_; }
   std::error_code error() const { return error_; }
+  /// The file that was opened.
+  const FileIdentity& identity() const { return identity_; }
   /// True when its name leads to another file now, or to none.
-  bool moved() const;
+  bool moved() const { return identity_of(file_) != identity_; }
 
   /// Replaces all these records in one transaction that is on the disk when the call returns.
   /// RuntimeError 440 when they can't be kept, HostBusy while another program writes; then the old
   /// ones stand, all of them.
-  void write(const RecordTexts& records);
+  void write(const RecordTexts& records) { write(records, {}); }
+  /// The same where the file still holds what is `known` of records, or what they shall be. False,
+  /// with nothing written, where another program has changed one.
+  bool write(const RecordTexts& records, const KnownTexts& known);
+  bool holds(const KnownTexts& known, const RecordTexts& records) const;
   /// The record, or nothing when there is none. RuntimeError 440 or HostBusy when it can't be read.
   std::optional<std::string> read(const RecordName& name) const;
 
@@ -63,6 +70,7 @@ class RecordFile {
 
   // SQLite result codes; 0 is well.
   int connect(const std::string& name, int flags);
+  void open();
   int prepare_file();
   int open_for_reading();
   int check_damage();
@@ -77,12 +85,12 @@ class RecordFile {
 
   std::filesystem::path file_;
   int patience_ms_;
+  NameLock lock_;  ///< as long as the database is open
   std::unique_ptr<sqlite3, Close> database_;
   State state_ = State::shut;
   std::string reason_;
   std::error_code error_;
-  dev_t device_ = 0;
-  ino_t inode_ = 0;
+  FileIdentity identity_;
 };
 
 }  // namespace tonarix

@@ -1,5 +1,6 @@
 #include "host/local/record_store.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/private_file.h"
@@ -7,91 +8,156 @@
 
 namespace tonarix {
 
-RecordStore::RecordStore(std::filesystem::path file, const std::string& file_stamp, int patience_ms)
-    : path_(std::move(file)), patience_ms_(patience_ms) {
+namespace {
+
+/// The file is not what it was: told once, and the next call finds it as it is now.
+class Overtaken final : public RuntimeError {
+ public:
+  explicit Overtaken(const std::string& description)
+      : RuntimeError(kHostFailure, description, "RecordStore") {}
+};
+
+}  // namespace
+
+RecordStore::RecordStore(std::filesystem::path file, std::string file_stamp, int patience_ms,
+                         Log log)
+    : path_(std::move(file)),
+      stamp_(std::move(file_stamp)),
+      patience_ms_(patience_ms),
+      log_(std::move(log)) {
   open();
-  reason_ = file_->reason();
-  error_ = file_->error();
-  if (file_->state() == State::damaged) {
-    file_.reset();
-    const bool renewed = rename_damaged(file_stamp);
-    if (renewed) place_ = Place::file_renewed;
-    open();
+  if (state_ == State::writable) {
+    if (!put_aside_.empty()) place_ = Place::file_renewed;
+  } else if (state_ == State::in_use) {
+    place_ = Place::waiting;
+  } else {
+    place_ = Place::memory;
+    if (state_ != State::readable && !without_file()) place_ = Place::closed;
   }
-  if (file_->state() == State::writable) return;
-  place_ = file_->state() == State::in_use ? Place::waiting : Place::memory;
-  reason_ = file_->reason();
-  error_ = file_->error();
 }
 
 RecordStore::~RecordStore() {
-  if (!memory_.empty()) open_again();
+  for (bool again = !memory_.empty(); again;) {
+    again = false;
+    try {
+      look_again();
+      flush();
+    } catch (const Overtaken&) {
+      again = true;  // told; the rest may go its way
+    } catch (const std::exception& error) {
+      if (log_) log_(std::string("Records are lost with memory: ") + error.what());
+    }
+  }
 }
 
 void RecordStore::open() {
   make_private_folder(path_.parent_path());
   file_.emplace(path_, patience_ms_);
+  state_ = file_->state();
+  reason_ = file_->reason();
+  error_ = file_->error();
+  if (state_ != State::damaged) return;
+  const SetAside aside = set_aside(path_, file_->identity(), stamp_);
+  if (aside.error) {
+    error_ = aside.error;
+    if (error_ == std::errc::resource_unavailable_try_again) state_ = State::in_use;
+    return;
+  }
+  if (!aside.place.empty()) put_aside_ = aside.place;
+  file_.emplace(path_, patience_ms_);
+  state_ = file_->state();
+  if (state_ == State::writable) return;  // why it was renewed stays to be told
+  reason_ = file_->reason();
+  error_ = file_->error();
 }
 
-void RecordStore::open_again() {
-  if (file_->state() != State::writable || file_->moved()) {
-    file_.reset();
-    open();
-  }
-  if (memory_.empty() || file_->state() != State::writable) return;
-  try {
-    file_->write(memory_);
-    memory_.clear();
-  } catch (const RuntimeError&) {
-    return;  // it stays in memory until the next need
+void RecordStore::look_again() {
+  if (state_ == State::writable && !file_->moved()) return;
+  const std::filesystem::path before = put_aside_;
+  file_.reset();
+  open();
+  if (put_aside_ != before) {
+    tell("host.sqlite: " + reason_ + "; it stands aside: " + put_aside_.string());
   }
 }
 
-bool RecordStore::rename_damaged(const std::string& stamp) {
-  const std::string damaged = path_.string() + ".damaged-" + stamp;
-  put_aside_ = damaged;
-  for (int copy = 2; std::filesystem::exists(put_aside_); ++copy) {
-    put_aside_ = damaged + "-" + std::to_string(copy);
+void RecordStore::flush() {
+  if (state_ != State::writable && state_ != State::readable) return;
+  for (auto batch = memory_.begin(); batch != memory_.end();) {
+    bool own = file_->holds(batch->before, batch->texts);
+    if (own && state_ == State::readable) {
+      ++batch;
+      continue;
+    }
+    own = own && file_->write(batch->texts, batch->before);
+    const std::string key = batch->texts.begin()->first.key;
+    batch = memory_.erase(batch);
+    if (!own) tell("Another program has stored " + key + "; what memory held of it is given up");
   }
+}
+
+void RecordStore::hold(const RecordTexts& records) {
+  Batch batch{records, {}};
+  for (const auto& [name, text] : records) {
+    if (held(name)) continue;
+    batch.before[name] = state_ == State::readable ? file_->read(name) : std::nullopt;
+  }
+  std::erase_if(memory_, [&](const Batch& earlier) {
+    const bool shared = std::ranges::any_of(
+        records, [&](const auto& each) { return earlier.texts.contains(each.first); });
+    if (!shared) return false;
+    batch.texts.insert(earlier.texts.begin(), earlier.texts.end());
+    batch.before.insert(earlier.before.begin(), earlier.before.end());
+    return true;
+  });
+  memory_.push_back(std::move(batch));
+}
+
+const std::string* RecordStore::held(const RecordName& name) const {
+  for (const Batch& batch : memory_) {
+    const auto found = batch.texts.find(name);
+    if (found != batch.texts.end()) return &found->second;
+  }
+  return nullptr;
+}
+
+bool RecordStore::without_file() const {
   std::error_code error;
-  std::filesystem::rename(path_, put_aside_, error);
-  if (error) {
-    put_aside_.clear();
-    return false;
-  }
-  // The journal belongs to the old file; beside a new one it would be taken for the new one's.
-  for (const char* end : {"-journal", "-wal", "-shm"}) {
-    std::filesystem::rename(path_.string() + end, put_aside_.string() + end, error);
-  }
-  return true;
+  const auto found = std::filesystem::symlink_status(path_, error).type();
+  return place_ == Place::memory && found == std::filesystem::file_type::not_found;
 }
 
 void RecordStore::write(const RecordTexts& records) {
-  open_again();
-  RecordTexts held = records;
-  held.insert(memory_.begin(), memory_.end());
-  if (file_->state() == State::writable) {
-    file_->write(held);
-    memory_.clear();
-    return;
-  }
-  if (place_ != Place::memory || file_->state() == State::in_use) refuse();
-  memory_ = std::move(held);
+  look_again();
+  flush();
+  if (state_ == State::writable) return file_->write(records);
+  const bool reads = place_ == Place::memory && state_ == State::readable;
+  reads || without_file() ? hold(records) : refuse();
 }
 
 std::optional<std::string> RecordStore::read(const RecordName& name) {
-  open_again();
-  const auto held = memory_.find(name);
-  if (held != memory_.end()) return held->second;
-  const bool readable = file_->state() == State::writable || file_->state() == State::readable;
-  if (readable) return file_->read(name);
-  if (place_ != Place::memory || file_->state() == State::in_use) refuse();
-  return {};
+  look_again();
+  try {
+    flush();
+  } catch (const Overtaken&) {
+    throw;
+  } catch (const RuntimeError&) {
+    // It stays in memory until the next need.
+  }
+  const bool readable = state_ == State::writable || state_ == State::readable;
+  if (!readable && !without_file()) refuse();
+  if (const std::string* text = held(name)) return *text;
+  return readable ? file_->read(name) : std::nullopt;
+}
+
+void RecordStore::tell(const std::string& line) const {
+  if (log_) log_(line);
+  throw Overtaken(line);
 }
 
 void RecordStore::refuse() const {
-  if (file_->state() == State::in_use) throw HostBusy(file_->reason(), "RecordStore");
-  throw RuntimeError(RuntimeError::kHostFailure, file_->reason(), "RecordStore");
+  if (state_ == State::in_use) throw HostBusy(reason_, "RecordStore");
+  throw RuntimeError(RuntimeError::kHostFailure, reason_, "RecordStore");
 }
 
 }  // namespace tonarix

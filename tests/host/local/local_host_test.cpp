@@ -3,9 +3,12 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <sqlite3.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <fstream>
 
 #include "host/local/record_format.h"
 #include "support/standing_clock.h"
@@ -151,6 +154,7 @@ TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
 }
 
 TEST_F(LocalHostTest, ADamagedFileIsKeptAndANewOneTakesItsPlace) {
+  const auto aside = file.string() + ".damaged-261121090532/host.sqlite";
   for (const bool cut_off : {false, true}) {
     if (cut_off) {
       Session(folder).store(Strings(4000, "longer than a page"));
@@ -163,11 +167,11 @@ TEST_F(LocalHostTest, ADamagedFileIsKeptAndANewOneTakesItsPlace) {
     {
       Session session(folder);
       EXPECT_EQ(session.problem(), 1011_text);
-      EXPECT_EQ(session.home.problems()[0].detail, file.string() + ".damaged-261121090532");
+      EXPECT_EQ(session.home.problems()[0].detail, aside);
       session.store({"anew"});
     }
     EXPECT_THAT(Session(folder).read(), ElementsAre("anew"));
-    EXPECT_EQ(folder.content("data/host.sqlite.damaged-261121090532"), damaged);
+    EXPECT_EQ(folder.content(aside), damaged);
     std::filesystem::remove_all(folder.path / "data");
   }
 }
@@ -281,26 +285,149 @@ TEST_F(LocalHostTest, ARecordSurvivesAKillInTheMiddleOfWriting) {
   EXPECT_TRUE(record == record_of(kept) || record == record_of(kept + 1)) << kept;
 }
 
-TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
-  Session(folder).store({"kept"});
-  std::filesystem::permissions(folder.path, std::filesystem::perms(0755));
-  std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
-  const uid_t user = geteuid();
-  constexpr uid_t kNobody = 65534;  // root writes everywhere
-  const uid_t reader = user == 0 ? kNobody : user;
-  ASSERT_EQ(chown(file.c_str(), reader, gid_t(-1)), 0);
-  ASSERT_EQ(seteuid(reader), 0);
-  {
-    Session session(folder);
-    EXPECT_EQ(session.problem(), 1010_text);
-    EXPECT_EQ(session.home.problems()[0].error, std::errc::permission_denied);
-    EXPECT_THAT(session.read(), ElementsAre("kept"));
-    session.store({"for now"});
-    EXPECT_THAT(session.read(), ElementsAre("for now"));
+/// An ordinary user for a while, as root reads and writes everywhere.
+struct OrdinaryUser {
+  OrdinaryUser(const std::filesystem::path& folder, const std::filesystem::path& file) {
+    std::filesystem::permissions(folder, std::filesystem::perms(0755));
+    EXPECT_EQ(before == 0 ? chown(file.c_str(), 65534, gid_t(-1)) : 0, 0);
+    EXPECT_EQ(seteuid(before == 0 ? 65534 : before), 0);
   }
-  ASSERT_EQ(seteuid(user), 0);
-  std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0755));
-  EXPECT_THAT(Session(folder).read(), ElementsAre("kept"));
+  ~OrdinaryUser() { EXPECT_EQ(seteuid(before), 0); }
+  const uid_t before = geteuid();
+};
+
+TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
+  for (const bool overtaken : {false, true}) {
+    std::filesystem::permissions(folder.path, std::filesystem::perms(0755));
+    std::filesystem::remove_all(folder.path / "data");
+    Session(folder).store({"kept"});
+    std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
+    std::optional<OrdinaryUser> user(std::in_place, folder.path, file);
+    std::optional<Session> session(std::in_place, folder);
+    EXPECT_EQ(session->problem(), 1010_text);
+    EXPECT_EQ(session->home.problems()[0].error, std::errc::permission_denied);
+    EXPECT_THAT(session->read(), ElementsAre("kept"));
+    session->store({"for now"});
+    EXPECT_THAT(session->read(), ElementsAre("for now"));
+    user.reset();
+    std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0755));
+    if (overtaken) Session(folder).store({"newer"});
+    session.reset();
+    EXPECT_THAT(Session(folder).read(), ElementsAre(overtaken ? "newer" : "for now"));
+  }
+}
+
+TEST_F(LocalHostTest, WhatAnotherProgramHasStoredIsNotReplacedByMemoryAndToldOnce) {
+  const RecordName settings{"A", "vemo06", "E1"}, state{"A", "vemo06", "A1"};
+  for (const std::string need : {"read", "store", "end"}) {
+    folder.write("data", "a file stands where the folder should be");
+    Strings log;
+    std::optional<RecordStore> store(std::in_place, file, "x", 0,
+                                     [&](const std::string& line) { log.push_back(line); });
+    store->write({{settings, "early"}, {state, "early"}});
+    store->write({{state, "later"}});
+    std::filesystem::remove(folder.path / "data");
+    RecordStore other(file, "x", 0);
+    other.write({{state, "newer"}});
+    if (need == "read") {
+      EXPECT_THROW(store->read(state), RuntimeError);
+    }
+    if (need == "store") {
+      EXPECT_THROW(store->write({{state, "latest"}}), RuntimeError);
+    }
+    EXPECT_TRUE(need == "end" || store->read(state) == "newer");
+    if (need == "store") store->write({{state, "latest"}});
+    store.reset();
+    EXPECT_EQ(other.read(state), need == "store" ? "latest" : "newer");
+    EXPECT_FALSE(other.read(settings)) << "of a mixture";
+    EXPECT_THAT(log, ElementsAre(HasSubstr("Another program has stored")));
+    std::filesystem::remove_all(folder.path / "data");
+  }
+}
+
+TEST_F(LocalHostTest, AFileThatCannotBeReadIsNotAnEmptyOne) {
+  for (const std::string hindrance :
+       {"no rights", "no descriptors", "damaged in a closed folder"}) {
+    SCOPED_TRACE(hindrance);
+    std::filesystem::remove_all(folder.path / "data");
+    Session(folder).store({"kept"});
+    if (hindrance[0] == 'd') folder.write("data/host.sqlite", std::string(4096, '?'));
+    const std::string before = folder.content(file);
+    if (hindrance == "no rights") std::filesystem::permissions(file, std::filesystem::perms(0));
+    const std::filesystem::perms of_folder{hindrance[0] == 'd' ? 0555U : 0777U};
+    std::filesystem::permissions(folder.path / "data", of_folder);
+    std::optional<OrdinaryUser> user(std::in_place, folder.path, file);
+    rlimit usual{};
+    getrlimit(RLIMIT_NOFILE, &usual);
+    const rlimit none{3, usual.rlim_max};
+    if (hindrance == "no descriptors") setrlimit(RLIMIT_NOFILE, &none);
+    Session session(folder);
+    Strings target;
+    const RecordRead read = session.server.read_record("A1", target);
+    EXPECT_THROW(session.store({"lost"}), RuntimeError);
+    setrlimit(RLIMIT_NOFILE, &usual);
+    user.reset();
+    EXPECT_EQ(session.problem(), 1012_text);
+    EXPECT_EQ(read, RecordRead::failed);
+    EXPECT_EQ(folder.content(file), before);
+    if (hindrance[0] == 'd') continue;
+    std::filesystem::permissions(file, std::filesystem::perms(0600));
+    EXPECT_THAT(session.read(), ElementsAre("kept"));
+    session.store({"next"});
+    EXPECT_THAT(Session(folder).read(), ElementsAre("next"));
+  }
+}
+
+TEST_F(LocalHostTest, ADamagedFileThatAnotherProgramHasOpenIsLeftToItAndRenewedAfterIt) {
+  Session(folder).store(Strings(4000, "longer than a page"));
+  std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).seekp(5000)
+      << std::string(9000, '?');
+  std::optional<NameLock> other(std::in_place, file, NameLock::Kind::shared);
+  Session session(folder);
+  EXPECT_TRUE(session.home.problems().empty() && std::filesystem::exists(file));
+  other.reset();
+  EXPECT_THROW(session.store({"anew"}), RuntimeError) << "told once";
+  session.store({"anew"});
+  EXPECT_THAT(Session(folder).read(), ElementsAre("anew"));
+  EXPECT_THAT(folder.content("data/host.log"), HasSubstr("it stands aside"));
+}
+
+TEST_F(LocalHostTest, OfManyProgramsOnePutsADamagedFileAsideWithItsLogAndAllGoOn) {
+  constexpr int kPrograms = 4;
+  const std::string damaged(4096, '?');
+  for (int round = 0; round < 5; ++round) {
+    std::filesystem::remove_all(folder.path / "data");
+    folder.write("data/host.sqlite", damaged);
+    folder.write("data/host.sqlite-wal", "log of old");
+    int bell[2];
+    ASSERT_EQ(pipe(bell), 0);
+    for (int program = 0; program < kPrograms; ++program) {
+      if (fork() != 0) continue;
+      close(bell[1]);
+      char rung = 0;
+      if (read(bell[0], &rung, 1) < 0) _exit(1);
+      RecordStore store(file, "x", 0);
+      for (int tries = 0; tries < 100'000; ++tries) {
+        try {
+          store.write({{{"A", "vemo06", std::to_string(program)}, "kept"}});
+          _exit(0);
+        } catch (const RuntimeError&) {
+          continue;  // busy, or told that the file is a new one
+        }
+      }
+      _exit(1);
+    }
+    for (const int end : bell) close(end);
+    int status = 0;
+    while (wait(&status) > 0) EXPECT_EQ(status, 0);
+    RecordStore store(file, "x", 0);
+    for (int program = 0; program < kPrograms; ++program) {
+      EXPECT_EQ(store.read({"A", "vemo06", std::to_string(program)}), "kept");
+    }
+    EXPECT_TRUE(folder.content(file.string() + ".damaged-x/host.sqlite") == damaged);
+    EXPECT_EQ(folder.content(file.string() + ".damaged-x/host.sqlite-wal"), "log of old");
+    EXPECT_FALSE(std::filesystem::exists(file.string() + ".damaged-x-2"));
+  }
 }
 
 }  // namespace
