@@ -201,8 +201,8 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
             "Intervall-Bestimmung|Abfolge|Ton 2: auf Stufe(n)|Grundton zusätzlich|Übungsmodus|"
             "Frequenz|Tempo|Stimmung|manuell|automatisch|Dur|moll|Dur-moll|2 Oktaven|3 Oktaven|"
             "4 Oktaven|5 Oktaven|max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|"
-            "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"
-            "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|vom Grundton|vom Vorton|");
+            "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|fest (a' 440 Hz)|variabel|"
+            "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|2|3|4|5|vom Grundton|vom Vorton|");
 }
 
 }  // namespace
