@@ -2105,5 +2105,33 @@ Vorzeichen!</translation>
         <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
         <translation>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
     </message>
+    <message id="1290s">
+        <source>nachbilden</source>
+        <translation>nachbilden</translation>
+    </message>
+    <message id="1291s">
+        <source>erst alle drei Töne hören</source>
+        <translation>erst alle drei Töne hören</translation>
+    </message>
+    <message id="1292s">
+        <source>nur nach dem Intervallnamen</source>
+        <translation>nur nach dem Intervallnamen</translation>
+    </message>
+    <message id="1293s">
+        <source>richtig: bis %1 Schritte (%2 Cent)</source>
+        <translation>richtig: bis %1 Schritte (%2 Cent)</translation>
+    </message>
+    <message id="1294s">
+        <source>richtig: nur genau (0 Schritte)</source>
+        <translation>richtig: nur genau (0 Schritte)</translation>
+    </message>
+    <message id="1295s">
+        <source>zum Bilden noch nicht verfügbar</source>
+        <translation>zum Bilden noch nicht verfügbar</translation>
+    </message>
+    <message id="1296s">
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
+    </message>
 </context>
 </TS>

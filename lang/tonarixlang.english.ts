@@ -2105,5 +2105,33 @@ in any order.</translation>
         <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
         <translation>The result sheet tells how many tasks you answered in what time, and shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %). “Print” puts it on a page or into a PDF file.</translation>
     </message>
+    <message id="1290s">
+        <source>nachbilden</source>
+        <translation>Imitate</translation>
+    </message>
+    <message id="1291s">
+        <source>erst alle drei Töne hören</source>
+        <translation>hear all three tones first</translation>
+    </message>
+    <message id="1292s">
+        <source>nur nach dem Intervallnamen</source>
+        <translation>from the interval name alone</translation>
+    </message>
+    <message id="1293s">
+        <source>richtig: bis %1 Schritte (%2 Cent)</source>
+        <translation>right: within %1 steps (%2 cents)</translation>
+    </message>
+    <message id="1294s">
+        <source>richtig: nur genau (0 Schritte)</source>
+        <translation>right: exactly met (0 steps)</translation>
+    </message>
+    <message id="1295s">
+        <source>zum Bilden noch nicht verfügbar</source>
+        <translation>not available for building yet</translation>
+    </message>
+    <message id="1296s">
+        <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
+        <translation>Yellow groups are open to choice, red ones are set by the exercise level, blue ones concern tempo and sound. With “Imitate” you first hear all three tones and then form the third one again. With “Build” you form it from the name of the interval alone. The accuracy tells how far off the tone may be; 32 steps of the slider are a semitone. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
+    </message>
 </context>
 </TS>

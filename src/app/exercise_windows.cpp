@@ -5,6 +5,7 @@
 
 #include "base/module_texts.h"
 #include "config/einstellung1.h"
+#include "config/einstellung2.h"
 #include "exercises/determine/arbeitsblatt1.h"
 
 namespace tonarix {
@@ -24,6 +25,7 @@ constexpr std::array kExerciseWindows{
 constexpr std::array kSettingsWindows{
     // kind                                      window          help       made by
     SettingsFactory{SettingsKind::einstellung1, "einstellung1", text::help_settings, make<Einstellung1>},
+    SettingsFactory{SettingsKind::einstellung2, "einstellung2", text::help_forming_settings, make<Einstellung2>},
 };
 // clang-format on
 // A misspelt name would only ever show as an exercise that is not there yet.

@@ -16,6 +16,7 @@
 #include "base/system_failure.h"
 #include "base/windows/accessibility.h"
 #include "config/windows/einstellung1_view.h"
+#include "config/windows/einstellung2_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "host/local/catalogue_folder.h"
@@ -99,6 +100,7 @@ Program::Program(const Options& options)
   install_accessibility();
   presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
+  presenter_.add<Einstellung2, Einstellung2View>("einstellung2", language_);
   presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);
   presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
 }

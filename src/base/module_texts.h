@@ -174,8 +174,8 @@ inline constexpr TextKey printer_broke_off = 1213_text;
 inline constexpr TextKey sheet_exam_number = 1215_text;
 inline constexpr TextKey sheet_instruments = 1217_text;
 inline constexpr TextKey sheet_keynote = 1226_text;
-inline constexpr TextKey sheet_task = 1229_text;
-inline constexpr TextKey sheet_accuracy = 1230_text;
+inline constexpr TextKey task_title = 1229_text;
+inline constexpr TextKey accuracy_title = 1230_text;
 inline constexpr TextKey sheet_degrees = 1232_text;
 inline constexpr TextKey sheet_keynote_added = 1234_text;
 inline constexpr TextKey sheet_last_name = 1235_text;
@@ -212,5 +212,12 @@ inline constexpr TextKey help_selection = 1283_text;
 inline constexpr TextKey help_settings = 1284_text;
 inline constexpr TextKey help_determine = 1285_text;
 inline constexpr TextKey help_sheet = 1286_text;
+inline constexpr TextKey imitate_tone = 1290_text;
+inline constexpr TextKey imitate_note = 1291_text;
+inline constexpr TextKey form_note = 1292_text;
+inline constexpr TextKey right_within = 1293_text;
+inline constexpr TextKey right_exactly = 1294_text;
+inline constexpr TextKey no_pure_forming = 1295_text;
+inline constexpr TextKey help_forming_settings = 1296_text;
 
 }  // namespace tonarix::text

@@ -13,24 +13,23 @@ constexpr int kStartVolume = 100;
 }  // namespace
 
 EarSettingsWindow::EarSettingsWindow(const SettingsContext& context, const SettingsLayout& layout,
-                                     const Names& names)
+                                     const Voices& voices)
     : SettingsWindow(context, layout),
       ton_st_wahl(*this, "ton_st_wahl"),
-      degree_list(*this, names.degree_list),
+      degree_list(*this, voices.degree_list),
       Tonart(*this, "Tonart"),
       grd_ton(*this, "grd_ton"),
-      invzahl(*this, "invzahl"),
       frequenz(*this, "frequenz"),
       stimm_g(*this, "stimm_g"),
       temp_Combo(*this, "temp_Combo"),
       Channel_Combo(*this, "Channel_Combo"),
-      patch_list(*this, names.patch_list),
+      patch_list(*this, voices.patch_list),
       HSliderVolume(*this, "HSliderVolume"),
       lb14(*this, "lb14"),
       klang_contr(*this, "klang_contr"),
       MIDI(context.devices),
       sound_(this->context(), MIDI, waits(), [this](const std::string& text) { tell(text); }),
-      patches_(names.patches) {
+      voices_(voices) {
   degree_list.visible = false;
   MIDI.on_queue_empty = [this] {
     if (common().windows.newest() == this) {
@@ -46,7 +45,6 @@ EarSettingsWindow::EarSettingsWindow(const SettingsContext& context, const Setti
   offer({Choice::stimm_g, stimm_g});
   offer({Choice::ton_st_wahl, ton_st_wahl, [this] { degrees_chosen(); }});
   offer({Choice::stufe_wahl, degree_list});
-  offer({Choice::invzahl, invzahl, [this] { allow_degree(); }});
   offer({Choice::grd_ton, grd_ton, [this] { fill_voices(); }});
   offer({Choice::kanal, Channel_Combo, [this] { offered().show(Choice::patch); }});
   offer({Choice::patch, patch_list, [this] { patch_chosen(); }});
@@ -69,7 +67,6 @@ void EarSettingsWindow::set_captions() {
   }
   ton_st_wahl[1].why = word(text::needs_one_interval);
   for (OptionControl& mode : tongeschl) mode.why = word(text::needs_all_degrees);
-  for (OptionControl& number : invzahl) number.why = word(text::needs_all_degrees);
   klang_contr.text = word(text::sound_check);
   lb14[0].text = HSliderVolume.accessible_name = word(text::volume);
 }
@@ -78,7 +75,7 @@ void EarSettingsWindow::prepare() {
   sound_.attach();
   for (const std::string_view program : general_midi_programs) patch_list.add(std::string(program));
   for (const std::string_view tempo : kTempi) temp_Combo.add(std::string(tempo));
-  settings().patch_ar = patches_;
+  settings().patch_ar = voices_.patches;
   sound_.send_patches();
   HSliderVolume.value = kStartVolume;
   volume_chosen();
@@ -86,7 +83,9 @@ void EarSettingsWindow::prepare() {
 
 void EarSettingsWindow::degrees_chosen() {
   const bool all = settings().ton_st_wahl == 0;
-  for (int more = 2; more <= 4; ++more) invzahl[more].enabled = all;
+  if (const Choices::Row* numbers = offered().find(Choice::invzahl)) {
+    for (OptionControl& more : numbers->options.subspan(1)) more.enabled = all;
+  }
   for (OptionControl& option : tongeschl) {
     option.enabled = all || option.index() == settings().tongeschl;
   }
@@ -101,7 +100,6 @@ void EarSettingsWindow::degrees_chosen() {
   offered().set(Choice::stufe_wahl, 0);
 }
 
-// A chosen degree goes with a single interval alone.
 void EarSettingsWindow::allow_degree() {
   ton_st_wahl[1].enabled = settings().invzahl == 1;
 }
@@ -116,7 +114,7 @@ void EarSettingsWindow::fill_voices() {
 
 void EarSettingsWindow::patch_chosen() {
   choose_patch(context().midi, settings().patch_ar, settings().kanal,
-               choice_value(settings(), Choice::patch));
+               choice_value(settings(), Choice::patch), voices_.follows);
 }
 
 void EarSettingsWindow::volume_chosen() {

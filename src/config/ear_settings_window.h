@@ -16,7 +16,6 @@ class EarSettingsWindow : public SettingsWindow {
   ListControl degree_list;  ///< `StufWahlCmb` or `Stuf_wahl`
   ControlArray<OptionControl, 0, 1> Tonart;
   ControlArray<OptionControl, 0, 1> grd_ton;
-  ControlArray<OptionControl, 1, 4> invzahl;
   ControlArray<OptionControl, 0, 1> frequenz;
   ControlArray<OptionControl, 0, 2> stimm_g;
   ListControl temp_Combo;
@@ -28,30 +27,33 @@ class EarSettingsWindow : public SettingsWindow {
   MIDIOutput MIDI;
 
  protected:
-  /// Names of the two lists that are called differently, and the programs at start.
-  struct Names {
+  /// The two lists that are called differently, the programs at start, and the first channel that
+  /// follows the tones' instrument.
+  struct Voices {
     const char* degree_list;
     const char* patch_list;
     std::array<std::int16_t, 8> patches;
+    std::int16_t follows;
   };
   EarSettingsWindow(const SettingsContext& context, const SettingsLayout& layout,
-                    const Names& names);
+                    const Voices& voices);
 
   void set_captions() override;
   void prepare() override;
   void stop_sound() override;
   void failed(std::string_view tag, std::exception_ptr error) override;
+  /// A chosen degree goes with a single interval alone.
+  void allow_degree();
 
  private:
   void degrees_chosen();
   void fill_voices();
   void patch_chosen();
   void volume_chosen();
-  void allow_degree();
   Sequence queue_ended();
 
   SettingsSound sound_;
-  std::array<std::int16_t, 8> patches_;
+  Voices voices_;
 };
 
 }  // namespace tonarix

@@ -40,7 +40,8 @@ constexpr Choice kPairs[] = {
 
 Einstellung1::Einstellung1(const SettingsContext& context)
     : EarSettingsWindow(context, {SettingsKind::einstellung1, "einstellung1", kFrames, kPairs},
-                        {"StufWahlCmb", "Combo1Patch", kPatchesForRows}) {
+                        {"StufWahlCmb", "Combo1Patch", kPatchesForRows, kFollowsForRows}) {
+  offer({Choice::invzahl, invzahl, [this] { allow_degree(); }});
   offer({Choice::abfr_iv, abfr_iv});
   offer({Choice::transpo, transpo_cmb});
   offer({Choice::trans_dfg, CmbTrans, [this] { trans_dfg(); }});
@@ -55,6 +56,7 @@ Einstellung1::Einstellung1(const SettingsContext& context)
 
 void Einstellung1::set_captions() {
   EarSettingsWindow::set_captions();
+  for (OptionControl& number : invzahl) number.why = word(text::needs_all_degrees);
   HinweisMeldung.text = word(832_text);
 }
 

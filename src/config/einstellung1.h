@@ -9,6 +9,7 @@ class Einstellung1 final : public EarSettingsWindow {
  public:
   explicit Einstellung1(const SettingsContext& context);
 
+  ControlArray<OptionControl, 1, 4> invzahl{*this, "invzahl"};
   ControlArray<OptionControl, 0, 1> abfr_iv{*this, "abfr_iv"};
   Control HinweisMeldung{*this, "HinweisMeldung"};  ///< notice of the write exercise, two lines
   ListControl transpo_cmb{*this, "transpo_cmb"};

@@ -232,8 +232,9 @@ void SettingsWindow::go_back() {
   start_.disable();
   testtimer_.disable();
   try {
-    stop_sound();
     levels_.leave();
+    give_back();
+    stop_sound();
   } catch (...) {
     context_.errors.log("cmdZurueck_click.", std::current_exception());
   }

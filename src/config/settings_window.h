@@ -68,6 +68,8 @@ class SettingsWindow : public Window, public SettingsControls {
   /// Before the choices stand: what they need, lists and sound.
   virtual void prepare() {}
   virtual void stop_sound() {}
+  /// On the way out, what the window took for its own time.
+  virtual void give_back() {}
   /// The label and value of a choice, as the window shows it.
   virtual void add_pair(PairList& pairs, Choice choice) const;
   void failed(std::string_view tag, std::exception_ptr error) override;

@@ -29,8 +29,8 @@ constexpr std::array<SettingLabel, 20> kSettingLabels{
      {"Iv-Größe", text::size_title},        {"Tonraum", text::range_title},
      {"Oktavbereich", text::octave_range},  {"Stimmung", 635_text},
      {"Grdton zus.", text::sheet_keynote},  {"Tongeschlecht", text::mode_title},
-     {"Tonart", text::key_title},           {"Aufgabe", text::sheet_task},
-     {"Genauigkeit", text::sheet_accuracy}, {"Iv-Bestimmung", text::naming_title},
+     {"Tonart", text::key_title},           {"Aufgabe", text::task_title},
+     {"Genauigkeit", text::accuracy_title}, {"Iv-Bestimmung", text::naming_title},
      {"Stufen", text::sheet_degrees},       {"Stufe Ton 2", text::degree_of_tone_2}}};
 
 std::string shown_label(const std::string& label, const Texts& texts) {

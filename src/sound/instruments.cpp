@@ -63,22 +63,20 @@ static_assert(general_midi_programs[kPatchesForForming[0]] == "Flute");
 static_assert(general_midi_programs[kPatchesForForming[2]] == "Clarinet");
 static_assert(general_midi_programs[127] == "Gunshot");
 
-constexpr std::int16_t kFirstToneChannel = 2;  // behind the tones' own and the keynote's
-
 void SetzeKlangfarbe(Midi& midi, std::int16_t patch, std::int16_t kanal) {
   midi.MidiProgramm(patch, kanal);
 }
 
 void choose_patch(Midi& midi, std::array<std::int16_t, 8>& patch_ar, std::int16_t kanal,
-                  std::int16_t patch) {
+                  std::int16_t patch, std::int16_t follows) {
   if (kanal < 0 || kanal > 7) throw RuntimeError::index_out_of_range("choose_patch");
   patch_ar[static_cast<std::size_t>(kanal)] = patch;
-  if (kanal == 0) std::fill(patch_ar.begin() + kFirstToneChannel, patch_ar.end(), patch);
+  if (kanal == 0) std::fill(patch_ar.begin() + follows, patch_ar.end(), patch);
   // A device that refuses a message here gets all programs anew before the next playback.
   SetzeKlangfarbe(midi, patch, kanal);
   if (kanal != 0) return;
-  for (std::int16_t tone_kanal = kFirstToneChannel; tone_kanal <= 7; ++tone_kanal) {
-    SetzeKlangfarbe(midi, patch, tone_kanal);
+  for (std::int16_t tone = follows; tone <= 7; ++tone) {
+    SetzeKlangfarbe(midi, patch, tone);
   }
 }
 

@@ -21,10 +21,15 @@ inline constexpr std::array<std::int16_t, 8> kPatchesForForming{73, 0, 71, 73, 7
 /// Sends the program to the channel.
 void SetzeKlangfarbe(Midi& midi, std::int16_t patch, std::int16_t kanal);
 
+/// The first channel that follows what is chosen for the tones. Where a tone is formed, channel 2
+/// keeps the instrument of the student's own tone.
+inline constexpr std::int16_t kFollowsForRows = 2;
+inline constexpr std::int16_t kFollowsForForming = 3;
+
 /// Takes the program for the channel, 0 to 7, and sends it; what is taken for channel 0 holds for
-/// the channels 2 to 7 too. All of it is taken before the first message goes out, so that a device
-/// that refuses (RuntimeError 57) loses nothing.
+/// the channels from `follows` to 7 too. All of it is taken before the first message goes out, so
+/// that a device that refuses (RuntimeError 57) loses nothing.
 void choose_patch(Midi& midi, std::array<std::int16_t, 8>& patch_ar, std::int16_t kanal,
-                  std::int16_t patch);
+                  std::int16_t patch, std::int16_t follows);
 
 }  // namespace tonarix

@@ -12,9 +12,13 @@ using testing::ElementsAre;
 const std::vector<std::string> kSaved{"1", "3", "1", "2", "0", "0", "1", "2",
                                       "1", "",  "1", "1", "1", "2", "4"};
 
-/// The state of a training just begun that fits `kSaved`: a degree of Dur-moll.
-std::vector<std::string> begun_state() {
-  const Settings settings = read_EinstSicherung({}, SettingsKind::einstellung1, kSaved);
+/// The same for forming a tone.
+const std::vector<std::string> kSavedForming{"1", "3", "1", "2", "0", "1", "2", "1",
+                                             "",  "1", "0", "2", "1", "3", "4"};
+
+/// The state of a training just begun that fits the record: a degree of Dur-moll.
+std::vector<std::string> begun_state(SettingsKind kind, const std::vector<std::string>& record) {
+  const Settings settings = read_EinstSicherung({}, kind, record);
   Key key;
   build_scale(key, settings.tongeschl, settings.abfr_iv);
   SavedTraining training{{}, 3, 5};
@@ -23,9 +27,9 @@ std::vector<std::string> begun_state() {
   }
   return to_record(training, settings);
 }
-const std::vector<std::string> kState = begun_state();
+const std::vector<std::string> kState = begun_state(SettingsKind::einstellung1, kSaved);
 
-std::vector<int> locked_frames(const Einstellung1& window) {
+std::vector<int> locked_frames(const SettingsWindow& window) {
   std::vector<int> frames;
   for (const Control& frame : window.grdeinst) {
     EXPECT_EQ(frame.enabled, frame.back != signal::locked) << *frame.index();
@@ -35,26 +39,31 @@ std::vector<int> locked_frames(const Einstellung1& window) {
 }
 
 TEST(Levels, GoesOnWithTheSavedSettingsAndLocksThem) {
-  SettingsBed bed;
-  bed.store("E1", kSaved);
-  bed.store("A1", kState);
-  Einstellung1& window = bed.open();
-  bed.choose_level(2);
-  EXPECT_EQ(bed.settings.Uebungsmodus, Level::continued);
-  EXPECT_EQ(build_EinstSicherung(bed.settings, SettingsKind::einstellung1), kSaved);
-  EXPECT_EQ(bed.settings.AntwSicherung, kState);
-  EXPECT_EQ(window.temp_Combo.selected, 3);
-  EXPECT_TRUE(window.degree_list.visible && window.degree_list.selected == 4);
-  EXPECT_THAT(locked_frames(window), ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13));
-  EXPECT_TRUE(!window.temp_Combo.enabled && window.temp_Combo.fore == signal::locked);
-  window.click(window.Tonart[0]);
-  EXPECT_EQ(bed.settings.Tonart, 1) << "locked";
-  EXPECT_EQ(why_not_open(window.Tonart[0]), "[1035]");
+  for (const ExerciseKind exercise : {ExerciseKind::determine, ExerciseKind::build}) {
+    SettingsBed bed(exercise);
+    const SettingsKind kind = exercise_row(bed.settings).settings;
+    const auto& saved = kind == SettingsKind::einstellung1 ? kSaved : kSavedForming;
+    const auto state = begun_state(kind, saved);
+    bed.store(record_key('E', bed.settings), saved);
+    bed.store(record_key('A', bed.settings), state);
+    EarSettingsWindow& window = bed.open_own();
+    bed.choose_level(2);
+    EXPECT_EQ(bed.settings.Uebungsmodus, Level::continued);
+    EXPECT_EQ(build_EinstSicherung(bed.settings, kind), saved);
+    EXPECT_EQ(bed.settings.AntwSicherung, state);
+    EXPECT_EQ(window.temp_Combo.selected, 3);
+    EXPECT_TRUE(window.degree_list.visible && window.degree_list.selected == 4);
+    EXPECT_THAT(locked_frames(window), ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13));
+    EXPECT_TRUE(!window.temp_Combo.enabled && window.temp_Combo.fore == signal::locked);
+    window.click(window.Tonart[0]);
+    EXPECT_EQ(bed.settings.Tonart, 1) << "locked";
+    EXPECT_EQ(why_not_open(window.Tonart[0]), "[1035]");
 
-  bed.choose_level(3);
-  EXPECT_TRUE(locked_frames(window).empty());
-  EXPECT_EQ(window.grdeinst[12].back, signal::sound);
-  EXPECT_EQ(window.temp_Combo.fore, blue_green_red(0xFF0000));
+    bed.choose_level(3);
+    EXPECT_TRUE(locked_frames(window).empty());
+    EXPECT_EQ(window.grdeinst[12].back, signal::sound);
+    EXPECT_EQ(window.temp_Combo.fore, blue_green_red(0xFF0000));
+  }
 }
 
 // What a state without its flag does, the flow tests show.
@@ -131,30 +140,44 @@ TEST(Levels, ADamagedRecordIsToldOnceWhenTheTrainingIsLookedFor) {
 }
 
 TEST(Levels, ATrainingKeepsItsSettingsATestItsOrderAndAnExamLocksWhatItGoverns) {
-  SettingsBed bed;
-  Einstellung1& window = bed.open();
-  const auto accept = [&] {
-    window.click(window.cmdOk);
-    window.show_again();
-  };
-  bed.choose_level(1);
-  window.click(window.ton_st_wahl[1]);
-  accept();
-  EXPECT_EQ(bed.settings.EinstSicherung.size(), 15U);
-  EXPECT_EQ(bed.settings.EinstDatSave[0], "32");
-  EXPECT_EQ(bed.settings.EinstDatSave.back(), "[450]/[433]");
-  bed.choose_level(3);
-  accept();
-  EXPECT_EQ(bed.settings.abfrage, 1);
-  EXPECT_THAT(bed.settings.EinstDatSave, testing::Contains("[1066]")) << "the order in force";
-  bed.choose_level(4);
-  EXPECT_EQ(why_not_open(bed.window->invzahl[1]) + why_not_open(bed.window->Tonart[1]), "[1034]");
-  window.choose(window.prfnr_Comb, 4);
-  EXPECT_THAT(locked_frames(window), ElementsAre(4, 5, 6, 7, 8, 12));
-  accept();
-  EXPECT_EQ(bed.settings.EinstDatSave[4], "[426] 5");
-  bed.choose_level(0);
-  EXPECT_TRUE(!window.prfnr_Comb.visible && locked_frames(window).empty());
+  const std::pair<ExerciseKind, const char*> cases[] = {{ExerciseKind::determine, "32"},
+                                                        {ExerciseKind::build, "34"}};
+  for (const auto& [exercise, pairs] : cases) {
+    SettingsBed bed(exercise);
+    EarSettingsWindow& window = bed.open_own();
+    const SettingsKind kind = exercise_row(bed.settings).settings;
+    const auto accept = [&] {
+      window.click(window.cmdOk);
+      window.show_again();
+    };
+    bed.choose_level(1);
+    window.click(window.ton_st_wahl[1]);
+    accept();
+    EXPECT_EQ(bed.settings.EinstSicherung.size(), 15U);
+    EXPECT_EQ(bed.settings.EinstDatSave[0], pairs);
+    EXPECT_EQ(bed.settings.EinstDatSave.back(), "[450]/[433]");
+    bed.choose_level(3);
+    accept();
+    EXPECT_EQ(bed.settings.abfrage, 1);
+    EXPECT_THAT(bed.settings.EinstDatSave, testing::Contains("[1066]")) << "the order in force";
+    bed.choose_level(4);
+    for (int exam = 5; exam >= 1; --exam) {
+      window.choose(window.prfnr_Comb, exam - 1);
+      EXPECT_THAT(locked_frames(window), ElementsAre(4, 5, 6, 7, 8, 12));
+      for (const ExamChoice& preset : exam_choices(kind, exam)) {
+        EXPECT_EQ(choice_value(bed.settings, preset.choice), preset.value);
+        const Choices::Row* row = window.choices().find(preset.choice);
+        EXPECT_EQ(why_not_open(row->control()), "[1034]");
+        const int shown = row->list ? row->list->selected : -1;
+        EXPECT_TRUE(shown == preset.value ||
+                    row->options[preset.value - *row->options[0].index()].value);
+      }
+    }
+    accept();
+    EXPECT_EQ(bed.settings.EinstDatSave[4], "[426] 1");
+    bed.choose_level(0);
+    EXPECT_TRUE(!window.prfnr_Comb.visible && locked_frames(window).empty());
+  }
 }
 
 /// A window with nothing of its own: an exam's intervals and naming have no control here.

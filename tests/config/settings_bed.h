@@ -7,6 +7,7 @@
 
 #include "base/module_texts.h"
 #include "config/einstellung1.h"
+#include "config/einstellung2.h"
 #include "support/host_bed.h"
 #include "support/recording_midi.h"
 
@@ -31,10 +32,18 @@ struct SettingsBed : HostBed {
     return opened;
   }
   Einstellung1& open() { return *(window = &open<Einstellung1>()); }
+  /// The window of the exercise.
+  EarSettingsWindow& open_own() {
+    if (settings.ueb_typ == ExerciseKind::build) return open<Einstellung2>();
+    return open();
+  }
   void store(const std::string& key, const std::vector<std::string>& record) {
     records["vemo06/" + key] = Variant::strings(record);
   }
-  void choose_level(int which) { window->choose(window->training_Combo, which); }
+  void choose_level(int which) {
+    auto& newest = dynamic_cast<SettingsWindow&>(*windows.newest());
+    newest.choose(newest.training_Combo, which);
+  }
 
   SettingsContext context() {
     return {.common = common,

@@ -192,6 +192,9 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
     const bool title = control->name() == "geinst_lb";
     if (title || dynamic_cast<const OptionControl*>(control)) told += control->text + "|";
   }
+  const auto& forming = bed.open<Einstellung2>();
+  for (const int frame : {4, 6}) told += forming.geinst_lb[frame].text + "|";
+  for (const OptionControl& task : forming.aufg) told += task.text + "|";
   EXPECT_EQ(told,
             "Übungsart|Gehörbildung|Musiklehre|tonale Intervalle (sukzessiv) bestimmen|"
             "tonale Intervalle sukzessiv bilden|Töne nachspielen|"
@@ -201,8 +204,9 @@ TEST(Catalogues, GiveEachChoiceOfTheSettingsItsMeaning) {
             "Intervall-Bestimmung|Abfolge|Ton 2: auf Stufe(n)|Grundton zusätzlich|Übungsmodus|"
             "Frequenz|Tempo|Stimmung|manuell|automatisch|Dur|moll|Dur-moll|2 Oktaven|3 Oktaven|"
             "4 Oktaven|5 Oktaven|max. 1 Oktave|1 - 2 Oktaven|gemischt (0 - 2 Okt)|Prüfung|alle|"
-            "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|2|3|4|5|fest (a' 440 Hz)|variabel|"
-            "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|vom Grundton|vom Vorton|");
+            "1 nach Wahl|gleichbleibend|wechselnd|ja|nein|fest (a' 440 Hz)|variabel|"
+            "temperiert|rein (pythag.)|mitteltönig (Kirnberger)|2|3|4|5|vom Grundton|vom Vorton|"
+            "Aufgabe|Genauigkeit|nachbilden|bilden|");
 }
 
 }  // namespace

@@ -156,17 +156,17 @@ TEST_F(MidiTest, ALateNoteOffComesTheSoonerTheLongerItsNoteWas) {
 
 TEST_F(MidiTest, TheInstrumentOfTheTonesReachesAllTheirChannelsButNotTheKeynote) {
   std::array<std::int16_t, 8> patches = kPatchesForRows;
-  choose_patch(midi, patches, 0, 40);
+  choose_patch(midi, patches, 0, 40, kFollowsForRows);
   EXPECT_EQ(devices.program(1), -1);
-  choose_patch(midi, patches, 1, 19);
+  choose_patch(midi, patches, 1, 19, kFollowsForRows);
   EXPECT_THAT(patches, ElementsAre(40, 19, 40, 40, 40, 40, 40, 40));
   for (int channel = 0; channel < 8; ++channel) {
     EXPECT_EQ(devices.program(channel), patches.at(channel));
   }
-  EXPECT_THROW(choose_patch(midi, patches, 8, 1), RuntimeError);
+  EXPECT_THROW(choose_patch(midi, patches, 8, 1, kFollowsForRows), RuntimeError);
 
   control.action(MIDIOutput::Action::close_device);
-  EXPECT_THROW(choose_patch(midi, patches, 0, 73), RuntimeError);
+  EXPECT_THROW(choose_patch(midi, patches, 0, 73, kFollowsForRows), RuntimeError);
   EXPECT_THAT(patches, ElementsAre(73, 19, 73, 73, 73, 73, 73, 73)) << "though the device is gone";
 }
 

@@ -93,6 +93,11 @@ void SettingsView::add_options(Card& card, std::span<OptionControl> options, int
   }
 }
 
+void SettingsView::explain(const OptionControl& option, TextKey note) {
+  auto* widget = content().findChild<QRadioButton*>(to_qstring(option.object_name()));
+  static_cast<Option*>(widget)->set_note(word(note));
+}
+
 Card& SettingsView::card_of(Choice choice) {
   const FrameRow* holding = settings_window_.frames().holding(choice);
   return *std::ranges::find(places_, holding, &Place::row)->card;

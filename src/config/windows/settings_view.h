@@ -22,6 +22,8 @@ class SettingsView : public WindowView {
   /// Where a choice stands.
   Card& card_of(Choice choice);
   Button* press_button(Control& control);
+  /// A line that explains an option, below its caption.
+  void explain(const OptionControl& option, TextKey note);
   void applied() override;
   void fit() override;
 

@@ -5,7 +5,9 @@
 #include <QScrollBar>
 
 #include "base/windows/presenter.h"
+#include "config/settings_bed.h"
 #include "config/windows/einstellung1_view.h"
+#include "config/windows/einstellung2_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "flow/flow_bed.h"
@@ -59,18 +61,6 @@ TEST_P(FirstWindowsTest, TheSettingsFollowTheirWindowAndBack) {
   EXPECT_TRUE(bed.windows.count() == 1 && view(0).isVisible());
 }
 
-TEST_P(FirstWindowsTest, TheSettingsFitASmallScreen) {
-  const auto* area = view(1).findChild<QScrollArea*>();
-  auto& window = static_cast<Einstellung1&>(*bed.windows.at(1));
-  window.choose(window.training_Combo, 4);  // the marks of what is locked need room too
-  for (const QSize size : {QSize(1024, 560), QSize(512, 300)}) {  // a title bar is beside it
-    view(1).resize(size);
-    settle();
-    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
-    EXPECT_EQ(area->verticalScrollBar()->maximum() > 0, size.width() == 512);
-  }
-}
-
 TEST_P(FirstWindowsTest, EveryControlOnTheWayOfTheTabKeyHasAName) {
   for (int window : {0, 1}) {
     for (const Control* control : bed.windows.at(window)->controls()) {
@@ -103,6 +93,41 @@ TEST_P(FirstWindowsTest, TheQuestionNamesTheToneThatIsAsked) {
   }
 }
 
+struct SmallScreenTest : testing::TestWithParam<const char*> {
+  template <typename Kind, typename View>
+  void expect_room(const char* name, ExerciseKind exercise) {
+    SettingsBed bed(exercise);
+    Language language(catalogue_folder(TONARIX_CATALOGUES));
+    language.SprachInit();
+    language.SprachWahl(GetParam());
+    const auto word = [&](TextKey key) { return to_qstring(language.Wort(key)); };
+    for (int key = 1; key < 2000; ++key) bed.texts.given[key] = language.Wort({key});
+    bed.tables.load(bed.texts);
+    Presenter presenter{bed.windows};
+    presenter.add<Kind, View>(name, bed.texts);
+    Kind& window = bed.open<Kind>();
+    WindowView& view = *presenter.view_of(window);
+    const auto* area = view.findChild<QScrollArea*>();
+    come_up(bed.scheduler);
+    window.choose(window.training_Combo, 4);  // the marks of what is locked need room too
+    for (const QSize size : {QSize(1024, 560), QSize(512, 300)}) {  // a title bar is beside it
+      view.resize(size);
+      come_up(bed.scheduler);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+      EXPECT_EQ(area->verticalScrollBar()->maximum() > 0, size.width() == 512);
+    }
+    const QString note = exercise == ExerciseKind::build ? word(text::no_pure_forming) : QString();
+    EXPECT_EQ(view.findChild<QRadioButton*>("stimm_g_1")->accessibleDescription(), note);
+  }
+};
+
+TEST_P(SmallScreenTest, HasRoomForTheSettings) {
+  expect_room<Einstellung1, Einstellung1View>("einstellung1", ExerciseKind::determine);
+  expect_room<Einstellung2, Einstellung2View>("einstellung2", ExerciseKind::build);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, SmallScreenTest, testing::Values("Deutsch", "English"));
 INSTANTIATE_TEST_SUITE_P(Languages, FirstWindowsTest, testing::Values("Deutsch", "English"));
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include "config/einstellung1.h"
-
 #include <gmock/gmock.h>
 
 #include <set>
@@ -15,13 +13,15 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr SettingsKind kKind = SettingsKind::einstellung1;
-
-TEST(Einstellung1, WhateverAStudentClicksGoesTogetherAndCanBeSaved) {
-  for (const ExerciseKind kind : {ExerciseKind::determine, ExerciseKind::write}) {
-    SettingsBed bed(kind);
+TEST(EarSettings, WhateverAStudentClicksGoesTogetherAndCanBeSaved) {
+  // All come about, but on the staff the fifth octave, its lowest place, and naming.
+  const std::pair<ExerciseKind, std::size_t> cases[] = {
+      {ExerciseKind::determine, 43}, {ExerciseKind::write, 40}, {ExerciseKind::build, 44}};
+  for (const auto& [exercise, come_about] : cases) {
+    SettingsBed bed(exercise);
     const Settings fresh = bed.settings;
-    Einstellung1& window = bed.open();
+    const SettingsKind kind = exercise_row(fresh).settings;
+    EarSettingsWindow& window = bed.open_own();
     const Settings& now = bed.settings;
     SeededChance chance(1);
     std::set<std::pair<Choice, int>> seen;
@@ -32,8 +32,10 @@ TEST(Einstellung1, WhateverAStudentClicksGoesTogetherAndCanBeSaved) {
       Control& control = *controls[static_cast<std::size_t>(any(controls))];
       auto* list = dynamic_cast<ListControl*>(&control);
       list ? window.choose(*list, any(list->items)) : window.click(control);
-      const auto record = build_EinstSicherung(now, kKind);
-      ASSERT_EQ(build_EinstSicherung(read_EinstSicherung(fresh, kKind, record), kKind), record);
+      const auto record = build_EinstSicherung(now, kind);
+      const Settings read = read_EinstSicherung(fresh, kind, record);
+      ASSERT_EQ(build_EinstSicherung(read, kind), record);
+      EXPECT_TRUE(read.invzahl == now.invzahl && read.abfr_iv == now.abfr_iv);
       EXPECT_EQ(now.tonraum_max - now.tonraum_min, 24 + 12 * now.E_Oktav);
       EXPECT_EQ(window.degree_list.visible, now.ton_st_wahl == 1);
       if (now.ton_st_wahl == 1) {
@@ -44,7 +46,7 @@ TEST(Einstellung1, WhateverAStudentClicksGoesTogetherAndCanBeSaved) {
         EXPECT_TRUE(open || !one->visible || !why_not_open(*one).empty()) << one->object_name();
       }
       for (const SlotRow& row : kSlots) {
-        const Choice choice = row.of(kKind);
+        const Choice choice = row.of(kind);
         const Choices::Row* shown = window.choices().find(choice);
         if (!shown) continue;
         if (choice != Choice::stufe_wahl) seen.insert({choice, choice_value(now, choice)});
@@ -53,8 +55,7 @@ TEST(Einstellung1, WhateverAStudentClicksGoesTogetherAndCanBeSaved) {
         }
       }
     }
-    // All come about, but on the staff the fifth octave, its lowest place, and naming.
-    EXPECT_EQ(seen.size(), kind == ExerciseKind::write ? 40U : 43U);
+    EXPECT_EQ(seen.size(), come_about);
   }
 }
 
@@ -104,42 +105,92 @@ TEST(Einstellung1, RangesAndDegreesAreListedByTheirNames) {
   }
 }
 
-TEST(Einstellung1, InstrumentsFollowTheVoice) {
-  SettingsBed bed;
-  Einstellung1& window = bed.open();
-  EXPECT_EQ(window.lb14[1].text, "100");
-  EXPECT_EQ(bed.devices.program(1) * 100 + bed.devices.program(7), 4300);
-  window.click(window.grd_ton[0]);
-  EXPECT_EQ(window.Channel_Combo.items.size(), 2U);
-  EXPECT_EQ(window.patch_list.selected, 43);
-  window.choose(window.patch_list, 19);
-  EXPECT_EQ(bed.devices.program(1) * 100 + bed.devices.program(2), 1900);
-  window.choose(window.Channel_Combo, 0);
-  window.choose(window.patch_list, 73);
-  EXPECT_EQ(bed.settings.patch_ar, (std::array<std::int16_t, 8>{73, 19, 73, 73, 73, 73, 73, 73}));
-  window.click(window.grd_ton[1]);
-  EXPECT_EQ(bed.settings.kanal, 0);
-  window.slide(window.HSliderVolume, 300);
-  EXPECT_EQ(bed.midi.midi_lautstaerke, 127);
-  EXPECT_EQ(window.lb14[1].text, "127");
+TEST(EarSettings, InstrumentsFollowTheVoiceButTheStudentsOwnToneKeepsItsOwn) {
+  const std::tuple<ExerciseKind, std::array<int, 3>, int> cases[] = {
+      {ExerciseKind::determine, {0, 43, 0}, 40}, {ExerciseKind::build, {73, 0, 71}, 71}};
+  for (const auto& [exercise, start, own] : cases) {
+    SettingsBed bed(exercise);
+    EarSettingsWindow& window = bed.open_own();
+    EXPECT_EQ(window.lb14[1].text, "100");
+    for (const int channel : {0, 1, 2, 7}) {
+      EXPECT_EQ(bed.devices.program(channel), start[channel == 7 ? 0 : channel]) << channel;
+    }
+    window.click(window.grd_ton[0]);
+    EXPECT_EQ(window.Channel_Combo.items.size(), 2U);
+    EXPECT_EQ(window.patch_list.selected, start[1]);
+    window.choose(window.patch_list, 19);
+    EXPECT_EQ(bed.devices.program(1) * 100 + bed.devices.program(2), 1900 + start[2]);
+    window.choose(window.Channel_Combo, 0);
+    window.choose(window.patch_list, 40);
+    EXPECT_THAT(bed.settings.patch_ar, ElementsAre(40, 19, own, 40, 40, 40, 40, 40));
+    EXPECT_EQ(bed.devices.program(2) * 100 + bed.devices.program(7), 100 * own + 40);
+    window.click(window.grd_ton[1]);
+    EXPECT_EQ(bed.settings.kanal, 0);
+    window.slide(window.HSliderVolume, 300);
+    EXPECT_EQ(bed.midi.midi_lautstaerke, 127);
+    EXPECT_EQ(window.lb14[1].text, "127");
+  }
 }
 
-TEST(Einstellung1, AcceptsAndOpensTheExercise) {
-  SettingsBed bed;
-  bed.texts.given[1074] = "fest (a' 440 Hz)";
-  bed.settings.stimm_g = 2;  // goes back to its default
-  Einstellung1& window = bed.open();
-  EXPECT_EQ(window.geinst_lb[8].text, "[556] 2: [508](n)");
-  window.click(window.cmdOk);
-  EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
-  EXPECT_TRUE(!window.visible && bed.settings.EinstSicherung.empty()) << "kept at level 1 alone";
-  EXPECT_THAT(bed.settings.EinstDatSave,
-              ElementsAre("30", "Übungsmodus", "[136]", "Klangfarbe", "Acoustic Grand Piano",
-                          "Tempo", "40 (Largo)", "Frequenz", "fest (a1 440 Hz)", "Abfolge",
-                          "[1065]", "Iv-Anzahl", "2", "Iv-Größe", "[1071]", "Tonraum", "2 [1072]",
-                          "Oktavbereich", "[682] [702] [695]", "Stimmung", "[546]", "Grdton zus.",
-                          "[1070]", "Tongeschlecht", "[1062]", "Tonart", "[1067]", "Iv-Bestimmung",
-                          "[1076]", "Stufen", "[1078]"));
+TEST(EarSettings, AcceptAndOpenTheExercise) {
+  const std::pair<ExerciseKind, std::string> cases[] = {
+      {ExerciseKind::determine,
+       "30|Übungsmodus|[136]|Klangfarbe|Acoustic Grand Piano|Tempo|40 (Largo)|"
+       "Frequenz|fest (a1 440 Hz)|Abfolge|[1065]|Iv-Anzahl|2|Iv-Größe|[1071]|Tonraum|2 [1072]|"
+       "Oktavbereich|[682] [702] [695]|Stimmung|[546]|Grdton zus.|[1069]|Tongeschlecht|[1062]|"
+       "Tonart|[1067]|Iv-Bestimmung|[1076]|Stufen|[1078]|"},
+      {ExerciseKind::build,
+       "34|Übungsmodus|[136]|Klangfarben: |2|[341]|Flute|[641]|Acoustic Grand Piano|"
+       "Tempo|40 (Largo)|Frequenz|fest (a1 440 Hz)|Abfolge|[1065]|Iv-Größe|[1071]|"
+       "Tonraum|2 [1072]|Oktavbereich|[682] [702] [695]|Stimmung|[546]|Grdton zus.|[1069]|"
+       "Tongeschlecht|[1062]|Tonart|[1067]|Aufgabe|[1290]|Genauigkeit|[478]|Stufen|[1078]|"}};
+  for (const auto& [exercise, pairs] : cases) {
+    SettingsBed bed(exercise);
+    bed.texts.given[1074] = "fest (a' 440 Hz)";
+    bed.settings.stimm_g = 2;  // goes back to its default
+    EarSettingsWindow& window = bed.open_own();
+    EXPECT_EQ(window.geinst_lb[8].text, "[556] 2: [508](n)");
+    window.click(window.grd_ton[0]);
+    window.choose(window.Channel_Combo, 0);
+    window.click(window.cmdOk);
+    EXPECT_THAT(bed.steps, ElementsAre("protocol", "exercise"));
+    EXPECT_TRUE(!window.visible && bed.settings.EinstSicherung.empty()) << "kept at level 1 alone";
+    std::string told;
+    for (const std::string& one : bed.settings.EinstDatSave) told += one + "|";
+    EXPECT_EQ(told, pairs);
+  }
+}
+
+TEST(Einstellung2, SaysWhatAnAccuracyMeansInStepsAndCents) {
+  SettingsBed bed(ExerciseKind::build);
+  bed.texts.given = {{1048, ","}, {1293, "%1 (%2)"}};
+  auto& window = bed.open<Einstellung2>();
+  std::vector<std::string> told, meanings;
+  window.on_announced = [&](const std::string& news) { told.push_back(news); };
+  for (const int genau : {1, 2, 3, 4, 0}) {
+    window.choose(window.genau_combo, genau);
+    bed.scheduler.settle();
+    meanings.push_back(window.genau_note.text);
+  }
+  EXPECT_THAT(meanings, ElementsAre("6 (18,8)", "4 (12,5)", "2 (6,3)", "[1294]", "8 (25)"));
+  EXPECT_EQ(told, meanings);
+  EXPECT_EQ(window.genau_combo.accessible_name, "[1230], 8 (25)");
+}
+
+TEST(Einstellung2, FormsOneIntervalFromToneToToneAndGivesTheNamingBack) {
+  for (const bool device_gone : {false, true}) {
+    SettingsBed bed(ExerciseKind::build);
+    bed.settings.abfr_iv = Naming::from_keynote;
+    bed.settings.invzahl = 3;
+    auto& window = bed.open<Einstellung2>();
+    for (const int level : {0, 4, 3}) {
+      bed.choose_level(level);
+      EXPECT_TRUE(bed.settings.invzahl == 1 && bed.settings.abfr_iv == Naming::from_tone_before);
+    }
+    bed.devices.refuses = device_gone;
+    window.title_bar_close();
+    EXPECT_EQ(bed.settings.abfr_iv, Naming::from_keynote);
+  }
 }
 
 TEST(Einstellung1, GoesBackWhenItOrTheExerciseCannotStart) {
