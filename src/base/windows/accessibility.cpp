@@ -76,11 +76,21 @@ class AnnouncerInterface final : public QAccessibleWidget {
   Announcer& announcer_;
 };
 
+/// The slider whose value nobody is told, if the object is one.
+Slider* silent_slider(QObject* object) {
+  auto* slider = dynamic_cast<Slider*>(object);
+  return slider && !slider->value_spoken() ? slider : nullptr;
+}
+
 QAccessibleInterface* interface_of(const QString&, QObject* object) {
   if (auto* button = dynamic_cast<Button*>(object)) return new ButtonInterface(*button);
   if (auto* announcer = dynamic_cast<Announcer*>(object)) return new AnnouncerInterface(*announcer);
   if (auto* card = dynamic_cast<Card*>(object)) {
     return new CardInterface(*card);
+  }
+  if (Slider* slider = silent_slider(object)) {
+    // A plain widget's interface: name, focus and state without a value.
+    return new QAccessibleWidget(slider, QAccessible::Slider);
   }
   if (auto* view = dynamic_cast<WindowView*>(object)) {
     return new QAccessibleWidget(view, QAccessible::Window);
@@ -94,6 +104,7 @@ QAccessibleInterface* interface_of(const QString&, QObject* object) {
 /// The toolkit tells of a new name whenever a caption is set, also when only its letter for Alt has
 /// moved. What is known is not told again.
 void tell_changes(QAccessibleEvent* event) {
+  if (event->type() == QAccessible::ValueChanged && silent_slider(event->object())) return;
   if (event->type() == QAccessible::NameChanged && event->object()) {
     const QAccessibleInterface* named = event->accessibleInterface();
     const QString name = named ? named->text(QAccessible::Name) : QString();

@@ -78,9 +78,15 @@ class Option : public QRadioButton {
 class Slider : public QSlider {
  public:
   explicit Slider(QWidget* parent = nullptr);
+  /// Whether a screen reader is told the value. Once, before anybody asks for it.
+  void set_value_spoken(bool spoken) { value_spoken_ = spoken; }
+  bool value_spoken() const { return value_spoken_; }
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  bool value_spoken_ = true;
 };
 
 /// A text, plain or on a coloured surface with a sign that reads without colour.
