@@ -12,6 +12,8 @@ if command -v jackd >/dev/null; then
   export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonarix-measure
   jackd -r -n tonarix-measure -d dummy -r 48000 -p 256 >/dev/null 2>&1 &
   ended+=($!)
+  jackd -r -n tonarix-slider -d dummy -r 48000 -p 16 >/dev/null 2>&1 &
+  ended+=($!)
 fi
 if [ -z "${DISPLAY:-}" ]; then
   exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1280x800x24 2>/dev/null & echo $!; wait)
@@ -30,6 +32,7 @@ fi
 "$programs/mat_wahl"
 "$programs/onset_error"
 "$programs/sheet"
+JACK_DEFAULT_SERVER=tonarix-slider "$programs/slider_to_port" 0.333
 
 # What a bare Debian 12 downloads for running: everything the packages need, less what every system has.
 status=$(mktemp)

@@ -2133,5 +2133,69 @@ Vorzeichen!</translation>
         <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
         <translation>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</translation>
     </message>
+    <message id="1315s">
+        <source>Fertig</source>
+        <translation>Fertig</translation>
+    </message>
+    <message id="1316s">
+        <source>Bilden Sie: %1</source>
+        <translation>Bilden Sie: %1</translation>
+    </message>
+    <message id="1317s">
+        <source>Bewegen Sie den Regler, bis der Ton stimmt, und drücken Sie „Fertig“.</source>
+        <translation>Bewegen Sie den Regler, bis der Ton stimmt, und drücken Sie „Fertig“.</translation>
+    </message>
+    <message id="1318s">
+        <source>Bewegen Sie zuerst den Regler.</source>
+        <translation>Bewegen Sie zuerst den Regler.</translation>
+    </message>
+    <message id="1319s">
+        <source>Die Kontrollwiedergabe spielt erst Ihren Ton, dann den richtigen.</source>
+        <translation>Die Kontrollwiedergabe spielt erst Ihren Ton, dann den richtigen.</translation>
+    </message>
+    <message id="1320s">
+        <source>%1 Schritte zu hoch, +%2 Cent</source>
+        <translation>%1 Schritte zu hoch, +%2 Cent</translation>
+    </message>
+    <message id="1321s">
+        <source>1 Schritt zu hoch, +%1 Cent</source>
+        <translation>1 Schritt zu hoch, +%1 Cent</translation>
+    </message>
+    <message id="1322s">
+        <source>%1 Schritte zu tief, −%2 Cent</source>
+        <translation>%1 Schritte zu tief, −%2 Cent</translation>
+    </message>
+    <message id="1323s">
+        <source>1 Schritt zu tief, −%1 Cent</source>
+        <translation>1 Schritt zu tief, −%1 Cent</translation>
+    </message>
+    <message id="1324s">
+        <source>genau getroffen, 0 Cent</source>
+        <translation>genau getroffen, 0 Cent</translation>
+    </message>
+    <message id="1325s">
+        <source>tiefer</source>
+        <translation>tiefer</translation>
+    </message>
+    <message id="1326s">
+        <source>höher</source>
+        <translation>höher</translation>
+    </message>
+    <message id="1327s">
+        <source>Pfeiltasten: ein Schritt · Bild auf/ab: fünf</source>
+        <translation>Pfeiltasten: ein Schritt · Bild auf/ab: fünf</translation>
+    </message>
+    <message id="1328s">
+        <source>Aufgabe fertig.</source>
+        <translation>Aufgabe fertig.</translation>
+    </message>
+    <message id="1329s">
+        <source>Zwei Töne erklingen, der dritte klingt weiter. Bewegen Sie den Regler mit der Maus oder den Pfeiltasten, bis der dritte Ton stimmt, und drücken Sie „Fertig“. Vier falsche Versuche beenden die Aufgabe. „wiederholen“ spielt die Aufgabe noch einmal; danach spielt „Kontrollwiedergabe“ erst Ihren Ton, dann den richtigen.</source>
+        <translation>Zwei Töne erklingen, der dritte klingt weiter. Bewegen Sie den Regler mit der Maus oder den Pfeiltasten, bis der dritte Ton stimmt, und drücken Sie „Fertig“. Vier falsche Versuche beenden die Aufgabe. „wiederholen“ spielt die Aufgabe noch einmal; danach spielt „Kontrollwiedergabe“ erst Ihren Ton, dann den richtigen.</translation>
+    </message>
+    <message id="1330s">
+        <source>Hilfe schließen</source>
+        <translation>Hilfe schließen</translation>
+    </message>
 </context>
 </TS>

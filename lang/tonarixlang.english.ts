@@ -2133,5 +2133,69 @@ in any order.</translation>
         <source>Gelbe Gruppen sind frei wählbar, rote sind durch den Übungsmodus festgelegt, blaue betreffen Tempo und Klang. Bei „nachbilden“ hören Sie erst alle drei Töne und formen den dritten dann nach. Bei „bilden“ formen Sie ihn nur nach dem Namen des Intervalls. Die Genauigkeit sagt, wie weit der Ton danebenliegen darf; 32 Schritte des Reglers sind ein Halbton. „Klangprobe“ spielt einige Töne mit Ihrem Instrument und Tempo. „OK“ beginnt die Übung.</source>
         <translation>Yellow groups are open to choice, red ones are set by the exercise level, blue ones concern tempo and sound. With “Imitate” you first hear all three tones and then form the third one again. With “Build” you form it from the name of the interval alone. The accuracy tells how far off the tone may be; 32 steps of the slider are a semitone. “Sound check” plays a few tones with your instrument and tempo. “OK” begins the exercise.</translation>
     </message>
+    <message id="1315s">
+        <source>Fertig</source>
+        <translation>Done</translation>
+    </message>
+    <message id="1316s">
+        <source>Bilden Sie: %1</source>
+        <translation>Build: %1</translation>
+    </message>
+    <message id="1317s">
+        <source>Bewegen Sie den Regler, bis der Ton stimmt, und drücken Sie „Fertig“.</source>
+        <translation>Move the slider until the tone is right, then press “Done”.</translation>
+    </message>
+    <message id="1318s">
+        <source>Bewegen Sie zuerst den Regler.</source>
+        <translation>Move the slider first.</translation>
+    </message>
+    <message id="1319s">
+        <source>Die Kontrollwiedergabe spielt erst Ihren Ton, dann den richtigen.</source>
+        <translation>“Compare” plays your tone first, then the right one.</translation>
+    </message>
+    <message id="1320s">
+        <source>%1 Schritte zu hoch, +%2 Cent</source>
+        <translation>%1 steps too high, +%2 cents</translation>
+    </message>
+    <message id="1321s">
+        <source>1 Schritt zu hoch, +%1 Cent</source>
+        <translation>1 step too high, +%1 cents</translation>
+    </message>
+    <message id="1322s">
+        <source>%1 Schritte zu tief, −%2 Cent</source>
+        <translation>%1 steps too low, −%2 cents</translation>
+    </message>
+    <message id="1323s">
+        <source>1 Schritt zu tief, −%1 Cent</source>
+        <translation>1 step too low, −%1 cents</translation>
+    </message>
+    <message id="1324s">
+        <source>genau getroffen, 0 Cent</source>
+        <translation>exactly right, 0 cents</translation>
+    </message>
+    <message id="1325s">
+        <source>tiefer</source>
+        <translation>lower</translation>
+    </message>
+    <message id="1326s">
+        <source>höher</source>
+        <translation>higher</translation>
+    </message>
+    <message id="1327s">
+        <source>Pfeiltasten: ein Schritt · Bild auf/ab: fünf</source>
+        <translation>Arrow keys: one step · Page up/down: five</translation>
+    </message>
+    <message id="1328s">
+        <source>Aufgabe fertig.</source>
+        <translation>Task done.</translation>
+    </message>
+    <message id="1329s">
+        <source>Zwei Töne erklingen, der dritte klingt weiter. Bewegen Sie den Regler mit der Maus oder den Pfeiltasten, bis der dritte Ton stimmt, und drücken Sie „Fertig“. Vier falsche Versuche beenden die Aufgabe. „wiederholen“ spielt die Aufgabe noch einmal; danach spielt „Kontrollwiedergabe“ erst Ihren Ton, dann den richtigen.</source>
+        <translation>Two tones are played, the third sounds on. Move the slider with the mouse or the arrow keys until the third tone is right, then press “Done”. Four wrong tries end the task. “Repeat” plays the task once more; afterwards “Compare” plays your tone first, then the right one.</translation>
+    </message>
+    <message id="1330s">
+        <source>Hilfe schließen</source>
+        <translation>Close help</translation>
+    </message>
 </context>
 </TS>

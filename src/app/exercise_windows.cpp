@@ -6,6 +6,7 @@
 #include "base/module_texts.h"
 #include "config/einstellung1.h"
 #include "config/einstellung2.h"
+#include "exercises/build/arbeitsblatt2.h"
 #include "exercises/determine/arbeitsblatt1.h"
 
 namespace tonarix {
@@ -21,6 +22,7 @@ std::unique_ptr<Window> make(const Context& context) {
 constexpr std::array kExerciseWindows{
     // window          help       made by
     ExerciseFactory{"arbeitsblatt1", text::help_determine, make<Arbeitsblatt1>},
+    ExerciseFactory{"arbeitsblatt2", text::help_build, make<Arbeitsblatt2>},
 };
 constexpr std::array kSettingsWindows{
     // kind                                      window          help       made by

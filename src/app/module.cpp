@@ -2,7 +2,8 @@
 
 #include "app/exercise_windows.h"
 #include "base/module_texts.h"
-
+#include "base/runtime_error.h"
+#include "host/help_file.h"
 #include "results/result_window.h"
 #include "settings/settings_tables.h"
 
@@ -160,6 +161,7 @@ void Module::open_exercise(SettingsWindow& caller) {
                        if (auto* window = ref.get()) return window->show_again();
                        if (auto* first = selection_.get()) first->show();
                      }},
+      .help_page = [this](std::string_view stem) { return help_page(stem); },
       .show_help = [this](const std::function<void()>& closed) { show_help(closed); },
       .open_result = [this](
                          const WorkDone& work,
@@ -188,6 +190,16 @@ void Module::tell_sound_problem() {
   if (!problem) return;
   sound_problem_told_ = true;
   outside_.dialogs.show(warning(outside_.language.Wort(*problem)), [](Reply) {});
+}
+
+std::optional<RichText> Module::help_page(std::string_view stem) {
+  std::string reason;
+  auto page = read_help(outside_.program_data, outside_.language, stem, &reason);
+  if (!page) {
+    errors_.log("help_page.", std::make_exception_ptr(
+                                  RuntimeError(RuntimeError::kPathError, reason, "help_page")));
+  }
+  return page;
 }
 
 void Module::show_help(const std::function<void()>& closed) {

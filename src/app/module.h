@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -7,6 +8,7 @@
 
 #include "base/chance.h"
 #include "base/dialogs.h"
+#include "base/rich_text.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "config/selection_window.h"
@@ -43,6 +45,7 @@ struct Outside {
   SheetPrinter& printer;
   Server::HostFactory create_host;
   ProtocolFolders folders;
+  std::filesystem::path program_data;  ///< where the help texts lie
   Server::Application application;
   std::string computer_user;
   int screen_width = 1024;  ///< pixels
@@ -76,6 +79,7 @@ class Module {
   void load_names();
   void tell_sound_problem();
   void take_up_interrupted();
+  std::optional<RichText> help_page(std::string_view stem);
   void show_help(const std::function<void()>& closed = [] {});
 
   Outside outside_;

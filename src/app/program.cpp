@@ -18,6 +18,7 @@
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/einstellung2_view.h"
 #include "config/windows/selection_view.h"
+#include "exercises/build/windows/arbeitsblatt2_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "host/local/catalogue_folder.h"
 #include "protocol/file_in_making.h"
@@ -102,6 +103,7 @@ Program::Program(const Options& options)
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
   presenter_.add<Einstellung2, Einstellung2View>("einstellung2", language_);
   presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);
+  presenter_.add<Arbeitsblatt2, Arbeitsblatt2View>("arbeitsblatt2", language_);
   presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
 }
 
@@ -120,6 +122,7 @@ Outside Program::outside() {
           .printer = printer_,
           .create_host = host_.factory(),
           .folders = {.protocols = protocol_folder(), .data = data_},
+          .program_data = catalogue_place().parent_path(),
           .application = application_facts(),
           .computer_user = computer_user(),
           .screen_width = QGuiApplication::primaryScreen()->size().width(),

@@ -219,5 +219,21 @@ inline constexpr TextKey right_within = 1293_text;
 inline constexpr TextKey right_exactly = 1294_text;
 inline constexpr TextKey no_pure_forming = 1295_text;
 inline constexpr TextKey help_forming_settings = 1296_text;
+inline constexpr TextKey tone_is_formed = 1315_text;
+inline constexpr TextKey form_interval = 1316_text;
+inline constexpr TextKey how_to_form = 1317_text;
+inline constexpr TextKey move_first = 1318_text;
+inline constexpr TextKey may_hear_both = 1319_text;
+inline constexpr TextKey steps_high = 1320_text;
+inline constexpr TextKey one_step_high = 1321_text;
+inline constexpr TextKey steps_low = 1322_text;
+inline constexpr TextKey one_step_low = 1323_text;
+inline constexpr TextKey pitch_exact = 1324_text;
+inline constexpr TextKey lower = 1325_text;
+inline constexpr TextKey higher = 1326_text;
+inline constexpr TextKey slider_keys = 1327_text;
+inline constexpr TextKey task_is_done = 1328_text;
+inline constexpr TextKey help_build = 1329_text;
+inline constexpr TextKey help_close = 1330_text;
 
 }  // namespace tonarix::text

@@ -1,6 +1,5 @@
 #include "config/einstellung2.h"
 
-#include "base/filled_text.h"
 #include "base/module_texts.h"
 #include "config/einst_dat_save.h"
 #include "settings/accuracy.h"
@@ -37,14 +36,6 @@ constexpr Choice kPairs[] = {
     Tonart,       aufg,    genau,         ton_st_wahl, stufe_wahl,
 };
 
-/// "richtig: bis 2 Schritte (6,3 Cent)": how far from the target is still right.
-std::string meaning(std::int16_t genau, const Texts& texts) {
-  const int farthest = genauGrenze.at(static_cast<std::size_t>(genau)) - 1;
-  if (farthest == 0) return texts.Wort(text::right_exactly);
-  return filled(texts.Wort(text::right_within),
-                {std::to_string(farthest), cents_text(farthest, texts)});
-}
-
 }  // namespace
 
 Einstellung2::Einstellung2(const SettingsContext& context)
@@ -61,7 +52,7 @@ void Einstellung2::prepare() {
 }
 
 void Einstellung2::accuracy_chosen() {
-  const std::string means = meaning(settings().genau, common().texts);
+  const std::string means = accuracy_words(settings().genau, common().texts);
   const bool news = !genau_note.text.empty() && genau_note.text != means;
   genau_note.text = means;
   genau_combo.accessible_name = word(text::accuracy_title) + ", " + means;

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/chance.h"
+#include "base/rich_text.h"
 #include "base/wall_clock.h"
 #include "base/window.h"
 #include "engine/interrupted_exercises.h"
@@ -49,6 +50,9 @@ struct ExerciseContext {
   const ToneNames& tone_names;
   const IntervalNames& interval_names;
   ExerciseCaller caller;
+  /// The help page of an exercise, by the beginning of its file's name; nothing where there is none
+  /// that can be read.
+  std::function<std::optional<RichText>(std::string_view stem)> help_page;
   /// Shows the help; `closed` runs when it has been read.
   std::function<void(std::function<void()> closed)> show_help;
   /// Opens the result sheet; `closed` runs when the student has left it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -42,6 +43,10 @@ class ExerciseHooks {
   virtual void show_actions(const Actions&) {}
   /// Shows the counters of the window's own.
   virtual void show_counts(const TaskAnswers::Counts&) {}
+  /// Whether a finished row is heard once more before the next task is offered.
+  virtual bool control_comes_first() const = 0;
+  /// Shows the help of the window; `closed` runs when it has been read.
+  virtual void show_help(const std::function<void()>& closed) = 0;
   /// Another line in the place of a usual one that does not fit the window.
   virtual TextKey line(TextKey usual) const { return usual; }
   /// The question that stands above the row while it is asked.

@@ -175,10 +175,8 @@ void ExerciseWindow::update_counts() {
 
 void ExerciseWindow::finish_row() {
   sitting_.finish_task();
-  announce(word(text::row_is_done));
-  // In a test no time is lost: hearing the row again is left to the student.
-  const bool heard_again = player().audible() && !is_test(level());
-  Phase next = heard_again ? Phase::row_done : Phase::next_offered;
+  announce(word(line(text::row_is_done)));
+  Phase next = control_comes_first() ? Phase::row_done : Phase::next_offered;
   BoxOutcome outcome{1, 0};
   if (level() != Level::free) outcome = box_.BoxAuswerten(answers_.book.answered());
   if (is_training(level())) {
@@ -244,7 +242,7 @@ const Control* ExerciseWindow::default_button() const {
 void ExerciseWindow::cmdHilfe_click() {
   press(cmdHilfe, "cmdHilfe_click.", [this] {
     hold_back();
-    context_.show_help([this, here = alive()] {
+    show_help([this, here = alive()] {
       if (!here.expired()) handle("cmdHilfe_click.", [this] { go_on_after_reading(); });
     });
   });

@@ -38,7 +38,10 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
 
  protected:
   int first_scored() const override;
+  /// In a test no time is lost: hearing the row again is left to the student.
+  bool control_comes_first() const override { return player_->audible() && !is_test(level()); }
   LessonFacts lesson_facts() override;
+  void show_help(const std::function<void()>& closed) override { context_.show_help(closed); }
   void close_requested() override { way_out(); }
   void failed(std::string_view tag, std::exception_ptr error) override;
 
@@ -46,6 +49,8 @@ class ExerciseWindow : public Window, public ExerciseControls, protected Exercis
   TaskAnswers& answers() { return answers_; }
   const TaskAnswers& answers() const { return answers_; }
   RowPlayer& player();
+  /// Number of the task, from 1.
+  int lesson_number() const { return lesson_nr_; }
   /// `keynote`: what sounds in this phase is the keynote and not the row.
   void enter(Phase phase, bool keynote = false);
   /// After a verdict: counts, and ends the row once all of it is answered.

@@ -5,6 +5,29 @@
 
 namespace tonarix {
 
+void PlaceCursor::begin(int tones, double beat_ms) {
+  tones_ = tones;
+  timer_.set_interval(beat_ms);
+  show(0);
+  timer_.enable();
+}
+
+void PlaceCursor::stay_at(int place) {
+  timer_.disable();
+  show(place);
+}
+
+void PlaceCursor::go_on() {
+  const bool more = place_ + 1 < tones_;
+  show(more ? place_ + 1 : -1);
+  if (more) timer_.enable();
+}
+
+void PlaceCursor::show(int place) {
+  place_ = place;
+  shows_(place);
+}
+
 SoundingPlayer::SoundingPlayer(Scheduler& scheduler, Waits& waits, Midi& midi,
                                const Settings& settings, const Key& key, const TaskRow& row,
                                Chance& chance)
@@ -16,10 +39,11 @@ SoundingPlayer::SoundingPlayer(Scheduler& scheduler, Waits& waits, Midi& midi,
       playback_(midi, settings, key, row),
       spieltimer_(scheduler, [this] { sounded(); }),
       grdton_Timer_(scheduler, [this] { sounded(); }),
-      place_timer_(scheduler, [this] { show(place_ + 1); }) {
+      cursor_(scheduler, [this](int place) {
+        if (shows) shows(place);
+      }) {
   spieltimer_.set_interval(static_cast<double>(playback_.beat()) * playback_.tones());
   grdton_Timer_.set_interval(playback_.beat());
-  place_timer_.set_interval(playback_.beat());
 }
 
 std::int16_t SoundingPlayer::row_ms() const {
@@ -35,7 +59,7 @@ Sequence SoundingPlayer::play(SpielArt what, Tone just_answered) {
   }
   co_await playback_.SpieleAufgabe(tuning_, waits_);
   if (waits_.closed()) co_return;
-  show(0);
+  cursor_.begin(playback_.tones(), playback_.beat());
   spieltimer_.enable();
 }
 
@@ -47,17 +71,7 @@ void SoundingPlayer::silence() {
 void SoundingPlayer::forget() {
   spieltimer_.disable();
   grdton_Timer_.disable();
-  show(-1);
-}
-
-void SoundingPlayer::show(int place) {
-  place_ = place >= 0 && place < playback_.tones() ? place : -1;
-  if (place_ >= 0) {
-    place_timer_.enable();
-  } else {
-    place_timer_.disable();
-  }
-  if (shows) shows(place_);
+  cursor_.stop();
 }
 
 Sequence SilentPlayer::play(SpielArt, Tone) {

@@ -52,6 +52,27 @@ class RowPlayer {
   std::int16_t terz_typ_ = 0;
 };
 
+/// Tells which tone of a row sounds now, -1 for none: the first at once, each further a beat later.
+class PlaceCursor {
+ public:
+  PlaceCursor(Scheduler& scheduler, std::function<void(int place)> shows)
+      : shows_(std::move(shows)), timer_(scheduler, [this] { go_on(); }) {}
+
+  void begin(int tones, double beat_ms);
+  /// This tone sounds on.
+  void stay_at(int place);
+  void stop() { stay_at(-1); }
+
+ private:
+  void go_on();
+  void show(int place);
+
+  std::function<void(int)> shows_;
+  Timer timer_;
+  int tones_ = 0;
+  int place_ = -1;
+};
+
 /// Plays the row tone by tone over the current MIDI output, and the keynote chord.
 class SoundingPlayer final : public RowPlayer {
  public:
@@ -62,11 +83,9 @@ class SoundingPlayer final : public RowPlayer {
   Sequence play(SpielArt what, Tone just_answered) override;
   void silence() override;
   void forget() override;
-  void queue_ran_out() override { show(-1); }
+  void queue_ran_out() override { cursor_.stop(); }
 
  private:
-  void show(int place);
-
   Waits& waits_;
   Midi& midi_;
   const Settings& settings_;
@@ -75,8 +94,7 @@ class SoundingPlayer final : public RowPlayer {
   Playback playback_;
   Timer spieltimer_;
   Timer grdton_Timer_;
-  Timer place_timer_;
-  int place_ = -1;
+  PlaceCursor cursor_;
 };
 
 /// Where a row is read and nothing sounds: every row has sounded at once.

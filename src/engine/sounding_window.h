@@ -32,10 +32,11 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   LessonFacts lesson_facts() override;
   void show_actions(const Actions& actions) override;
   void show_counts(const TaskAnswers::Counts& counts) override;
+  /// Marks the tone that sounds now, -1 for none.
+  void show_sounding(int place);
 
  private:
   Sequence hear(SpielArt what);
-  void show_sounding(int place);
 
   KeynoteControls* keynote_;
 };

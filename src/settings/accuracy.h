@@ -20,5 +20,7 @@ constexpr double cents(int steps) {
 /// The cents of so many steps, rounded half up to a tenth, with the language's decimal sign:
 /// "12,5", "-25", "6,3".
 std::string cents_text(int steps, const Texts& texts);
+/// "richtig: bis 2 Schritte (6,3 Cent)": how far from the target is still right, by `genau` 0 to 4.
+std::string accuracy_words(std::int16_t genau, const Texts& texts);
 
 }  // namespace tonarix

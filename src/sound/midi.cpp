@@ -202,8 +202,12 @@ void Midi::MidiNote(std::int16_t note, double time, double dauer, std::int16_t k
 }
 
 void Midi::MidiNoteOn(std::int16_t note, std::int16_t kanal) {
+  MidiNoteOn(note, kanal, midi_lautstaerke);
+}
+
+void Midi::MidiNoteOn(std::int16_t note, std::int16_t kanal, std::int16_t velocity) {
   if (MidiOut) MidiOut->set_volume(midi_vol_links, midi_vol_rechts);
-  send(kNoteOn, kanal, note, midi_lautstaerke);
+  send(kNoteOn, kanal, note, velocity);
 }
 
 void Midi::MidiNoteOff(std::int16_t note, std::int16_t kanal) {

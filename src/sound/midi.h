@@ -90,6 +90,7 @@ class Midi {
                 std::int16_t velocity);
   void MidiNote(std::int16_t note, double time, double dauer, std::int16_t kanal, std::int32_t tag);
   void MidiNoteOn(std::int16_t note, std::int16_t kanal);
+  void MidiNoteOn(std::int16_t note, std::int16_t kanal, std::int16_t velocity);
   void MidiNoteOff(std::int16_t note, std::int16_t kanal);
   /// Sends the note-off after (200 - ms) milliseconds.
   Sequence MidiNoteOffSpaeter(std::int16_t note, double ms, std::int16_t kanal, Waits& waits);

@@ -46,8 +46,11 @@ class FlowBed {
     open();
   }
   /// With texts of its own, closed until `open()`.
-  FlowBed(FakeHost& host, LanguageLibraries texts)
-      : factory(host.factory()), chance(1), language(std::move(texts)) {}
+  FlowBed(FakeHost& host, LanguageLibraries texts, std::filesystem::path data = {})
+      : program_data(std::move(data)),
+        factory(host.factory()),
+        chance(1),
+        language(std::move(texts)) {}
   void open() {
     module.open();
     scheduler.advance_ms(10);
@@ -168,6 +171,7 @@ class FlowBed {
   FakeDocumentWriter documents;
   DocumentWriter& writer = documents;
   ProtocolFolders folders{"/protocols", "/data"};
+  std::filesystem::path program_data;
   Server::HostFactory factory;
   VirtualScheduler scheduler;
   StandingClock clock;
@@ -197,6 +201,7 @@ class FlowBed {
             .printer = printer,
             .create_host = factory,
             .folders = folders,
+            .program_data = program_data,
             .application = {"vemo06", "Tonarix 2000"},
             .computer_user = "ada (desk)",
             .screen_width = 1280,

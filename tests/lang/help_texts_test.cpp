@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include "base/module_texts.h"
 #include "base/rtf.h"
 #include "host/local/catalogue_folder.h"
 #include "support/key_texts.h"
@@ -34,7 +35,7 @@ TEST(HelpTexts, AreThereInEachLanguageAndCallTheButtonsAsTheyAreCalled) {
     for (const char* part : {"<h3>", "<p>", "<ul><li>", "<b>", "<i>", "3"}) {
       EXPECT_THAT(html, HasSubstr(part)) << row.name;
     }
-    for (const TextKey button : {432_text, 629_text, 370_text, 640_text, 129_text}) {
+    for (const TextKey button : {text::tone_is_formed, 629_text, 370_text, 640_text, 129_text}) {
       const std::string caption = language.Wort(button);
       EXPECT_TRUE(html.find("“" + caption + "”") != html.npos ||
                   html.find("„" + caption + "“") != html.npos)

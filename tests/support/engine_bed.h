@@ -28,7 +28,7 @@ struct EngineBed : HostBed {
     ExerciseContext context{
         common, server, errors,     clock, chance,   midi, midi_event,  settings,   saved_training,
         key,    row,    statistics, best,  protocol, kept, interrupted, tone_names, interval_names,
-        {},     {},     {}};
+        {},     {},     {},         {}};
     context.caller = {[] {}, [] {}, [] {}};
     context.open_result = [this](const WorkDone& told, const std::function<void()>& closed) {
       work = told;

@@ -46,8 +46,8 @@ QWidget* Presenter::newest_visible() const {
 }
 
 void Presenter::opened(Window& window) {
-  std::unique_ptr<WindowView>& view = views_[&window];
-  view = factories_.at(window.name())(window);
+  const Factory& make = factories_.at(window.name());
+  std::unique_ptr<WindowView>& view = views_.emplace(&window, make(window)).first->second;
   view->on_visibility = [this] { views_changed(); };
   for (int i = windows_.count() - 1; i >= 0; --i) {
     const WindowView* before = view_of(*windows_.at(i));

@@ -170,6 +170,10 @@ void ExerciseView::build_counters(Card& card) {
   card.body().addLayout(grid);
 }
 
+void ExerciseView::answer_action(const Control& control, Bindings::Handler pressed) {
+  answer_button_ = action(control, std::move(pressed));
+}
+
 void ExerciseView::build_actions(const Control* frame) {
   auto* line = action_line_ = new ActionLine(this);
   if (frame) bindings().bind(*line, *frame, {});
@@ -182,6 +186,7 @@ void ExerciseView::build_actions(const Control* frame) {
     repeats->add(*action(sounding_->wieder2, [this] { sounding_->wieder2_click(); }));
     line->add_left(*repeats);
   }
+  if (answer_button_) line->add_right(*answer_button_);
   auto* next = new Place(line);
   next->add(*action(window_.CmdNextAufg, [this] { window_.CmdNextAufg_click(); }));
   next->add(*label(window_.LbNextAufg, TextRole::plain), Qt::AlignRight | Qt::AlignVCenter);

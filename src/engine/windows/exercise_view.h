@@ -41,6 +41,10 @@ class ExerciseView : public WindowView {
   void build_row(const Control& title, const Control* lead, const PlaceControls& places);
   /// Standing and counters.
   void build_standing();
+  /// A button that Return presses while it is the logic's default.
+  Button* action(const Control& control, Bindings::Handler pressed);
+  /// A button that gives the answer, before the way on in the line of actions.
+  void answer_action(const Control& control, Bindings::Handler pressed);
   /// The line of actions, in the frame of the logic where it has one.
   void build_actions(const Control* frame);
 
@@ -72,7 +76,6 @@ class ExerciseView : public WindowView {
     Button* button;
     const Control* control;
   };
-  Button* action(const Control& control, Bindings::Handler pressed);
   Button* button_of(const Control* control) const;
   bool press_answer(int key);
   bool press_letter(const QString& text);
@@ -90,6 +93,7 @@ class ExerciseView : public WindowView {
   AnswerRow* row_ = nullptr;
   const PlaceControls* places_ = nullptr;
   ActionLine* action_line_ = nullptr;
+  Button* answer_button_ = nullptr;
   Label* explained_ = nullptr;
   Place* messages_ = nullptr;
   Label* clock_ = nullptr;

@@ -3,20 +3,9 @@
 #include "base/arithmetic.h"
 #include "base/filled_text.h"
 #include "base/module_texts.h"
+#include "settings/setting_pairs.h"
 
 namespace tonarix {
-
-namespace {
-
-/// Value behind a label of the chosen settings, empty when the settings window did not list it.
-std::string setting(const std::vector<std::string>& pairs, std::string_view label) {
-  for (std::size_t i = 1; i + 1 < pairs.size(); i += 2) {
-    if (pairs[i] == label) return pairs[i + 1];
-  }
-  return {};
-}
-
-}  // namespace
 
 Arbeitsblatt1::Arbeitsblatt1(const ExerciseContext& given)
     : SoundingWindow("arbeitsblatt1", given, this),
@@ -34,12 +23,9 @@ void Arbeitsblatt1::prepare() {
   row_title.text = word(text::tone_row);
   situation.text = word(556_text) + word(700_text) + word(297_text);
   show_scale();
-  std::string line = situation.text;
-  for (const char* label : {"Tongeschlecht", "Stimmung", "Tempo"}) {
-    const std::string value = setting(context().settings.EinstDatSave, label);
-    if (!value.empty()) line += " · " + value;
-  }
-  settings_line.text = line;
+  settings_line.text =
+      situation.text + " · " +
+      joined_values(context().settings.EinstDatSave, {"Tongeschlecht", "Stimmung", "Tempo"});
 }
 
 void Arbeitsblatt1::show_scale() {

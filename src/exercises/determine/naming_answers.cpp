@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "base/arithmetic.h"
-#include "base/filled_text.h"
 #include "base/module_texts.h"
 #include "engine/answer_rules.h"
+#include "engine/answer_words.h"
 #include "music/degrees.h"
 #include "settings/offered_intervals.h"
 
@@ -120,9 +120,8 @@ std::string NamingAnswers::wrong_answer(std::int16_t code) {
   field.fore = red_on_black ? signal::wrong : signal::black;
   field.back = red_on_black ? signal::black : signal::wrong;
   field.text = Wort(232_text);
-  const int left = answers_.book.tries_left(place);
   const std::string still =
-      left == 1 ? Wort(text::one_try_left) : filled(Wort(text::tries_left), {std::to_string(left)});
+      tries_left_words(answers_.book.tries_left(place), context_.common.texts);
   field.accessible_name = nriv[place].text + ": " + Wort(text::spoken_wrong) + ", " + still;
   gesperrt_.at(static_cast<std::size_t>(code)) = true;
   open_names(true);

@@ -8,7 +8,9 @@
 
 #include "base/windows/presenter.h"
 #include "config/windows/einstellung1_view.h"
+#include "config/windows/einstellung2_view.h"
 #include "config/windows/selection_view.h"
+#include "exercises/build/windows/arbeitsblatt2_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
 #include "flow/flow_bed.h"
 #include "results/windows/result_view.h"
@@ -29,6 +31,8 @@ struct StormTest : testing::Test {
     presenter->add<SelectionWindow, SelectionView>("grd_einst", bed->language);
     presenter->add<Einstellung1, Einstellung1View>("einstellung1", bed->language);
     presenter->add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", bed->language);
+    presenter->add<Einstellung2, Einstellung2View>("einstellung2", bed->language);
+    presenter->add<Arbeitsblatt2, Arbeitsblatt2View>("arbeitsblatt2", bed->language);
     presenter->add<ResultWindow, ResultView>("testergebnis", bed->language);
     bed->open();
     come_up(bed->scheduler);
@@ -127,7 +131,7 @@ TEST_F(StormTest, RandomInputEndsInNothingButOneOpenWindow) {
   const auto listen = [&] {
     bed->windows.on_opened = [&, earlier = bed->windows.on_opened](Window& window) {
       earlier(window);
-      exercises += window.name() == "arbeitsblatt1";
+      exercises += window.name().starts_with("arbeitsblatt");
     };
   };
   listen();
@@ -173,6 +177,8 @@ TEST_F(StormTest, RandomInputEndsInNothingButOneOpenWindow) {
     written += bed->documents.written.size();
     bed->ended = false;
     for (const Message& told : bed->dialogs.shown) {
+      // The pure tuning has no tones to form, and the exercise ends with that.
+      if (told.text.find("arbeitsblatt2 mat_wahl.") != std::string::npos) continue;
       ASSERT_EQ(told.text.find(bed->language.Wort(720_text)), std::string::npos) << told.text;
     }
     start();

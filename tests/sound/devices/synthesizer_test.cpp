@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kRate = Synthesizer::kSampleRate;
 constexpr std::uint8_t kFlute = 73;
+constexpr std::uint8_t kClarinet = 71;
 constexpr std::uint8_t kAccordion = 21;  // of the steadiest pitch
 
 using Sound = std::vector<float>;  // frames of left and right
@@ -47,6 +48,32 @@ double cents_above_440(const Sound& sound) {
     turned += std::arg(phase_at(at + kHop) / phase_at(at));
   }
   return 1200 * std::log2(1 + turned / kTurn * kRate / static_cast<double>(at) / 440.0);
+}
+
+/// Frames of one turn of a tone of 392 to 494 Hz, by how well the left channel repeats itself.
+double period(const Sound& sound) {
+  constexpr int kShortest = 90, kLongest = 130;
+  const auto likeness = [&](int lag) {
+    double sum = 0;
+    for (std::size_t i = 0; i + 2 * kLongest < sound.size(); i += 2) {
+      sum += sound[i] * sound[i + 2 * static_cast<std::size_t>(lag)];
+    }
+    return sum;
+  };
+  int best = kShortest;
+  for (int lag = kShortest; lag < kLongest; ++lag) {
+    if (likeness(lag) > likeness(best)) best = lag;
+  }
+  const double before = likeness(best - 1), at = likeness(best), after = likeness(best + 1);
+  return best + (before - after) / (2 * (before - 2 * at + after));
+}
+
+double greatest_jump(const Sound& sound) {
+  double jump = 0;
+  for (std::size_t i = 2; i < sound.size(); ++i) {
+    jump = std::max<double>(jump, std::abs(sound[i] - sound[i - 2]));
+  }
+  return jump;
 }
 
 struct SynthesizerTest : testing::Test {
@@ -81,6 +108,33 @@ TEST_F(SynthesizerTest, ABendStepIsAnEvenThirtySecondOfASemitone) {
     port.send({0x92, 69, 100});
     EXPECT_NEAR(cents_above_440(settled()), (bend - 64) * 3.125, 1.5) << bend;
   }
+}
+
+// A tone that is formed by hand: from one end of the slider to the other in a second.
+TEST_F(SynthesizerTest, ATonesPitchFollowsItsBendsWithoutAClick) {
+  SynthPort port(synthesizer, scheduler);
+  port.send({0xC4, kClarinet, 0});
+  port.send({0xE4, 0, 127});
+  port.send({0x94, 69, 100});
+  const double own_jump = greatest_jump(settled());
+  port.send({0xE4, 0, 1});
+  render_ms(100);
+  Sound slide;
+  for (std::uint8_t bend = 1; bend <= 127; ++bend) {
+    port.send({0xE4, 0, bend});
+    const Sound step = render_ms(8);
+    slide.insert(slide.end(), step.begin(), step.end());
+  }
+  EXPECT_LE(greatest_jump(slide), own_jump);
+  constexpr std::size_t kWindow = 2 * kRate / 25;
+  double before = 1000;
+  for (std::size_t at = 0; at + kWindow <= slide.size(); at += kWindow) {
+    const auto from = slide.begin() + static_cast<std::ptrdiff_t>(at);
+    const double now = period(Sound(from, from + kWindow));
+    EXPECT_LT(now, before);
+    before = now;
+  }
+  EXPECT_NEAR(1200 * std::log2(kRate / before / 440), 190, 15);
 }
 
 TEST_F(SynthesizerTest, StoppingOrClosingSilencesAtOnceAndOpeningCentresTheBends) {
