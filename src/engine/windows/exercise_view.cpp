@@ -239,6 +239,11 @@ void ExerciseView::applied() {
       tries = to_qstring(places_->tries[i].text).toInt();
     }
     row_->show_state(fields, current, tries);
+    const bool sounds = window_.phase() == Phase::sounding;
+    if (sounds && !sounds_ && current >= 0) {
+      bring_into_view(*row_->fields[static_cast<std::size_t>(current)]);
+    }
+    sounds_ = sounds;
   }
   if (column_) {
     training_card_->setVisible(is_training(window_.level()));

@@ -97,6 +97,8 @@ class ExerciseView : public WindowView {
   Card* test_card_ = nullptr;
   std::vector<AnswerGrid*> grids_;
   std::vector<ActionButton> action_buttons_;
+  bool sounds_ = false;             ///< the row of a task was sounding when last looked at
+  std::optional<Phase> tabbed_in_;  ///< the phase that stands, where Tab was used in it
 };
 
 }  // namespace tonarix

@@ -344,5 +344,17 @@ TEST_F(BindingsTest, APressMeantForABoxThatHasGoneIsNoAnswerBelowIt) {
   EXPECT_EQ(window->told, "go ");
 }
 
+TEST_F(BindingsTest, ABoxWithALongTextFitsTheScreenAndCanBeAnswered) {
+  QtDialogs boxes(scheduler, texts, presenter);
+  std::string text;
+  for (int line = 0; line < 200; ++line) text += "Folder: /home/ada/protocols\n";
+  boxes.show({"Warning", text, MessageStyle::warning, "", ""}, [](Reply) {});
+  QApplication::processEvents();
+  const QDialog& box = *boxes.current();
+  const auto* ok = box.findChild<QPushButton*>("ok");
+  EXPECT_TRUE(box.screen()->availableGeometry().contains(box.geometry()));
+  EXPECT_TRUE(box.rect().contains(QRect(ok->mapTo(&box, QPoint()), ok->size())));
+}
+
 }  // namespace
 }  // namespace tonarix

@@ -59,7 +59,7 @@ TEST_P(FirstWindowsTest, TheSettingsFollowTheirWindowAndBack) {
   EXPECT_TRUE(bed.windows.count() == 1 && view(0).isVisible());
 }
 
-TEST_P(FirstWindowsTest, TheSettingsFitASmallScreen) {
+TEST_P(FirstWindowsTest, BothWindowsFitASmallScreen) {
   const auto* area = view(1).findChild<QScrollArea*>();
   auto& window = static_cast<Einstellung1&>(*bed.windows.at(1));
   window.choose(window.training_Combo, 4);  // the marks of what is locked need room too
@@ -69,6 +69,11 @@ TEST_P(FirstWindowsTest, TheSettingsFitASmallScreen) {
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->verticalScrollBar()->maximum() > 0, size.width() == 512);
   }
+  window.click(window.cmdZurueck);
+  settle();
+  view(0).resize(508, 264);
+  settle();
+  EXPECT_EQ(view(0).findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_P(FirstWindowsTest, EveryControlOnTheWayOfTheTabKeyHasAName) {

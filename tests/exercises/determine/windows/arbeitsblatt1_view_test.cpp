@@ -194,6 +194,12 @@ TEST_F(Arbeitsblatt1ViewTest, AnswersKeepTheirPlacesAllFitAndNarrowWindowsScroll
     }
   }
   EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+  view->resize(508, 264);
+  bed.hear_row();
+  child("wieder").click();
+  for (int time = 0; time < 2; ++time) QApplication::processEvents();
+  const QRect shown(field(0).mapTo(area->viewport(), QPoint()), field(0).size());
+  EXPECT_TRUE(area->viewport()->rect().contains(shown)) << "a new row is in sight";
 }
 
 /// "C Db D= Eb" for the notes c, d flat, d natural, e flat.
