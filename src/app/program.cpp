@@ -90,7 +90,7 @@ Program::Program(const Options& options)
       language_(catalogue_folder(catalogue_place())),
       presenter_(windows_),
       dialogs_(scheduler_, language_, presenter_),
-      printer_(language_, [this] { return presenter_.newest_visible(); }),
+      printer_(scheduler_, language_, presenter_),
       kept_(data_),
       devices_(scheduler_,
                [this](Scheduler::Task task) { scheduler_.post_from_thread(std::move(task)); }),

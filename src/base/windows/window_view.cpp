@@ -97,9 +97,7 @@ void WindowView::detach() {
 }
 
 void WindowView::uncovered() {
-  if (!logic_) return;
-  logic_->guard.shown();
-  logic_->guard.seen(logic_->now());
+  if (logic_) logic_->guard.uncovered(logic_->now());
 }
 
 QSize WindowView::sizeHint() const {
