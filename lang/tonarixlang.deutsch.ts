@@ -1150,6 +1150,11 @@ Vorzeichen!</translation>
         <extracomment>First window: end of its title, behind 'Exercise type: '</extracomment>
         <translation>tonale Intervalle sukzessiv</translation>
     </message>
+    <message id="1004s">
+        <source>de</source>
+        <extracomment>The language's code, by which the toolkit's own dialogs find theirs: 'de', 'pt_BR'</extracomment>
+        <translation>de</translation>
+    </message>
     <message id="1010s">
         <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
         <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
@@ -1944,31 +1949,6 @@ Vorzeichen!</translation>
         <source>Aufgaben</source>
         <extracomment>Result sheet: behind a number of tasks, 0 or more than 1</extracomment>
         <translation>Aufgaben</translation>
-    </message>
-    <message id="1240s">
-        <source>Speichern in:</source>
-        <extracomment>Dialog for a PDF file: before the folder</extracomment>
-        <translation>Speichern in:</translation>
-    </message>
-    <message id="1241s">
-        <source>Dateiname:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>Dateiname:</translation>
-    </message>
-    <message id="1242s">
-        <source>Dateityp:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>Dateityp:</translation>
-    </message>
-    <message id="1243s">
-        <source>Speichern</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Speichern</translation>
-    </message>
-    <message id="1244s">
-        <source>Abbrechen</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Abbrechen</translation>
     </message>
     <message id="1245s">
         <source>Aufgabe</source>

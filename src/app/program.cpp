@@ -97,6 +97,9 @@ Program::Program(const Options& options)
       host_(host_options(options), clock_),
       module_(outside()) {
   install_accessibility();
+  language_.on_chosen = [this] {
+    toolkit_texts_.speak(to_qstring(language_.Wort(text::toolkit_language)));
+  };
   presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
   presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);

@@ -100,14 +100,9 @@ void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   auto* dialog = new QFileDialog(presenter_.newest_visible(), word(text::save_as_pdf), folder,
                                  word(text::pdf_files) + QStringLiteral(" (*.pdf)"));
-  // The desktop's own could not be guarded.
+  // The desktop's own speaks the desktop's language.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setLabelText(QFileDialog::LookIn, word(text::file_folder));
-  dialog->setLabelText(QFileDialog::FileName, word(text::file_name));
-  dialog->setLabelText(QFileDialog::FileType, word(text::file_type));
-  dialog->setLabelText(QFileDialog::Accept, word(text::file_save));
-  dialog->setLabelText(QFileDialog::Reject, word(text::file_cancel));
   dialog->setDefaultSuffix(QStringLiteral("pdf"));
   dialog->selectFile(word(text::sheet_name) + QStringLiteral(".pdf"));
   open(*dialog, [this, dialog, picture, done = std::move(done)](int answer) {

@@ -4,7 +4,9 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "base/module_texts.h"
 #include "base/windows/presenter.h"
+#include "base/windows/toolkit_texts.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/selection_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
@@ -106,6 +108,15 @@ TEST_P(FirstWindowsTest, TheQuestionNamesTheToneThatIsAsked) {
     presenter.add<ResultWindow, ResultView>("testergebnis", bed.language);
     bed.leave(window);
   }
+}
+
+TEST_P(FirstWindowsTest, TheToolkitsOwnDialogsSpeakTheLanguage) {
+  ToolkitTexts texts;
+  texts.speak(to_qstring(bed.language.Wort(text::toolkit_language)));
+  const auto caption = [] { return QCoreApplication::translate("QFileDialog", "Look in:"); };
+  EXPECT_EQ(caption(), std::string(GetParam()) == "Deutsch" ? "Suchen in:" : "Look in:");
+  texts.speak("VOID");
+  EXPECT_EQ(caption(), "Look in:");
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, FirstWindowsTest, testing::Values("Deutsch", "English"));
