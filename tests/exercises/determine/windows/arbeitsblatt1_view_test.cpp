@@ -104,13 +104,37 @@ TEST_F(Arbeitsblatt1ViewTest, TheWayOnIsReturnAndNothingIsLeftByAccident) {
   const Button &repeat = child("wieder2"), &next = child("CmdNextAufg");
   EXPECT_TRUE(repeat.primary());
   const QRect place = repeat.parentWidget()->geometry();
+  child("wieder2").setFocus();
   stroke(Qt::Key_Return);
   bed.hear_row();
   EXPECT_TRUE(next.isVisible() && next.primary() && !repeat.primary());
+  EXPECT_EQ(view->focusWidget(), &repeat);
   stroke(Qt::Key_Return);
-  EXPECT_EQ(FlowBed::asked(*window), 0);
+  EXPECT_EQ(FlowBed::asked(*window), 0) << "the focus is left from the step before";
   QApplication::processEvents();
   EXPECT_EQ(repeat.parentWidget()->geometry(), place) << "the actions don't move either";
+}
+
+TEST_F(Arbeitsblatt1ViewTest, ReturnTakesAWaitingTaskBackOnlyWhereTabHasJustLedToIt) {
+  settings.click(settings.abfrage[1]);
+  open();
+  bed.hear_row();
+  bed.answer_row(*window);
+  child("wieder2").setFocus();
+  for (const bool by_tab : {false, true}) {
+    window->wieder2_click();
+    bed.hear_row();
+    ASSERT_TRUE(window->LbNextAufg.visible);
+    QWidget* focus = &child("wieder2");
+    do {
+      if (!by_tab) break;
+      QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+      QApplication::sendEvent(focus, &tab);
+      focus = view->focusWidget();
+    } while (focus != &child("wieder2"));
+    stroke(Qt::Key_Return);
+    EXPECT_EQ(window->phase(), by_tab ? Phase::control_sounding : Phase::next_offered);
+  }
 }
 
 TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButNeverTheWayOutOfATest) {
