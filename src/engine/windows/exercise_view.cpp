@@ -96,6 +96,7 @@ void ExerciseView::build_standing() {
   halves_->addWidget(column_box_);
 
   training_card_ = card(nullptr, nullptr);
+  training_card_->setAccessibleName(word(text::training_status));
   build_training(*training_card_);
   test_card_ = card(nullptr, nullptr);
   build_test(*test_card_);

@@ -158,7 +158,7 @@ TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButNeverTheWayOut
   EXPECT_FALSE(bed.dialogs.open()) << "too soon after Escape";
 }
 
-TEST_F(Arbeitsblatt1ViewTest, TheBarOfATrainingHasANumberButAtItsSolvedEnd) {
+TEST_F(Arbeitsblatt1ViewTest, EachGroupHasANameAndTheBarOfATrainingANumberButAtItsSolvedEnd) {
   settings.choose(settings.training_Combo, 1);
   open();
   for (const bool solved : {false, true}) {
@@ -166,6 +166,10 @@ TEST_F(Arbeitsblatt1ViewTest, TheBarOfATrainingHasANumberButAtItsSolvedEnd) {
     apply();
     EXPECT_EQ(child<QWidget>("matboxanz_15").accessibleName(),
               solved ? "[1100s]" : "[1100s] [1132s]");
+  }
+  for (QFrame* frame : view->findChildren<QFrame*>()) {
+    auto* group = dynamic_cast<Card*>(frame);
+    EXPECT_TRUE(!group || group->isHidden() || !spoken_name(*group).isEmpty());
   }
 }
 
