@@ -735,7 +735,7 @@
     </message>
     <message id="508s">
         <source>auf Stufe</source>
-        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
+        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once</extracomment>
         <translation>auf Stufe</translation>
     </message>
     <message id="544s">
@@ -1150,10 +1150,15 @@ Vorzeichen!</translation>
         <extracomment>First window: end of its title, behind 'Exercise type: '</extracomment>
         <translation>tonale Intervalle sukzessiv</translation>
     </message>
+    <message id="1004s">
+        <source>de</source>
+        <extracomment>The language's code, by which the toolkit's own dialogs find theirs: 'de', 'pt_BR'</extracomment>
+        <translation>de</translation>
+    </message>
     <message id="1010s">
-        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
+        <source>In den Ordner Ihrer Trainings kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Ordner:</source>
         <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
-        <translation>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</translation>
+        <translation>In den Ordner Ihrer Trainings kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Ordner:</translation>
     </message>
     <message id="1011s">
         <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
@@ -1470,9 +1475,9 @@ Vorzeichen!</translation>
         <translation>Lautstärke</translation>
     </message>
     <message id="1085s">
-        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
+        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung, oder starten Sie das Programm mit --midi N, der Nummer eines anderen Geräts.</source>
         <extracomment>Settings: message; how it goes on may follow on a line of its own</extracomment>
-        <translation>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</translation>
+        <translation>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung, oder starten Sie das Programm mit --midi N, der Nummer eines anderen Geräts.</translation>
     </message>
     <message id="1086s">
         <source>Oktavbereich</source>
@@ -1490,14 +1495,14 @@ Vorzeichen!</translation>
         <translation>Stimme</translation>
     </message>
     <message id="1089s">
-        <source>Nummer der Prüfung</source>
+        <source>Prüfung Nr.</source>
         <extracomment>Settings: name of a list for a screen reader</extracomment>
-        <translation>Nummer der Prüfung</translation>
+        <translation>Prüfung Nr.</translation>
     </message>
     <message id="1090s">
-        <source>Stufe von Ton 2</source>
+        <source>Ton 2 auf Stufe</source>
         <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
-        <translation>Stufe von Ton 2</translation>
+        <translation>Ton 2 auf Stufe</translation>
     </message>
     <message id="1091s">
         <source>Richtung der Transposition</source>
@@ -1568,8 +1573,8 @@ Vorzeichen!</translation>
         <translation>Welches Intervall folgt auf Ton %1?</translation>
     </message>
     <message id="1112s">
-        <source>Das Protokoll konnte nicht geschrieben werden nach</source>
-        <translation>Das Protokoll konnte nicht geschrieben werden nach</translation>
+        <source>Das Protokoll konnte hier nicht geschrieben werden:</source>
+        <translation>Das Protokoll konnte hier nicht geschrieben werden:</translation>
     </message>
     <message id="1113s">
         <source>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</source>
@@ -1588,8 +1593,8 @@ Vorzeichen!</translation>
         <translation>Grundton-Kontrollen</translation>
     </message>
     <message id="1117s">
-        <source>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
-        <translation>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</translation>
+        <source>Alle Aufgaben sind beantwortet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>Alle Aufgaben sind beantwortet. Mit „weiter“ geht es zum Ergebnis.</translation>
     </message>
     <message id="1118s">
         <source>Teststand einblenden</source>
@@ -1682,9 +1687,9 @@ Vorzeichen!</translation>
         <translation>Das bereits gespeicherte Training dieser Übung wird dabei ersetzt.</translation>
     </message>
     <message id="1139s">
-        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; es würde ersetzt.</source>
+        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; ein vorhandenes würde ersetzt.</source>
         <extracomment>behind the question whether to save the training, while the store does not answer</extracomment>
-        <translation>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; es würde ersetzt.</translation>
+        <translation>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; ein vorhandenes würde ersetzt.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>
@@ -1735,16 +1740,16 @@ Vorzeichen!</translation>
         <translation>Intervall von Ton zu Ton</translation>
     </message>
     <message id="1152s">
-        <source>z.B. c – moll</source>
-        <translation>z.B. c – moll</translation>
+        <source>z.B. c - moll</source>
+        <translation>z.B. c - moll</translation>
     </message>
     <message id="1153s">
-        <source>z.B. C – Dur</source>
-        <translation>z.B. C – Dur</translation>
+        <source>z.B. C - Dur</source>
+        <translation>z.B. C - Dur</translation>
     </message>
     <message id="1154s">
-        <source>z.B. C – Dur-moll</source>
-        <translation>z.B. C – Dur-moll</translation>
+        <source>z.B. C - Dur-moll</source>
+        <translation>z.B. C - Dur-moll</translation>
     </message>
     <message id="1155s">
         <source>Int:</source>
@@ -1771,8 +1776,8 @@ Vorzeichen!</translation>
         <translation>Die Prüfung läuft noch, die Zeit geht weiter. Soll sie abgebrochen werden?</translation>
     </message>
     <message id="1161s">
-        <source>Übung abbrechen</source>
-        <translation>Übung abbrechen</translation>
+        <source>Ja, abbrechen</source>
+        <translation>Ja, abbrechen</translation>
     </message>
     <message id="1162s">
         <source>Weitermachen</source>
@@ -1933,9 +1938,9 @@ Vorzeichen!</translation>
         <translation>Genauigkeit</translation>
     </message>
     <message id="1232s">
-        <source>Stufen von Ton 2</source>
+        <source>Ton 2 auf Stufen</source>
         <extracomment>Result sheet: label of a setting</extracomment>
-        <translation>Stufen von Ton 2</translation>
+        <translation>Ton 2 auf Stufen</translation>
     </message>
     <message id="1234s">
         <source>zusätzlich</source>
@@ -1966,31 +1971,6 @@ Vorzeichen!</translation>
         <source>Aufgaben</source>
         <extracomment>Result sheet: behind a number of tasks, 0 or more than 1</extracomment>
         <translation>Aufgaben</translation>
-    </message>
-    <message id="1240s">
-        <source>Speichern in:</source>
-        <extracomment>Dialog for a PDF file: before the folder</extracomment>
-        <translation>Speichern in:</translation>
-    </message>
-    <message id="1241s">
-        <source>Dateiname:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>Dateiname:</translation>
-    </message>
-    <message id="1242s">
-        <source>Dateityp:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>Dateityp:</translation>
-    </message>
-    <message id="1243s">
-        <source>Speichern</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Speichern</translation>
-    </message>
-    <message id="1244s">
-        <source>Abbrechen</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Abbrechen</translation>
     </message>
     <message id="1245s">
         <source>Aufgabe</source>
@@ -2078,8 +2058,8 @@ Vorzeichen!</translation>
         <translation>die Reihe in Noten schreiben</translation>
     </message>
     <message id="1280s">
-        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>
-        <translation>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</translation>
+        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an, oder starten Sie das Programm mit --midi N, der Nummer eines MIDI-Geräts.</source>
+        <translation>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an, oder starten Sie das Programm mit --midi N, der Nummer eines MIDI-Geräts.</translation>
     </message>
     <message id="1281s">
         <source>Die Klangbibliothek (SoundFont) fehlt. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“.</source>
@@ -2102,8 +2082,8 @@ Vorzeichen!</translation>
         <translation>Eine Tonreihe erklingt. Benennen Sie die Intervalle der Reihe nach mit den Schaltflächen oder den Tasten, die darauf stehen. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons. Ist die Reihe fertig, hören Sie sie zur Kontrolle, dann geht es weiter; in Test und Prüfung geht es gleich weiter. „zurück“ beendet die Übung und zeigt das Ergebnis; in Test und Prüfung wird vorher gefragt.</translation>
     </message>
     <message id="1286s">
-        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
-        <translation>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
+        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben. Wurde gewertet, zeigt es für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %); freies Üben wird nicht gewertet. „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben. Wurde gewertet, zeigt es für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %); freies Üben wird nicht gewertet. „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</translation>
     </message>
     <message id="1290s">
         <source>nachbilden</source>

@@ -735,8 +735,8 @@
     </message>
     <message id="508s">
         <source>auf Stufe</source>
-        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once, so a language that needs a blank ends with one</extracomment>
-        <translation>degree </translation>
+        <extracomment>Settings: group title 'Tone 2: on degree(n)'; short, a mark stands beside it; '(n)' follows at once</extracomment>
+        <translation>on degree</translation>
     </message>
     <message id="544s">
         <source>Die tatsächliche Tonhöhe</source>
@@ -1150,10 +1150,15 @@ in any order.</translation>
         <extracomment>First window: end of its title, behind 'Exercise type: '</extracomment>
         <translation>tonal intervals in succession</translation>
     </message>
+    <message id="1004s">
+        <source>de</source>
+        <extracomment>The language's code, by which the toolkit's own dialogs find theirs: 'de', 'pt_BR'</extracomment>
+        <translation>en</translation>
+    </message>
     <message id="1010s">
-        <source>In diesen Ordner kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren:</source>
+        <source>In den Ordner Ihrer Trainings kann nicht geschrieben werden. Sie können üben, aber gespeicherte Trainings gehen mit dem Programmende verloren. Ordner:</source>
         <extracomment>Message at the start; the folder and the reason follow on lines of their own</extracomment>
-        <translation>This folder cannot be written to. You can practise, but saved trainings will be lost when the program ends:</translation>
+        <translation>The folder of your trainings cannot be written to. You can practise, but saved trainings will be lost when the program ends. Folder:</translation>
     </message>
     <message id="1011s">
         <source>Die Datei mit den gespeicherten Trainings ist beschädigt. Eine neue wurde angelegt; die beschädigte bleibt hier erhalten:</source>
@@ -1470,9 +1475,9 @@ in any order.</translation>
         <translation>Volume</translation>
     </message>
     <message id="1085s">
-        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung oder wählen Sie ein anderes Gerät.</source>
+        <source>Das MIDI-Gerät lässt sich nicht verwenden. Prüfen Sie die Verbindung, oder starten Sie das Programm mit --midi N, der Nummer eines anderen Geräts.</source>
         <extracomment>Settings: message; how it goes on may follow on a line of its own</extracomment>
-        <translation>The MIDI device cannot be used. Check the connection or choose another device.</translation>
+        <translation>The MIDI device cannot be used. Check the connection, or start the program with --midi N, the number of another device.</translation>
     </message>
     <message id="1086s">
         <source>Oktavbereich</source>
@@ -1490,14 +1495,14 @@ in any order.</translation>
         <translation>Voice</translation>
     </message>
     <message id="1089s">
-        <source>Nummer der Prüfung</source>
+        <source>Prüfung Nr.</source>
         <extracomment>Settings: name of a list for a screen reader</extracomment>
-        <translation>Exam number</translation>
+        <translation>Exam no.</translation>
     </message>
     <message id="1090s">
-        <source>Stufe von Ton 2</source>
+        <source>Ton 2 auf Stufe</source>
         <extracomment>Settings: name of a list for a screen reader; result sheet: label</extracomment>
-        <translation>Degree of tone 2</translation>
+        <translation>Tone 2 on degree</translation>
     </message>
     <message id="1091s">
         <source>Richtung der Transposition</source>
@@ -1568,8 +1573,8 @@ in any order.</translation>
         <translation>Which interval follows tone %1?</translation>
     </message>
     <message id="1112s">
-        <source>Das Protokoll konnte nicht geschrieben werden nach</source>
-        <translation>The protocol could not be written to</translation>
+        <source>Das Protokoll konnte hier nicht geschrieben werden:</source>
+        <translation>The protocol could not be written here:</translation>
     </message>
     <message id="1113s">
         <source>Das Protokoll konnte nicht geschrieben werden. Soll es noch einmal versucht werden?</source>
@@ -1588,8 +1593,8 @@ in any order.</translation>
         <translation>Keynote checks</translation>
     </message>
     <message id="1117s">
-        <source>Der Test ist beendet. Mit „weiter“ geht es zum Ergebnis.</source>
-        <translation>The test is finished. Continue to see the result.</translation>
+        <source>Alle Aufgaben sind beantwortet. Mit „weiter“ geht es zum Ergebnis.</source>
+        <translation>All tasks are answered. Continue to see the result.</translation>
     </message>
     <message id="1118s">
         <source>Teststand einblenden</source>
@@ -1682,9 +1687,9 @@ in any order.</translation>
         <translation>The training already saved for this exercise will be replaced.</translation>
     </message>
     <message id="1139s">
-        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; es würde ersetzt.</source>
+        <source>Ob für diese Übung schon ein Training gespeichert ist, lässt sich im Moment nicht feststellen; ein vorhandenes würde ersetzt.</source>
         <extracomment>behind the question whether to save the training, while the store does not answer</extracomment>
-        <translation>Whether a training is already saved for this exercise cannot be told at the moment; it would be replaced.</translation>
+        <translation>Whether a training is already saved for this exercise cannot be told at the moment; one that is there would be replaced.</translation>
     </message>
     <message id="1140s">
         <source>Hören Sie zu.</source>
@@ -1735,16 +1740,16 @@ in any order.</translation>
         <translation>Interval from tone to tone</translation>
     </message>
     <message id="1152s">
-        <source>z.B. c – moll</source>
+        <source>z.B. c - moll</source>
         <translation>e.g. C minor</translation>
     </message>
     <message id="1153s">
-        <source>z.B. C – Dur</source>
+        <source>z.B. C - Dur</source>
         <translation>e.g. C major</translation>
     </message>
     <message id="1154s">
-        <source>z.B. C – Dur-moll</source>
-        <translation>e.g. C major–minor</translation>
+        <source>z.B. C - Dur-moll</source>
+        <translation>e.g. C major-minor</translation>
     </message>
     <message id="1155s">
         <source>Int:</source>
@@ -1771,8 +1776,8 @@ in any order.</translation>
         <translation>The exam is still running and so is its time. Break it off?</translation>
     </message>
     <message id="1161s">
-        <source>Übung abbrechen</source>
-        <translation>Break off</translation>
+        <source>Ja, abbrechen</source>
+        <translation>Yes, break off</translation>
     </message>
     <message id="1162s">
         <source>Weitermachen</source>
@@ -1933,9 +1938,9 @@ in any order.</translation>
         <translation>Accuracy</translation>
     </message>
     <message id="1232s">
-        <source>Stufen von Ton 2</source>
+        <source>Ton 2 auf Stufen</source>
         <extracomment>Result sheet: label of a setting</extracomment>
-        <translation>Degrees of tone 2</translation>
+        <translation>Tone 2 on degrees</translation>
     </message>
     <message id="1234s">
         <source>zusätzlich</source>
@@ -1966,31 +1971,6 @@ in any order.</translation>
         <source>Aufgaben</source>
         <extracomment>Result sheet: behind a number of tasks, 0 or more than 1</extracomment>
         <translation>tasks</translation>
-    </message>
-    <message id="1240s">
-        <source>Speichern in:</source>
-        <extracomment>Dialog for a PDF file: before the folder</extracomment>
-        <translation>Save in:</translation>
-    </message>
-    <message id="1241s">
-        <source>Dateiname:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>File name:</translation>
-    </message>
-    <message id="1242s">
-        <source>Dateityp:</source>
-        <extracomment>Dialog for a PDF file</extracomment>
-        <translation>File type:</translation>
-    </message>
-    <message id="1243s">
-        <source>Speichern</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Save</translation>
-    </message>
-    <message id="1244s">
-        <source>Abbrechen</source>
-        <extracomment>Dialog for a PDF file: button</extracomment>
-        <translation>Cancel</translation>
     </message>
     <message id="1245s">
         <source>Aufgabe</source>
@@ -2078,8 +2058,8 @@ in any order.</translation>
         <translation>Write the row on the staff</translation>
     </message>
     <message id="1280s">
-        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an oder wählen Sie ein MIDI-Gerät.</source>
-        <translation>This computer has no sound output. The exercise goes on but stays silent. Connect speakers or headphones, or choose a MIDI device.</translation>
+        <source>Auf diesem Rechner ist keine Tonausgabe verfügbar. Die Übung läuft weiter, bleibt aber stumm. Schließen Sie Lautsprecher oder Kopfhörer an, oder starten Sie das Programm mit --midi N, der Nummer eines MIDI-Geräts.</source>
+        <translation>This computer has no sound output. The exercise goes on but stays silent. Connect speakers or headphones, or start the program with --midi N, the number of a MIDI device.</translation>
     </message>
     <message id="1281s">
         <source>Die Klangbibliothek (SoundFont) fehlt. Die Übung läuft weiter, bleibt aber stumm. Installieren Sie das Paket „timgm6mb-soundfont“.</source>
@@ -2102,8 +2082,8 @@ in any order.</translation>
         <translation>A row of tones is played. Name its intervals in turn with the buttons or the keys printed on them. “Repeat” plays the row again, “Keynote check” the chord of the keynote. When the row is done you hear it once more to check, then go on; in a test or exam you go on at once. “Back” ends the exercise and shows the result; in a test or exam you are asked first.</translation>
     </message>
     <message id="1286s">
-        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben, und zeigt für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %). „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
-        <translation>The result sheet tells how many tasks you answered in what time, and shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %). “Print” puts it on a page or into a PDF file.</translation>
+        <source>Das Ergebnisblatt sagt, wie viele Aufgaben Sie in welcher Zeit beantwortet haben. Wurde gewertet, zeigt es für jede Stufe oder jedes Intervall einen Prozentwert in fünf Farben von rot (unter 20 %) bis grün (ab 80 %); freies Üben wird nicht gewertet. „Drucken“ bringt es auf eine Seite oder in eine PDF-Datei.</source>
+        <translation>The result sheet tells how many tasks you answered in what time. Where you were scored it shows a percentage for each degree or interval, in five colours from red (below 20 %) to green (from 80 %); free practice is not scored. “Print” puts it on a page or into a PDF file.</translation>
     </message>
     <message id="1290s">
         <source>nachbilden</source>

@@ -92,13 +92,16 @@ Program::Program(const Options& options)
       language_(catalogue_folder(catalogue_place())),
       presenter_(windows_),
       dialogs_(scheduler_, language_, presenter_),
-      printer_(language_, [this] { return presenter_.newest_visible(); }),
+      printer_(scheduler_, language_, presenter_),
       kept_(data_),
       devices_(scheduler_,
                [this](Scheduler::Task task) { scheduler_.post_from_thread(std::move(task)); }),
       host_(host_options(options), clock_),
       module_(outside()) {
   install_accessibility();
+  language_.on_chosen = [this] {
+    toolkit_texts_.speak(to_qstring(language_.Wort(text::toolkit_language)));
+  };
   presenter_.add<SelectionWindow, SelectionView>("grd_einst", language_);
   presenter_.add<Einstellung1, Einstellung1View>("einstellung1", language_);
   presenter_.add<Einstellung2, Einstellung2View>("einstellung2", language_);

@@ -9,6 +9,7 @@
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
+#include "base/windows/toolkit_texts.h"
 #include "host/local/local_host.h"
 #include "protocol/kept_files.h"
 #include "results/windows/qt_sheet_printer.h"
@@ -54,6 +55,7 @@ class Program {
   SeededChance chance_;
   WindowList windows_;
   Language language_;
+  ToolkitTexts toolkit_texts_;
   Presenter presenter_;
   QtDialogs dialogs_;
   QtSheetPrinter printer_;

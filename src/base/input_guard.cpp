@@ -8,6 +8,11 @@ void InputGuard::seen(Scheduler::Time now) {
   seen_at_ = now;
 }
 
+void InputGuard::uncovered(Scheduler::Time now) {
+  state_ = State::new_window;
+  seen_at_ = now;
+}
+
 bool InputGuard::settled(Scheduler::Time now) {
   if (state_ == State::new_window && now - seen_at_ >= milliseconds(kNewlyShown)) {
     state_ = State::settled;

@@ -16,6 +16,8 @@ class InputGuard {
   void shown() { state_ = State::unseen; }
   /// It has been drawn.
   void seen(Scheduler::Time now);
+  /// What stood before the window has gone: a press meant for that may still come.
+  void uncovered(Scheduler::Time now);
 
   /// Whether input counts at all by now.
   bool settled(Scheduler::Time now);

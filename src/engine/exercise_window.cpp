@@ -154,7 +154,7 @@ void ExerciseWindow::tell_phase() {
 void ExerciseWindow::after_playing(bool heard) {
   if (phase_ == Phase::sounding) {
     if (heard) row_sounded();
-    answers_.open();
+    if (reading_ == 0) answers_.open();
   }
   if (!waits().closed()) enter(after_sounding(phase_));
 }
@@ -273,8 +273,10 @@ void ExerciseWindow::way_out() {
 
 Sequence ExerciseWindow::break_off() {
   bool breaks_off = false;
+  hold_back();
   co_await way_out_.ask_to_break_off(breaks_off);
-  if (breaks_off) co_await leave();
+  if (breaks_off) co_return co_await leave();
+  go_on_after_reading();
 }
 
 Sequence ExerciseWindow::leave() {

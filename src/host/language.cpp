@@ -17,15 +17,16 @@ void Language::SprachInit() {
 
 void Language::SprachWahl(const std::string& name) {
   SprachObjekt_.reset();
-  if (!SprachListeDa_) return;
   const auto row = std::find_if(rows_.begin(), rows_.end(),
                                 [&](const LanguageRow& known) { return known.name == name; });
-  if (row == rows_.end()) return;
   try {
-    SprachObjekt_ = libraries_.create_language("tonarixlang." + row->suffix);
+    if (row != rows_.end()) {
+      SprachObjekt_ = libraries_.create_language("tonarixlang." + row->suffix);
+    }
   } catch (const std::exception&) {
     SprachObjekt_.reset();
   }
+  if (on_chosen) on_chosen();
 }
 
 std::string Language::Wort(TextKey nr) const {

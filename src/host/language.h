@@ -50,6 +50,8 @@ class Language final : public Texts {
   bool SprachAktiv() const { return SprachListeDa_; }
   std::string Wort(TextKey nr) const override;
 
+  std::function<void()> on_chosen;  ///< after each choice, also one that found nothing
+
  private:
   LanguageLibraries libraries_;
   bool SprachListeDa_ = false;

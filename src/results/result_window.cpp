@@ -57,9 +57,11 @@ void ResultWindow::LbEinst() {
   chart_ = result_chart(content_.table, content_.directions, common().texts);
   cmdPrint.enabled = true;
   filled_ = true;
-  announce(content_.total_label + " " +
-           spoken_percentage(content_.table.total.text, common().texts));
-  announce(content_.work.line(", "));
+  const std::string total =
+      content_.total_label + " " + spoken_percentage(content_.table.total.text, common().texts);
+  const std::string counts = content_.work.line(", ");
+  announce(content_.counts_lead ? counts : total);
+  announce(content_.counts_lead ? total : counts);
 }
 
 void ResultWindow::cmdPrint_click() {

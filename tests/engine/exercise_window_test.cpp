@@ -15,6 +15,7 @@ class SilentWindow final : public ExerciseWindow {
   explicit SilentWindow(const ExerciseContext& given) : ExerciseWindow("silent", given) {}
   void answer(bool right) {
     press(answers_open, "answer.", [&] {
+      fail();
       const float tenths = answers().take();
       if (right) {
         answers().right(answers().asked(), tenths);
@@ -35,8 +36,11 @@ class SilentWindow final : public ExerciseWindow {
   void prepare() override {}
   TaskTuning tune() override { return {}; }
   int first_asked() const override { return context().settings.invzahl; }
+  void fail() const {
+    if (fails) throw RuntimeError::index_out_of_range("fail");
+  }
   void show_task() override {
-    if (fails) throw RuntimeError::index_out_of_range("show_task");
+    fail();
     ++shown;
   }
   void open_answers(bool open) override { answers_open.enabled = open; }
@@ -139,10 +143,9 @@ TEST_F(ExerciseWindowTest, AnErrorBehindAQuestionWaitsForTheAnswer) {
   settings.Uebungsmodus = Level::exam;
   auto& test = open<SilentWindow>();
   scheduler.advance_ms(50);
-  test.answer(true);
   test.zurueck_click();  // asks whether to break off
   test.fails = true;
-  test.CmdNextAufg_click();
+  test.answer(true);
   scheduler.advance_ms(1000);
   EXPECT_EQ(test.phase(), Phase::broken);
   dialogs.answer(Reply::no);

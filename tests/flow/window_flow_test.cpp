@@ -90,8 +90,10 @@ TEST_F(WindowFlowTest, BreakingOffARunningTestIsAskedFirstWhileItsTimeGoesOn) {
     bed.answer_row(window);
     EXPECT_EQ(window.phase(), Phase::next_offered) << "without hearing the row again";
     ask();
-    if (by_button) bed.scheduler.advance_ms(3600e3);  // the end comes while it is asked
-    bed.dialogs.answer(Reply::yes);
+    bed.scheduler.advance_ms(3600e3);  // the end comes while it is asked
+    EXPECT_EQ(window.phase(), Phase::time_up);
+    bed.dialogs.answer(by_button ? Reply::no : Reply::yes);
+    if (by_button) window.zurueck_click();
     bed.scheduler.advance_ms(400);
     bed.result().cmdOk_click();
     bed.scheduler.advance_ms(400);
@@ -101,27 +103,30 @@ TEST_F(WindowFlowTest, BreakingOffARunningTestIsAskedFirstWhileItsTimeGoesOn) {
   EXPECT_EQ(bed.documents.written.size(), 2U);
 }
 
-TEST_F(WindowFlowTest, ReadingTheHelpTakesNoAnswerTimeAndNothingBeginsBehindIt) {
-  bed.open_settings().click(bed.settings().abfrage[1]);
-  bed.settings().choose(bed.settings().training_Combo, 1);
-  Arbeitsblatt1& window = bed.open_exercise();
-  bed.hear_row();
-  bed.dialogs.hold = true;
-  const auto read = [&](double ms) {
-    window.cmdHilfe_click();
-    bed.scheduler.advance_ms(ms);
-    bed.dialogs.answer(Reply::ok);
-  };
-  read(30000);
-  bed.answer_row(window, 0.5);
-  window.wieder2_click();
-  for (int time = 0; time < 2; ++time) read(60000);  // first while the row sounds
-  EXPECT_EQ(window.phase(), Phase::next_offered);
-  bed.scheduler.advance_ms(1800);
-  EXPECT_EQ(window.phase(), Phase::sounding);
-  bed.dialogs.script = {Reply::no};
-  const auto lessons = FlowBed::lessons(bed.leave(window));
-  EXPECT_LT(std::stod(lessons[0][0].at("AntwDau")), 20) << "tenths of a second";
+TEST_F(WindowFlowTest, ABoxTakesNoAnswerTimeAndNothingBeginsBehindIt) {
+  for (const bool help : {true, false}) {  // or the question whether to break off
+    bed.open_settings().click(bed.settings().abfrage[1]);
+    bed.settings().choose(bed.settings().training_Combo, help ? 1 : 3);
+    Arbeitsblatt1& window = bed.open_exercise();
+    bed.dialogs.hold = true;
+    const auto read = [&](double ms) {
+      help ? window.cmdHilfe_click() : window.zurueck_click();
+      bed.scheduler.advance_ms(ms);
+      bed.dialogs.answer(help ? Reply::ok : Reply::no);
+    };
+    for (int time = 0; time < 2; ++time) read(30000);  // first while the task sounds
+    bed.answer_row(window, 0.5);
+    if (help) window.wieder2_click();
+    for (int time = 0; time < 2; ++time) read(60000);  // first while the control sounds
+    EXPECT_EQ(window.phase(), Phase::next_offered);
+    bed.scheduler.advance_ms(1800);
+    EXPECT_EQ(window.phase(), Phase::sounding);
+    bed.dialogs.script = {help ? Reply::no : Reply::yes};
+    const auto lessons = FlowBed::lessons(bed.leave(window));
+    EXPECT_LT(std::stod(lessons[0][0].at("AntwDau")), 20) << "tenths of a second";
+    bed.settings().click(bed.settings().cmdZurueck);
+    bed.scheduler.advance_ms(50);
+  }
 }
 
 TEST_F(WindowFlowTest, TheToneThatSoundsIsMarkedForItsBeatAndNoLonger) {

@@ -11,6 +11,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::StartsWith;
 
 struct ResultWindowTest : testing::Test, ResultBed {};
 
@@ -77,7 +78,12 @@ TEST_F(ResultWindowTest, TheWorkIsToldInNumbersThatReadRightly) {
   for (const auto& [done, line] : told) EXPECT_EQ(work_words(done, texts).line(", "), line);
 
   settings.Uebungsmodus = Level::free;
-  const SheetPicture free = sheet_picture(open_filled().content(), SheetGround::screen);
+  ResultWindow& sheet = open();
+  std::string spoken;
+  sheet.on_announced = [&](const std::string& news) { spoken += news; };
+  scheduler.advance_ms(100);
+  EXPECT_THAT(spoken, StartsWith("3 tasks"));
+  const SheetPicture free = sheet_picture(sheet.content(), SheetGround::screen);
   const auto found = [&](const char* words) {
     return *std::ranges::find(free.texts, words, &SheetText::text);
   };

@@ -132,9 +132,15 @@ void Bindings::bind(ListBox& list, const ListControl& control, NumberHandler cho
   list.may_open = [this, &list, &control] { return live_ && admits(list, control, false); };
   QObject::connect(&list, &QComboBox::activated, &list,
                    [this, &list, &control, chosen = std::move(chosen)](int index) {
-                     if (index == control.selected) return;
-                     forward(list, control, [&chosen, index] { chosen(index); });
+                     if (index != control.selected) {
+                       forward(list, control, [&chosen, index] { chosen(index); });
+                     }
+                     list.told();
                    });
+  // A second click on an entry would hit what lies below it.
+  list.on_closed = [this, &control] {
+    if (live_) control.window().guard.uncovered(control.window().now());
+  };
 }
 
 void Bindings::bind(Slider& slider, const SliderControl& control, NumberHandler moved,

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <utility>
 
 namespace tonarix {
 
@@ -51,7 +52,21 @@ void ListBox::showPopup() {
   set_accessible_name(*view(), name_);
   if (on_popup) on_popup();
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
+  view()->window()->installEventFilter(this);
   QComboBox::showPopup();
+}
+
+bool ListBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Hide && watched == view()->window()) {
+    closing_ = true;
+    // What was chosen is told after the entries have gone, within the same event.
+    QMetaObject::invokeMethod(this, &ListBox::told, Qt::QueuedConnection);
+  }
+  return QComboBox::eventFilter(watched, event);
+}
+
+void ListBox::told() {
+  if (std::exchange(closing_, false) && on_closed) on_closed();
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

@@ -20,10 +20,14 @@ class ListBox : public QComboBox {
   void set_name(const QString& name);
   const QString& name() const { return name_; }
 
-  std::function<void()> on_popup;  ///< before the entries are shown
+  std::function<void()> on_popup;   ///< before the entries are shown
+  std::function<void()> on_closed;  ///< they have gone, and a choice among them has been told
+  /// The choice has been told.
+  void told();
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -31,6 +35,7 @@ class ListBox : public QComboBox {
  private:
   QString name_;
   QLabel* spoken_ = nullptr;  ///< hidden; its buddy is this list
+  bool closing_ = false;      ///< the entries have gone, `on_closed` is still to come
 };
 
 }  // namespace tonarix

@@ -1,10 +1,16 @@
 #include "base/windows/qt_dialogs.h"
 #include "base/module_texts.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
+
+#include "base/windows/screen_room.h"
 
 namespace tonarix {
 namespace {
@@ -30,6 +36,32 @@ class MessageSign final : public QWidget {
 
  private:
   MessageStyle style_;
+};
+
+/// The words of a box: as wide as the longest line, within what is read with ease. Where the room
+/// is too small for all of them they scroll.
+class Words final : public QScrollArea {
+ public:
+  Words(const QString& text, const QSize& room) {
+    auto* words = new Label(TextRole::choice);
+    words->setObjectName(QStringLiteral("message_text"));
+    words->setText(text);
+    words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    words->setWordWrap(true);
+    words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidget(words);
+    const int longest = words->fontMetrics().size(0, text).width() + 4;
+    int width = std::min(std::clamp(longest, 240, 560), room.width());
+    const int height = words->heightForWidth(width);
+    const bool scrolls = height > room.height();
+    if (scrolls) width += verticalScrollBar()->sizeHint().width();
+    setMinimumSize(QSize(width, height).boundedTo(room));
+    setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+  }
+  QSize sizeHint() const override { return minimumSize(); }
 };
 
 class MessageBox final : public QDialog {
@@ -109,7 +141,7 @@ void QtDialogs::attach() {
     box_->adjustSize();
     QRect frame(QPoint(), box_->size());
     frame.moveCenter(owner->geometry().center());
-    box_->move(frame.topLeft());
+    box_->move(moved_inside(frame, room_on(*owner->screen())).topLeft());
   }
   if (box_->isVisible()) box_->raise();
 }
@@ -130,30 +162,9 @@ std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
   box->setWindowTitle(to_qstring(message.title));
   box->setAccessibleName(to_qstring(message.title));
   box->setAccessibleDescription(to_qstring(message.text));
-  auto* whole = new QVBoxLayout(box.get());
-  whole->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::between);
-  whole->setSpacing(theme::edge);
-  auto* upper = new QHBoxLayout;
-  upper->setSpacing(theme::between);
-  if (message.style != MessageStyle::plain) {
-    upper->addWidget(new MessageSign(message.style, box.get()), 0, Qt::AlignTop);
-  }
-  auto* words = new Label(TextRole::choice);
-  words->setObjectName(QStringLiteral("message_text"));
-  words->setText(to_qstring(message.text));
-  words->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  words->setWordWrap(true);
-  // As wide as the longest line, within what is read with ease.
-  const QSize wanted = words->fontMetrics().size(0, words->text());
-  words->setMinimumWidth(std::clamp(wanted.width() + 4, 240, 560));
-  words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  upper->addWidget(words, 1);
-  whole->addLayout(upper);
-
   auto* line = new QHBoxLayout;
   line->setSpacing(theme::inside);
   line->addStretch(1);
-  QSet<QChar> taken;
   const auto add = [&](const char* name, const QString& text, int result, bool primary) {
     auto* button = new Button(box.get());
     button->setObjectName(QLatin1String(name));
@@ -175,6 +186,22 @@ std::unique_ptr<QDialog> QtDialogs::make(const Message& message) {
   } else {
     add("ok", caption({}, 432_text, QStringLiteral("OK")), QDialog::Accepted, true);
   }
+
+  auto* whole = new QVBoxLayout(box.get());
+  whole->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::between);
+  whole->setSpacing(theme::edge);
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(theme::between);
+  const QWidget* owner = presenter_.newest_visible();
+  QSize room = room_on(*(owner ? owner->screen() : QGuiApplication::primaryScreen())).size();
+  room -= QSize(2 * theme::edge, 2 * theme::edge + theme::between + line->sizeHint().height());
+  if (message.style != MessageStyle::plain) {
+    auto* sign = new MessageSign(message.style, box.get());
+    upper->addWidget(sign, 0, Qt::AlignTop);
+    room.rwidth() -= sign->width() + theme::between;
+  }
+  upper->addWidget(new Words(to_qstring(message.text), room), 1);
+  whole->addLayout(upper);
   whole->addLayout(line);
   return box;
 }

@@ -3,13 +3,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <algorithm>
 
 #include "base/windows/accessibility.h"
+#include "base/windows/screen_room.h"
 #include "base/windows/style.h"
 
 namespace tonarix {
@@ -20,19 +20,6 @@ Button* first_open(const std::vector<Button*>& buttons) {
     return button->isVisibleTo(button->window()) && button->open();
   });
   return found == buttons.end() ? nullptr : *found;
-}
-
-/// What a window can fill of its screen, its title bar and frame in view.
-QRect room_on(const QScreen& screen) {
-  return screen.availableGeometry().marginsRemoved(theme::window_frame);
-}
-
-QRect moved_inside(QRect frame, const QRect& room) {
-  frame.moveLeft(std::clamp(frame.left(), room.left(),
-                            std::max(room.left(), room.right() + 1 - frame.width())));
-  frame.moveTop(std::clamp(frame.top(), room.top(),
-                           std::max(room.top(), room.bottom() + 1 - frame.height())));
-  return frame;
 }
 
 bool is_return(const QKeyEvent& event) {
@@ -110,9 +97,7 @@ void WindowView::detach() {
 }
 
 void WindowView::uncovered() {
-  if (!logic_) return;
-  logic_->guard.shown();
-  logic_->guard.seen(logic_->now());
+  if (logic_) logic_->guard.uncovered(logic_->now());
 }
 
 QSize WindowView::sizeHint() const {
@@ -154,6 +139,16 @@ void WindowView::grow() {
   const QRect room = room_on(*screen());
   own_size_ = with_bars(need, room.size()).expandedTo(size());
   setGeometry(moved_inside({geometry().topLeft(), own_size_}, room));
+}
+
+void WindowView::bring_into_view(QWidget& widget) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, &widget] {
+        content().layout()->activate();
+        scroll_->ensureWidgetVisible(&widget, 0, 2 * theme::between);
+      },
+      Qt::QueuedConnection);
 }
 
 void WindowView::key(const QKeySequence& sequence, Button& button) {

@@ -4,11 +4,15 @@
 #include <QVBoxLayout>
 
 namespace tonarix {
+namespace {
+
+constexpr int kNarrow = 560;  // below this there is no room for calm edges
+
+}  // namespace
 
 SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
     : WindowView(window, texts) {
-  auto* rows = new QVBoxLayout(&content());
-  rows->setContentsMargins(theme::edge, theme::edge, theme::edge, theme::inside);
+  auto* rows = rows_ = new QVBoxLayout(&content());
   rows->setSpacing(4);
   question_ = text({}, TextRole::question);
   subject_ = text({}, TextRole::note);
@@ -18,8 +22,7 @@ SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
   // As wide as looks calm, narrower where the screen is.
   rows->addItem(new QSpacerItem(584, 0, QSizePolicy::Preferred, QSizePolicy::Fixed));
 
-  auto* groups = new QHBoxLayout;
-  groups->setSpacing(theme::between);
+  auto* groups = groups_ = new QHBoxLayout;
   Card* areas = card(nullptr, nullptr);
   area_ = &areas->title();
   areas_ = options(window.Theoriewahl, areas->body(),
@@ -48,11 +51,19 @@ SelectionView::SelectionView(SelectionWindow& window, const Texts& texts)
   for (const auto* group : {&areas_, &exercises_}) {
     for (Option* choice : *group) choice->setFont(theme::font(TextRole::choice));
   }
+  fit();
 }
 
 void SelectionView::applied() {
   // The language is loaded after the window has opened.
   if (question_->text() != word(text::what_to_practise)) explain();
+}
+
+void SelectionView::fit() {
+  const bool narrow = width() < kNarrow;
+  const int side = narrow ? theme::inside : theme::edge;
+  rows_->setContentsMargins(side, side, side, theme::inside);
+  groups_->setSpacing(narrow ? theme::inside : theme::between);
 }
 
 void SelectionView::explain() {

@@ -12,10 +12,13 @@ class SelectionView final : public WindowView {
 
  protected:
   void applied() override;
+  void fit() override;
 
  private:
   void explain();
 
+  QVBoxLayout* rows_;
+  QHBoxLayout* groups_;
   Label* question_;
   Label* subject_;
   Label* area_;

@@ -192,6 +192,8 @@ void SettingsView::open_menu() {
   QObject::connect(mark, &QAction::triggered, this, [this] {
     if (bindings().live()) settings_window_.click(settings_window_.popExamToggle);
   });
+  // A second click on its entry would hit what lies below it.
+  QObject::connect(menu_, &QMenu::aboutToHide, this, [this] { uncovered(); });
   // The menu hides before it tells what was chosen.
   QObject::connect(
       menu_, &QMenu::aboutToHide, this,

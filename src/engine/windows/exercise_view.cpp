@@ -96,6 +96,7 @@ void ExerciseView::build_standing() {
   halves_->addWidget(column_box_);
 
   training_card_ = card(nullptr, nullptr);
+  training_card_->setAccessibleName(word(text::training_status));
   build_training(*training_card_);
   test_card_ = card(nullptr, nullptr);
   build_test(*test_card_);
@@ -224,6 +225,7 @@ void ExerciseView::applied() {
   content().setVisible(prepared);
   if (action_line_) action_line_->setVisible(prepared);
 
+  if (tabbed_in_ != window_.phase()) tabbed_in_.reset();
   const Button* way_on = button_of(window_.default_button());
   for (const ActionButton& action : action_buttons_) {
     action.button->set_primary(action.button == way_on);
@@ -244,6 +246,11 @@ void ExerciseView::applied() {
       tries = to_qstring(places_->tries[i].text).toInt();
     }
     row_->show_state(fields, current, tries);
+    const bool sounds = window_.phase() == Phase::sounding;
+    if (sounds && !sounds_ && current >= 0) {
+      bring_into_view(*row_->fields[static_cast<std::size_t>(current)]);
+    }
+    sounds_ = sounds;
   }
   if (column_) {
     training_card_->setVisible(is_training(window_.level()));
@@ -290,13 +297,27 @@ void ExerciseView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
-    auto* target = dynamic_cast<Button*>(focusWidget());
-    if (!target || !pressable(target)) target = button_of(window_.default_button());
-    if (target) target->click();
+    press_return();
     return;
   }
   if (plain && (press_answer(event->key()) || press_letter(event->text()))) return;
   WindowView::keyPressEvent(event);
+}
+
+// A focus that was put somewhere for an earlier step is no answer to the way on that is offered
+// now.
+void ExerciseView::press_return() {
+  auto* focused = dynamic_cast<Button*>(focusWidget());
+  const bool chosen =
+      tabbed_in_ == window_.phase() || actions_in(window_.phase()).way_on == Way::none;
+  Button* target =
+      chosen && focused && pressable(focused) ? focused : button_of(window_.default_button());
+  if (target) target->click();
+}
+
+bool ExerciseView::focusNextPrevChild(bool next) {
+  tabbed_in_ = window_.phase();
+  return WindowView::focusNextPrevChild(next);
 }
 
 void ExerciseView::resizeEvent(QResizeEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "base/windows/window_view.h"
@@ -21,10 +22,11 @@ namespace tonarix {
 /// the reading and the tab order, and puts its answers into `middle()` and its own cards into
 /// `column()`.
 ///
-/// Keys beside those of every window: Return presses the default button of the logic, Escape the
-/// way out, the keys printed on the answers press them, and the letters that are marked for Alt
-/// press the actions without Alt too, as nothing here takes typed text; the way out they don't, for
-/// a letter is struck by accident.
+/// Keys beside those of every window: Return presses the default button of the logic, another one
+/// only when Tab has led to it since the exercise came to this phase; Escape presses the way out,
+/// the keys printed on the answers press them, and the letters that are marked for Alt press the
+/// actions without Alt too, as nothing here takes typed text; the way out they don't, for a letter
+/// is struck by accident.
 class ExerciseView : public WindowView {
  public:
   /// `sounding` is the same window where its rows are heard, else null.
@@ -68,6 +70,7 @@ class ExerciseView : public WindowView {
 
   void applied() override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -78,6 +81,7 @@ class ExerciseView : public WindowView {
   };
   Button* button_of(const Control* control) const;
   bool press_answer(int key);
+  void press_return();
   bool press_letter(const QString& text);
   void build_training(Card& card);
   void build_test(Card& card);
@@ -101,6 +105,8 @@ class ExerciseView : public WindowView {
   Card* test_card_ = nullptr;
   std::vector<AnswerGrid*> grids_;
   std::vector<ActionButton> action_buttons_;
+  bool sounds_ = false;             ///< the row of a task was sounding when last looked at
+  std::optional<Phase> tabbed_in_;  ///< the phase that stands, where Tab was used in it
 };
 
 }  // namespace tonarix

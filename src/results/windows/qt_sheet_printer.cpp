@@ -15,6 +15,8 @@
 
 #include "base/module_texts.h"
 #include "base/system_failure.h"
+#include "base/windows/dialog_guard.h"
+#include "base/windows/screen_room.h"
 #include "results/windows/sheet_painter.h"
 
 namespace tonarix {
@@ -82,48 +84,49 @@ void QtSheetPrinter::ask_for_printer(const SheetPicture& picture,
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
   printer->setPageOrientation(QPageLayout::Landscape);
   printer->setDocName(QString::fromStdString(picture.name));
-  auto memory = std::make_shared<DialogMemory>();  // its button for a file opens a file dialog
-  auto* dialog = new QPrintDialog(printer.get(), parent_());
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  auto* dialog = new QPrintDialog(printer.get(), presenter_.newest_visible());
   dialog->setWindowTitle(word(text::print_caption));
-  QObject::connect(dialog, &QObject::destroyed, [memory] {});
-  QObject::connect(dialog, &QDialog::finished, dialog,
-                   [this, picture, printer, done = std::move(done)](int answer) {
-                     if (answer == QDialog::Accepted) {
-                       done(print_on(picture, *printer));
-                     } else {
-                       done({PrintResult::End::cancelled, ""});
-                     }
-                   });
-  dialog->open();
+  open(*dialog, [this, picture, printer, done = std::move(done)](int answer) {
+    if (answer == QDialog::Accepted) {
+      done(print_on(picture, *printer));
+    } else {
+      done({PrintResult::End::cancelled, ""});
+    }
+  });
 }
 
 void QtSheetPrinter::ask_for_file(const SheetPicture& picture,
                                   std::function<void(PrintResult)> done) {
-  auto memory = std::make_shared<DialogMemory>();
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  auto* dialog = new QFileDialog(parent_(), word(text::save_as_pdf), folder,
+  auto* dialog = new QFileDialog(presenter_.newest_visible(), word(text::save_as_pdf), folder,
                                  word(text::pdf_files) + QStringLiteral(" (*.pdf)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  // The desktop's own speaks the desktop's language.
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setLabelText(QFileDialog::LookIn, word(text::file_folder));
-  dialog->setLabelText(QFileDialog::FileName, word(text::file_name));
-  dialog->setLabelText(QFileDialog::FileType, word(text::file_type));
-  dialog->setLabelText(QFileDialog::Accept, word(text::file_save));
-  dialog->setLabelText(QFileDialog::Reject, word(text::file_cancel));
   dialog->setDefaultSuffix(QStringLiteral("pdf"));
   dialog->selectFile(word(text::sheet_name) + QStringLiteral(".pdf"));
-  QObject::connect(dialog, &QObject::destroyed, [memory] {});  // until the dialog is gone
-  QObject::connect(dialog, &QDialog::finished, dialog,
-                   [this, dialog, picture, done = std::move(done)](int answer) {
-                     const QStringList files = dialog->selectedFiles();
-                     if (answer == QDialog::Accepted && !files.isEmpty()) {
-                       done(write_pdf(picture, files.first()));
-                     } else {
-                       done({PrintResult::End::cancelled, ""});
-                     }
+  open(*dialog, [this, dialog, picture, done = std::move(done)](int answer) {
+    const QStringList files = dialog->selectedFiles();
+    if (answer == QDialog::Accepted && !files.isEmpty()) {
+      done(write_pdf(picture, files.first()));
+    } else {
+      done({PrintResult::End::cancelled, ""});
+    }
+  });
+}
+
+void QtSheetPrinter::open(QDialog& dialog, std::function<void(int answer)> finished) {
+  dialog.setAttribute(Qt::WA_DeleteOnClose);
+  // The print dialog's button for a file opens a file dialog too.
+  QObject::connect(&dialog, &QObject::destroyed, [memory = std::make_shared<DialogMemory>()] {});
+  QObject::connect(&dialog, &QDialog::finished, &dialog,
+                   [this, finished = std::move(finished)](int answer) {
+                     presenter_.uncovered();
+                     finished(answer);
                    });
-  dialog->open();
+  dialog.resize(dialog.size().boundedTo(room_on(*dialog.screen()).size()));
+  new DialogGuard(dialog, scheduler_);
+  dialog.open();
 }
 
 PrintResult QtSheetPrinter::write_pdf(const SheetPicture& picture, const QString& path) const {

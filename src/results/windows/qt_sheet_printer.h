@@ -2,13 +2,13 @@
 
 #include <QPagedPaintDevice>
 #include <functional>
-#include <string>
 
 #include "base/texts.h"
+#include "base/windows/presenter.h"
 #include "results/sheet_printer.h"
 
+class QDialog;
 class QPrinter;
-class QWidget;
 
 namespace tonarix {
 
@@ -16,9 +16,9 @@ namespace tonarix {
 /// anew: neither printer nor folder are kept for the next user.
 class QtSheetPrinter final : public SheetPrinter {
  public:
-  /// `parent` gives the window that the dialogs belong to, or nullptr.
-  QtSheetPrinter(const Texts& texts, std::function<QWidget*()> parent)
-      : texts_(texts), parent_(std::move(parent)) {}
+  /// The dialogs belong to the newest visible window.
+  QtSheetPrinter(const Scheduler& scheduler, const Texts& texts, Presenter& presenter)
+      : scheduler_(scheduler), texts_(texts), presenter_(presenter) {}
 
   void print(const SheetPicture& picture, std::function<void(PrintResult)> done) override;
 
@@ -30,11 +30,15 @@ class QtSheetPrinter final : public SheetPrinter {
  private:
   void ask_for_printer(const SheetPicture& picture, std::function<void(PrintResult)> done);
   void ask_for_file(const SheetPicture& picture, std::function<void(PrintResult)> done);
+  /// `finished` runs with the answer, the windows behind guarded against a press meant for the
+  /// dialog.
+  void open(QDialog& dialog, std::function<void(int answer)> finished);
   PrintResult not_written(const QString& path, const QString& system_words) const;
   QString word(TextKey key) const;
 
+  const Scheduler& scheduler_;
   const Texts& texts_;
-  std::function<QWidget*()> parent_;
+  Presenter& presenter_;
 };
 
 }  // namespace tonarix

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -342,6 +343,37 @@ TEST_F(BindingsTest, APressMeantForABoxThatHasGoneIsNoAnswerBelowIt) {
   scheduler.advance_ms(InputGuard::kNewlyShown);
   view->go->click();
   EXPECT_EQ(window->told, "go ");
+}
+
+TEST_F(BindingsTest, ABoxWithALongTextFitsTheScreenAndCanBeAnswered) {
+  QtDialogs boxes(scheduler, texts, presenter);
+  std::string text;
+  for (int line = 0; line < 200; ++line) text += "Folder: /home/ada/protocols\n";
+  boxes.show({"Warning", text, MessageStyle::warning, "", ""}, [](Reply) {});
+  QApplication::processEvents();
+  const QDialog& box = *boxes.current();
+  const auto* ok = box.findChild<QPushButton*>("ok");
+  EXPECT_TRUE(box.screen()->availableGeometry().contains(box.geometry()));
+  EXPECT_TRUE(box.rect().contains(QRect(ok->mapTo(&box, QPoint()), ok->size())));
+}
+
+TEST_F(BindingsTest, ASecondClickOnAnEntryHitsNothingBelowTheList) {
+  for (const char* entry : {"30", "100"}) window->entries.add(entry);
+  window->entries.selected = 0;
+  window->changed();
+  for (const int key : {Qt::Key_Return, Qt::Key_Escape}) {
+    view->entries->showPopup();
+    QAbstractItemView& entries = *view->entries->view();
+    entries.setCurrentIndex(entries.model()->index(1, 0));
+    stroke(entries, key);
+    if (key == Qt::Key_Escape) QApplication::processEvents();
+    ASSERT_FALSE(entries.isVisible());
+    view->go->click();
+    EXPECT_EQ(window->told, "entry1 ");
+    scheduler.advance_ms(InputGuard::kNewlyShown);
+  }
+  view->go->click();
+  EXPECT_EQ(window->told, "entry1 go ");
 }
 
 }  // namespace

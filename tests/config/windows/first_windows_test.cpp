@@ -4,7 +4,9 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "base/module_texts.h"
 #include "base/windows/presenter.h"
+#include "base/windows/toolkit_texts.h"
 #include "config/settings_bed.h"
 #include "config/windows/einstellung1_view.h"
 #include "config/windows/einstellung2_view.h"
@@ -61,6 +63,15 @@ TEST_P(FirstWindowsTest, TheSettingsFollowTheirWindowAndBack) {
   EXPECT_TRUE(bed.windows.count() == 1 && view(0).isVisible());
 }
 
+TEST_P(FirstWindowsTest, TheFirstWindowFitsASmallScreen) {
+  auto& window = static_cast<Einstellung1&>(*bed.windows.at(1));
+  window.click(window.cmdZurueck);
+  settle();
+  view(0).resize(508, 264);
+  settle();
+  EXPECT_EQ(view(0).findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_P(FirstWindowsTest, EveryControlOnTheWayOfTheTabKeyHasAName) {
   for (int window : {0, 1}) {
     for (const Control* control : bed.windows.at(window)->controls()) {
@@ -92,6 +103,17 @@ TEST_P(FirstWindowsTest, TheQuestionNamesTheToneThatIsAsked) {
     bed.leave(window);
   }
 }
+
+TEST_P(FirstWindowsTest, TheToolkitsOwnDialogsSpeakTheLanguage) {
+  ToolkitTexts texts;
+  texts.speak(to_qstring(bed.language.Wort(text::toolkit_language)));
+  const auto caption = [] { return QCoreApplication::translate("QFileDialog", "Look in:"); };
+  EXPECT_EQ(caption(), std::string(GetParam()) == "Deutsch" ? "Suchen in:" : "Look in:");
+  texts.speak("VOID");
+  EXPECT_EQ(caption(), "Look in:");
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, FirstWindowsTest, testing::Values("Deutsch", "English"));
 
 struct SmallScreenTest : testing::TestWithParam<const char*> {
   template <typename Kind, typename View>
@@ -128,7 +150,6 @@ TEST_P(SmallScreenTest, HasRoomForTheSettings) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, SmallScreenTest, testing::Values("Deutsch", "English"));
-INSTANTIATE_TEST_SUITE_P(Languages, FirstWindowsTest, testing::Values("Deutsch", "English"));
 
 }  // namespace
 }  // namespace tonarix

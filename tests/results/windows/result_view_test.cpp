@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QWindow>
 
 #include "base/windows/presenter.h"
 #include "base/windows/theme.h"
@@ -84,9 +85,15 @@ QImage painted(const SheetPicture& picture, double factor) {
 }
 
 struct SheetPrinterTest : testing::Test, ResultBed {
-  QtSheetPrinter printer{texts, [] { return nullptr; }};
+  const ResultWindow& window() {
+    presenter.add<ResultWindow, ResultView>("testergebnis", texts);
+    fill();
+    return open_filled();
+  }
+  Presenter presenter{windows};
+  QtSheetPrinter printer{scheduler, texts, presenter};
   QTemporaryDir folder;
-  const SheetContent sheet = (fill(), open_filled().content());
+  const SheetContent sheet = window().content();
   SheetPicture page = sheet_picture(sheet, SheetGround::paper);
 };
 
@@ -173,6 +180,10 @@ struct PrintDialogTest : SheetPrinterTest {
       if (auto* found = qobject_cast<QDialog*>(widget)) dialog = found;
     }
   }
+  void press_return() {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(dialog->windowHandle(), &press);
+  }
   void let_go() {
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -194,7 +205,12 @@ TEST_F(PrintDialogTest, WithoutAPrinterTheSheetGoesIntoAFileAndNothingIsRemember
   QPointer<QFileDialog> files = qobject_cast<QFileDialog*>(dialog);
   if (!files) GTEST_SKIP() << "this machine has a printer";
   files->selectFile(folder.filePath("mine.pdf"));
-  QMetaObject::invokeMethod(files, "accept");
+  QApplication::processEvents();
+  press_return();
+  EXPECT_TRUE(results.empty()) << "a second press of the button that opened it";
+  come_up(scheduler);
+  press_return();
+  EXPECT_FALSE(windows.newest()->settled()) << "a second press would hit the window behind";
   let_go();
   EXPECT_EQ(results.at(0).end, PrintResult::End::printed) << results[0].reason;
   EXPECT_TRUE(QFile::exists(folder.filePath("mine.pdf")));

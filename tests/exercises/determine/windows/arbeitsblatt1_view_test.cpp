@@ -104,13 +104,37 @@ TEST_F(Arbeitsblatt1ViewTest, TheWayOnIsReturnAndNothingIsLeftByAccident) {
   const Button &repeat = child("wieder2"), &next = child("CmdNextAufg");
   EXPECT_TRUE(repeat.primary());
   const QRect place = repeat.parentWidget()->geometry();
+  child("wieder2").setFocus();
   stroke(Qt::Key_Return);
   bed.hear_row();
   EXPECT_TRUE(next.isVisible() && next.primary() && !repeat.primary());
+  EXPECT_EQ(view->focusWidget(), &repeat);
   stroke(Qt::Key_Return);
-  EXPECT_EQ(FlowBed::asked(*window), 0);
+  EXPECT_EQ(FlowBed::asked(*window), 0) << "the focus is left from the step before";
   QApplication::processEvents();
   EXPECT_EQ(repeat.parentWidget()->geometry(), place) << "the actions don't move either";
+}
+
+TEST_F(Arbeitsblatt1ViewTest, ReturnTakesAWaitingTaskBackOnlyWhereTabHasJustLedToIt) {
+  settings.click(settings.abfrage[1]);
+  open();
+  bed.hear_row();
+  bed.answer_row(*window);
+  child("wieder2").setFocus();
+  for (const bool by_tab : {false, true}) {
+    window->wieder2_click();
+    bed.hear_row();
+    ASSERT_TRUE(window->LbNextAufg.visible);
+    QWidget* focus = &child("wieder2");
+    do {
+      if (!by_tab) break;
+      QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+      QApplication::sendEvent(focus, &tab);
+      focus = view->focusWidget();
+    } while (focus != &child("wieder2"));
+    stroke(Qt::Key_Return);
+    EXPECT_EQ(window->phase(), by_tab ? Phase::control_sounding : Phase::next_offered);
+  }
 }
 
 TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButNeverTheWayOutOfATest) {
@@ -134,7 +158,7 @@ TEST_F(Arbeitsblatt1ViewTest, ALetterPressesItsActionWithoutAltButNeverTheWayOut
   EXPECT_FALSE(bed.dialogs.open()) << "too soon after Escape";
 }
 
-TEST_F(Arbeitsblatt1ViewTest, TheBarOfATrainingHasANumberButAtItsSolvedEnd) {
+TEST_F(Arbeitsblatt1ViewTest, EachGroupHasANameAndTheBarOfATrainingANumberButAtItsSolvedEnd) {
   settings.choose(settings.training_Combo, 1);
   open();
   for (const bool solved : {false, true}) {
@@ -142,6 +166,10 @@ TEST_F(Arbeitsblatt1ViewTest, TheBarOfATrainingHasANumberButAtItsSolvedEnd) {
     apply();
     EXPECT_EQ(child<QWidget>("matboxanz_15").accessibleName(),
               solved ? "[1100s]" : "[1100s] [1132s]");
+  }
+  for (QFrame* frame : view->findChildren<QFrame*>()) {
+    auto* group = dynamic_cast<Card*>(frame);
+    EXPECT_TRUE(!group || group->isHidden() || !spoken_name(*group).isEmpty());
   }
 }
 
@@ -194,6 +222,12 @@ TEST_F(Arbeitsblatt1ViewTest, AnswersKeepTheirPlacesAllFitAndNarrowWindowsScroll
     }
   }
   EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+  view->resize(508, 264);
+  bed.hear_row();
+  child("wieder").click();
+  for (int time = 0; time < 2; ++time) QApplication::processEvents();
+  const QRect shown(field(0).mapTo(area->viewport(), QPoint()), field(0).size());
+  EXPECT_TRUE(area->viewport()->rect().contains(shown)) << "a new row is in sight";
 }
 
 /// "C Db D= Eb" for the notes c, d flat, d natural, e flat.
