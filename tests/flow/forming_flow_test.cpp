@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 #include "flow/forming_bed.h"
@@ -84,6 +85,9 @@ TEST(FormingFlow, AfterAWrongAnswerTheSliderHasToBeMovedFirst) {
   window.sldPitch_change(1000);
   EXPECT_EQ(window.sldPitch.value, window.sldPitch.maximum);
   EXPECT_TRUE(window.cmdok.open());
+  window.wieder_click();
+  bed.hear_task();
+  EXPECT_TRUE(window.cmdok.open()) << "it was moved before the repeat";
   window.cmdok_click();
   EXPECT_EQ(colours(), std::pair(RGB(0, 0, 0), RGB(255, 0, 0)));
   for (const int steps : {20, 20}) bed.answer(window, steps);
@@ -94,7 +98,7 @@ TEST(FormingFlow, AfterAWrongAnswerTheSliderHasToBeMovedFirst) {
   const auto answers = FlowBed::lessons(bed.leave(window)).at(0);
   ASSERT_EQ(answers.size(), 4U);
   for (const auto& answer : answers) EXPECT_EQ(answer.at("interval"), "1");
-  EXPECT_EQ(std::stod(answers.at(1).at("Anz Whlg")), 1);
+  EXPECT_EQ(std::stod(answers.at(1).at("Anz Whlg")), 2);
 }
 
 TEST(FormingFlow, LevelsEndAndATrainingGoesOn) {
@@ -131,7 +135,12 @@ TEST(FormingFlow, LevelsEndAndATrainingGoesOn) {
   for (const int level : {3, 4}) {
     FormingBed bed(host, 5);
     Arbeitsblatt2& window = bed.begin(1, level);
-    int tasks = 0;
+    // Of each task five beats and a second are heard, or three beats, and then come 1.8 + 5 s.
+    int minutes = 0, seconds = 0, all = 0, tasks = 0;
+    std::sscanf(window.stop_uhr.text.c_str(), "[461s] %d [394s] %d", &minutes, &seconds);
+    std::sscanf(window.lab_aufgaben.text.c_str(), "[462s] %d", &all);
+    const double estimate = all * (level == 4 ? 7.5 + 1 + 6.8 : 0.9 + 6.8);
+    EXPECT_NEAR(minutes * 60 + seconds, estimate, 10);
     for (; !is_over(window.phase()); ++tasks) {
       if (tasks > 0) bed.next_task(window);
       bed.answer(window, 0);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <tuple>
 
@@ -70,6 +71,20 @@ TEST(FormingFlow, TheTonesGoOverTheWireAsTuned) {
     EXPECT_TRUE(grd_ton == 1 || bed.bends(1, 0).back() == bed.bends(2, 0).back());
     EXPECT_EQ(bed.bends(4, 0).back(), window.sldPitch.value);
     EXPECT_TRUE(aufg == 1 || std::ranges::count(bed.bends(4, 0), bed.target()) > 0);
+
+    const std::size_t heard = bed.devices.notes().size();
+    window.wieder_click();
+    bed.hear_task();
+    std::vector<RecordingDevices::Note> repeated = bed.devices.notes();
+    repeated.erase(repeated.begin(), repeated.begin() + static_cast<long>(heard));
+    told.clear();
+    const double once_more = repeated.at(0).at_ms;
+    if (aufg == 0) pass(once_more, 3);
+    const double shorter =
+        aufg == 0 ? once_more + std::floor(2.7 * beat) + 800 + 50 + 100 : once_more;
+    pass(shorter, 2);
+    add(shorter + 2 * beat + 200, 4, row[2].chr);
+    compare(repeated);
 
     // The tone follows the hand, and only while it sounds.
     const std::size_t from = bed.wire();
