@@ -124,7 +124,8 @@ Sequence InterruptedExercises::take_up_one(KeptExercises& kept, const KeptExerci
   End end = End::nothing;
   if (left.exercise.training) {
     std::function<void(bool)> no_window;
-    co_await offer(left.exercise, waits_, end, std::move(no_window));
+    const Interrupted interrupted{left.exercise};
+    co_await offer(interrupted, waits_, end, std::move(no_window));
   } else {
     const Message message = told(text::exercise_interrupted, left.exercise);
     co_await ask(waits_, dialogs_, message);
@@ -146,13 +147,14 @@ StoredState InterruptedExercises::stored(const Settings& settings) {
   return found;
 }
 
-Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& end,
+Sequence InterruptedExercises::offer(Interrupted interrupted, Waits& waits, End& end,
                                      std::function<void(bool)> show_wait) {
   end = End::nothing;
+  const KeptExercise& exercise = interrupted.exercise;
   TextKey became = text::training_not_usable;
   if (std::optional<Training> training = read(*exercise.training)) {
     StoredState before = stored(training->settings);
-    Way way = way_with(exercise, before);
+    Way way = interrupted.kept && !server_.lasting() ? Way::left_kept : way_with(exercise, before);
     for (bool agreed = false; way == Way::asked && !agreed;) {
       const Message asked = question(before, exercise);
       const Reply reply = co_await ask(waits, dialogs_, asked);
@@ -167,7 +169,7 @@ Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& e
     end = way == Way::dropped ? End::nothing : End::stays_kept;
     if (way == Way::stored || asked) {
       if (show_wait) show_wait(true);
-      co_await store(training->state, training->settings, before, waits, end);
+      co_await store(training->state, training->settings, before, interrupted.kept, waits, end);
       if (show_wait) show_wait(false);
     }
     if (end == End::stored && asked) co_return;
@@ -180,13 +182,15 @@ Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& e
 }
 
 Sequence InterruptedExercises::store(const SavedTraining& state, Settings& settings,
-                                     const StoredState& before, Waits& waits, End& end) {
+                                     const StoredState& before, bool kept, Waits& waits, End& end) {
   std::optional<SavedTraining> current;
-  bool kept = false;
+  bool done = false;
   TrainingRecord record(server_, errors_, settings, current, scheduler_, waits, kTag);
-  std::function<bool()> still = [this, &settings, &before] { return stored(settings) == before; };
-  co_await record.keep(state, kept, std::move(still));
-  end = kept ? End::stored : End::stays_kept;
+  std::function<bool()> still = [this, &settings, &before, kept] {
+    return stored(settings) == before && (!kept || server_.lasting());
+  };
+  co_await record.keep(state, done, std::move(still));
+  end = done ? End::stored : End::stays_kept;
 }
 
 Message InterruptedExercises::told(TextKey text, const KeptExercise& exercise) const {

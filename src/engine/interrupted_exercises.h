@@ -29,6 +29,12 @@ struct StoredState {
 /// The user's data in one text, to tell whose an exercise is; nothing when the host does not say.
 std::optional<std::string> user_name(Server& server);
 
+/// An exercise that came to no end of its own.
+struct Interrupted {
+  KeptExercise exercise;
+  bool kept = true;  ///< it lies on the disk until its training is settled
+};
+
 /// Exercises that came to no end of their own: their protocols go where they belong, their
 /// trainings into the store, and the student is told in one box each.
 class InterruptedExercises {
@@ -54,8 +60,9 @@ class InterruptedExercises {
   void take_up(KeptExercises& kept, DocumentWriter& writer, const ProtocolFolders& folders);
   /// Stores the training of the exercise and says what became of it. A training that was saved
   /// meanwhile wins; to replace an older one, or a record that is damaged, is asked first. While
-  /// the host is busy it waits in `waits`, up to 10 s, with `show_wait` around it.
-  Sequence offer(KeptExercise exercise, Waits& waits, End& end,
+  /// the host is busy it waits in `waits`, up to 10 s, with `show_wait` around it. A host that
+  /// stores in memory alone is given only what is not kept anyway.
+  Sequence offer(Interrupted interrupted, Waits& waits, End& end,
                  std::function<void(bool)> show_wait);
 
  private:
@@ -64,9 +71,10 @@ class InterruptedExercises {
   bool put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
                     const ProtocolFolders& folders);
   StoredState stored(const Settings& settings);
-  /// The training is stored unless the store holds anything else than `before`.
+  /// The training is stored unless the store holds anything else than `before`, or memory would
+  /// take what is `kept` on the disk.
   Sequence store(const SavedTraining& state, Settings& settings, const StoredState& before,
-                 Waits& waits, End& end);
+                 bool kept, Waits& waits, End& end);
   Message told(TextKey text, const KeptExercise& exercise) const;
   Message question(const StoredState& before, const KeptExercise& exercise) const;
   std::string words(TextKey text, const KeptExercise& exercise) const;

@@ -225,6 +225,10 @@ TEST_F(InterruptedFlowTest, AStoreThatFailsAndAnotherUserLeaveTheTrainingKept) {
   host.failing = {"STORE"};
   EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1171s]"));
   host.failing.clear();
+  host.lasting = false;
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1171s]"));
+  EXPECT_TRUE(host.records.empty() && kept.left.at(0).exercise.training) << "memory is no store";
+  host.lasting = true;
   host.answers["LOGIN"] = Variant::Array{"Grace"};
   EXPECT_TRUE(told(FlowBed(host, kept)).empty());
   host.answers.clear();
