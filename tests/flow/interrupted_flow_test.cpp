@@ -183,8 +183,21 @@ TEST_F(InterruptedFlowTest, AProtocolThatNoPlaceTookIsPutThereByTheNextStart) {
     bed.scheduler.advance_ms(450);
     EXPECT_TRUE(bed.settings().takes_input());
   }
-  const FlowBed next(host, kept);
-  ASSERT_EQ(next.documents.written.size(), 1U);
+  struct Start {
+    std::set<std::filesystem::path> broken;
+    std::string told;
+  };
+  for (const auto& [broken, words] :
+       {Start{{"/protocols", "/data"}, "[1169s] [1178s]"},
+        {{"/protocols"}, "[1169s] [1177s]\n/data/EXR261121090532.xml"}}) {
+    FakeDocumentWriter files;
+    files.broken_folders = broken;
+    const FlowBed next(host, kept, files, {"/protocols", "/data"});
+    EXPECT_THAT(told(next), testing::ElementsAre(words));
+    EXPECT_EQ(files.written.empty(), kept.left.size() == 1);
+    EXPECT_THAT(host.error_places(), testing::Contains("vemo06.take_up."));
+    host.calls.clear();
+  }
   EXPECT_TRUE(kept.left.empty());
 }
 
@@ -209,8 +222,8 @@ TEST_F(InterruptedFlowTest, AProtocolThatLiesWhereItBelongsIsNotPutThereAgain) {
   kept.damaged_ = {"", "/data/damaged-kept-2.xml"};
   kept.refuses = true;
   FlowBed next(host, kept, writer, folders);
-  EXPECT_THAT(told(next),
-              testing::ElementsAre("[1169s]", "[1020s]", "[1019s]\n/data/damaged-kept-2.xml"));
+  EXPECT_THAT(told(next), testing::ElementsAre("[1169s] [1176s]", "[1020s]",
+                                               "[1019s]\n/data/damaged-kept-2.xml"));
   EXPECT_TRUE(kept.left.empty());
   using Files = std::filesystem::directory_iterator;
   EXPECT_EQ(std::distance(Files(folders.protocols), {}), 2);
