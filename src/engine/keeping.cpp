@@ -98,8 +98,10 @@ void Keeping::end_session() {
   over_ = true;
   const FinishResult result = context_.protocol.ProtokollSchluss(caption(), window_.caption,
                                                                  context_.settings.EinstDatSave);
-  if (!result.failed && !kept_.training) return context_.kept.use_up();
-  write(result.failed ? Document::as_it_stands : Document::none);
+  // What does not lie where it belongs the next start finds and tells.
+  const bool in_place = !result.failed && !result.fell_back;
+  if (in_place && !kept_.training) return context_.kept.use_up();
+  write(in_place ? Document::none : Document::as_it_stands);
 }
 
 void Keeping::write(Document document) {

@@ -279,5 +279,27 @@ TEST_F(InterruptedFlowTest, TheEndOfTheSessionIsSilentWritesTheProtocolAndKeepsT
   }
 }
 
+TEST_F(InterruptedFlowTest, TheNextStartNamesWhereTheEndOfTheSessionHasPutTheProtocol) {
+  FileDocumentWriter writer;
+  for (const int level : {0, 1}) {
+    TemporaryFolder folder;
+    folder.write("protocols", "a file stands where the folder should be");
+    folder.write("data/host.log", "");
+    const ProtocolFolders folders{folder.path / "protocols", folder.path / "data"};
+    {
+      FlowBed bed(host, kept, writer, folders);
+      bed.answer_row(bed.begin(level));
+      bed.module.end_session();
+    }
+    kept.crash();
+    const std::string place = (folders.data / "EXR261121090532.xml").string();
+    EXPECT_EQ(host.calls_of("LOGERR").back().input.at(2).text(), "It lies in " + place);
+    const std::string state = level == 1 ? "[1168s]" : "[1169s]";
+    EXPECT_THAT(told(FlowBed(host, kept, writer, folders)),
+                testing::ElementsAre(state + " [1177s]\n" + place));
+    EXPECT_TRUE(kept.left.empty());
+  }
+}
+
 }  // namespace
 }  // namespace tonarix
