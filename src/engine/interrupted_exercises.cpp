@@ -231,12 +231,8 @@ Message InterruptedExercises::question(const StoredState& before,
   const bool damaged = before.read == RecordRead::damaged;
   if (damaged) asked += " " + texts_.Wort(text::replaces_damaged_training);
   if (says_valid(before.state)) asked += " " + texts_.Wort(text::replaces_saved_training);
-  return {"Tonarix 2000",
-          with_protocol(asked, interrupted),
-          MessageStyle::yes_no,
-          texts_.Wort(text::save_training),
-          texts_.Wort(text::do_not_save),
-          Reply::no};
+  return {"Tonarix 2000", with_protocol(asked, interrupted), MessageStyle::yes_no,
+          texts_.Wort(text::save_training), texts_.Wort(text::do_not_save)};
 }
 
 std::string InterruptedExercises::words(TextKey text, const KeptExercise& exercise) const {

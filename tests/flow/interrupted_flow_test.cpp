@@ -89,6 +89,7 @@ TEST_F(InterruptedFlowTest, WhatIsStoredMeanwhileWinsAndWhatWouldBeReplacedIsAsk
     const auto state = Variant::strings(kept.left.at(0).exercise.training->state);
     FlowBed bed(host, kept);
     EXPECT_THAT(told(bed), testing::ElementsAre("[1170s] [1138s]"));
+    EXPECT_EQ(bed.dialogs.shown[0].usual, Reply::yes) << "neither Return nor Escape drops it";
     bed.dialogs.answer(reply);
     EXPECT_EQ(host.records["vemo06/A1"], reply == Reply::yes ? state : newer);
     EXPECT_TRUE(kept.left.empty());
