@@ -1809,9 +1809,9 @@ Vorzeichen!</translation>
         <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Stand ist gespeichert, und Sie können sie mit „%3“ weiterführen.</translation>
     </message>
     <message id="1169s">
-        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen.</source>
         <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
-        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</translation>
+        <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen.</translation>
     </message>
     <message id="1170s">
         <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</source>
@@ -1841,6 +1841,21 @@ Vorzeichen!</translation>
         <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</source>
         <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
         <translation>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</translation>
+    </message>
+    <message id="1176s">
+        <source>Ihr Protokoll ist gespeichert.</source>
+        <extracomment>behind the message that an exercise was interrupted</extracomment>
+        <translation>Ihr Protokoll ist gespeichert.</translation>
+    </message>
+    <message id="1177s">
+        <source>Ihr Protokoll liegt im Datenordner, denn in den Protokollordner konnte es nicht geschrieben werden:</source>
+        <extracomment>behind the message that an exercise was interrupted; the path follows on the next line</extracomment>
+        <translation>Ihr Protokoll liegt im Datenordner, denn in den Protokollordner konnte es nicht geschrieben werden:</translation>
+    </message>
+    <message id="1178s">
+        <source>Ihr Protokoll konnte nicht geschrieben werden. Warum, steht in der Logdatei. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <extracomment>behind the message that an exercise was interrupted</extracomment>
+        <translation>Ihr Protokoll konnte nicht geschrieben werden. Warum, steht in der Logdatei. Beim nächsten Start des Programms wird es erneut versucht.</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

@@ -1809,9 +1809,9 @@ in any order.</translation>
         <translation>The exercise “%2” was interrupted after task %1. It has been saved, and you can go on with it by “%3”.</translation>
     </message>
     <message id="1169s">
-        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Ihr Protokoll ist gespeichert.</source>
+        <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen.</source>
         <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
-        <translation>The exercise “%2” was interrupted after task %1. Its protocol has been saved.</translation>
+        <translation>The exercise “%2” was interrupted after task %1.</translation>
     </message>
     <message id="1170s">
         <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Soll ihr Stand gespeichert werden, damit Sie sie mit „%3“ weiterführen können?</source>
@@ -1841,6 +1841,21 @@ in any order.</translation>
         <source>Die Übung „%2“ wurde nach Aufgabe %1 unterbrochen. Inzwischen ist ein neuerer Stand gespeichert; er bleibt, und der unterbrochene entfällt.</source>
         <extracomment>%1 number of tasks, %2 study, exercise and level</extracomment>
         <translation>The exercise “%2” was interrupted after task %1. Newer work has been saved meanwhile; it stays, and the interrupted work is dropped.</translation>
+    </message>
+    <message id="1176s">
+        <source>Ihr Protokoll ist gespeichert.</source>
+        <extracomment>behind the message that an exercise was interrupted</extracomment>
+        <translation>Its protocol has been saved.</translation>
+    </message>
+    <message id="1177s">
+        <source>Ihr Protokoll liegt im Datenordner, denn in den Protokollordner konnte es nicht geschrieben werden:</source>
+        <extracomment>behind the message that an exercise was interrupted; the path follows on the next line</extracomment>
+        <translation>Its protocol lies in the data folder, because it could not be written to the protocol folder:</translation>
+    </message>
+    <message id="1178s">
+        <source>Ihr Protokoll konnte nicht geschrieben werden. Warum, steht in der Logdatei. Beim nächsten Start des Programms wird es erneut versucht.</source>
+        <extracomment>behind the message that an exercise was interrupted</extracomment>
+        <translation>Its protocol could not be written; the log file says why. The next start of the program will try again.</translation>
     </message>
     <message id="1200s">
         <source>Einzel-Ergebnisse</source>

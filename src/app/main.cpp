@@ -1,12 +1,11 @@
 #include <QApplication>
 #include <QtGlobal>
 #include <cstdlib>
-#include <cstring>
+#include <filesystem>
 #include <iostream>
-#include <optional>
 #include <string>
-#include <vector>
 
+#include "app/language_choice.h"
 #include "app/options.h"
 #include "app/program.h"
 #include "app/session_end.h"
@@ -52,57 +51,13 @@ int tell_terminal(const std::string& line, int result) {
   return result;
 }
 
-std::vector<tonarix::LanguageRow> installed_languages() {
-  try {
-    return tonarix::catalogue_folder(tonarix::catalogue_place()).create_list()->languages();
-  } catch (const std::exception&) {
-    return {};
+tonarix::FoundCatalogues find_catalogues() {
+  const std::filesystem::path folder = tonarix::catalogue_place().lexically_normal();
+  tonarix::FoundCatalogues found{folder.string(), {}, tonarix::damaged_catalogues(folder)};
+  for (const auto& row : tonarix::catalogue_folder(folder).create_list()->languages()) {
+    found.languages.push_back(row.name);
   }
-}
-
-/// What is wrong with the catalogues. English, as there is no language to say it in.
-struct CatalogueTrouble {
-  std::string text;
-  bool ends = false;   ///< the program can't go on in the language asked for
-  bool typed = false;  ///< a name that was never there: for the terminal where it was typed
-};
-
-std::optional<CatalogueTrouble> catalogue_trouble(const std::string& name) {
-  const std::string folder = tonarix::catalogue_place().lexically_normal().string();
-  std::string damaged;
-  for (const std::string& file : tonarix::damaged_catalogues(folder)) damaged += " " + file;
-  const std::string help = " Install the program again.";
-  const auto languages = installed_languages();
-  if (languages.empty()) {
-    const std::string found =
-        damaged.empty() ? "There are no language catalogues in " + folder
-                        : "The language catalogues in " + folder + " are damaged:" + damaged;
-    return CatalogueTrouble{found + ". Every text will read VOID." + help};
-  }
-  std::string known;
-  for (const auto& language : languages) {
-    if (language.name == name) return {};
-    known += (known.empty() ? "" : ", ") + language.name;
-  }
-  if (damaged.empty()) {
-    return CatalogueTrouble{"--language: \"" + name + "\" is not one of " + known + ".", true,
-                            true};
-  }
-  return CatalogueTrouble{"The language \"" + name + "\" cannot be used: damaged in " + folder +
-                              ":" + damaged + "." + help + " Until then --language " +
-                              languages.front().name + " works.",
-                          true};
-}
-
-/// Whoever has not started the program in a terminal sees the same in a box.
-int tell_in_box(QApplication& application, const std::string& text) {
-  tonarix::QtScheduler scheduler;
-  const tonarix::Language none({});
-  tonarix::WindowList windows(scheduler);
-  tonarix::Presenter presenter(windows);
-  tonarix::QtDialogs dialogs(scheduler, none, presenter);
-  dialogs.show(tonarix::warning(text), [](tonarix::Reply) { QCoreApplication::exit(2); });
-  return application.exec();
+  return found;
 }
 
 void quiet_qt(QtMsgType type, const QMessageLogContext&, const QString& text) {
@@ -138,9 +93,10 @@ int main(int argc, char* argv[]) {
       break;
   }
   if (!find_data_folder(options)) return 2;
-  const auto trouble = catalogue_trouble(options.language);
-  if (trouble) tell_terminal(trouble->text, 2);
-  if (trouble && (trouble->typed || (trouble->ends && display_missing()))) return 2;
+  const auto [language, trouble] = tonarix::choose_language(options.language, find_catalogues());
+  if (!trouble.empty()) tell_terminal(trouble, 2);
+  if (language.empty()) return 2;
+  options.language = language;
   if (display_missing()) {
     return tell_terminal(
         "there is no display. Start the program from the desktop; over the network, connect with "
@@ -152,10 +108,9 @@ int main(int argc, char* argv[]) {
   QApplication application(one, argv);
   application.setQuitOnLastWindowClosed(false);
   tonarix::theme::apply(application);
-  if (trouble && trouble->ends) return tell_in_box(application, trouble->text);
   tonarix::Program program(options);
   const tonarix::SessionEnd session_end(application, program);
   program.open();
-  if (trouble) program.tell(trouble->text);
+  if (!trouble.empty()) program.tell(trouble);  // whoever has not started it in a terminal
   return application.exec();
 }

@@ -11,10 +11,10 @@ namespace tonarix {
 struct Options {
   enum class Task { open_module, list_midi, show_version, show_help };
   Task task = Task::open_module;
-  std::filesystem::path data;       ///< embedded host's folder; empty: the usual one is meant
-  std::optional<std::string> user;  ///< "Name;Vorname;Matrikel-Nr."; none: not logged on
-  int role = 2;                     ///< 2 ordinary user, 4 supervisor
-  std::string language = "Deutsch";
+  std::filesystem::path data;           ///< embedded host's folder; empty: the usual one is meant
+  std::optional<std::string> user;      ///< "Name;Vorname;Matrikel-Nr."; none: not logged on
+  int role = 2;                         ///< 2 ordinary user, 4 supervisor
+  std::optional<std::string> language;  ///< none: the usual one
   std::optional<int> midi;              ///< device number
   std::vector<std::string> parameters;  ///< the host's own "/P=" list; not used
 };

@@ -52,7 +52,7 @@ LocalHostOptions host_options(const Options& options) {
   return {.folder = options.data,
           .user = options.user,
           .role = options.role,
-          .language = options.language,
+          .language = options.language.value_or(""),
           .midi = options.midi};
 }
 
@@ -79,8 +79,7 @@ std::filesystem::path catalogue_place() {
   for (const auto& place :
        {program / "lang", program / ".." / "lang", program / ".." / ".." / "lang",
         std::filesystem::path("/usr/share/tonarix/lang")}) {
-    std::error_code ignored;
-    if (std::filesystem::exists(place / "tonarixlang.deutsch.qm", ignored)) return place;
+    if (holds_catalogues(place)) return place;
   }
   return program / "lang";
 }

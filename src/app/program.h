@@ -26,7 +26,7 @@ class SystemClock final : public WallClock {
 /// The running program: the real clock, devices, host and windows around the module.
 class Program {
  public:
-  /// Needs the QApplication, and a folder for its data among the options.
+  /// Needs the QApplication, and among the options a folder for its data and the language.
   explicit Program(const Options& options);
   ~Program();
   Program(const Program&) = delete;

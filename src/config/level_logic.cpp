@@ -49,8 +49,11 @@ void LevelLogic::look_for_training() {
 }
 
 void LevelLogic::look_again() {
-  if (saved_ != RecordRead::failed) return;
+  if (saved_ == RecordRead::found) return;
+  const RecordRead before = saved_;
+  const std::string line = controls_.status.text;
   look_for_training();
+  if (saved_ == before && before != RecordRead::failed) controls_.status.text = line;
   choices_.show(Choice::Uebungsmodus);
 }
 

@@ -21,7 +21,7 @@ class LevelLogic {
 
   /// Fills both lists and begins at the free level.
   void begin();
-  /// A training that could not be read is looked for again.
+  /// Where no training is offered it is looked for again: it may be readable now, or stored by now.
   void look_again();
   /// Another level, another exam has been chosen.
   void level_chosen();

@@ -61,6 +61,10 @@ Way way_with(const KeptExercise& exercise, const StoredState& before) {
   return replaces || exercise.user.empty() ? Way::asked : Way::stored;
 }
 
+std::string with_protocol(const std::string& told, const Interrupted& interrupted) {
+  return interrupted.protocol.empty() ? told : told + " " + interrupted.protocol;
+}
+
 }  // namespace
 
 std::optional<std::string> user_name(Server& server) {
@@ -74,43 +78,61 @@ std::optional<std::string> user_name(Server& server) {
 void InterruptedExercises::take_up(KeptExercises& kept, DocumentWriter& writer,
                                    const ProtocolFolders& folders) {
   const std::optional<std::string> user = user_name(server_);
-  left_ = kept.left_behind();
+  std::vector<KeptExercises::Left> all = kept.left_behind();
   // The oldest first: what is written anew keeps its place in the order of time.
-  std::ranges::reverse(left_);
-  std::erase_if(left_, [&](KeptExercises::Left& left) {
-    KeptExercise& exercise = left.exercise;
-    if (!exercise.document.empty() && put_protocol(exercise, writer, folders)) {
-      exercise.document.clear();
-      kept.keep(exercise, left.name);  // or else the next start finds that the protocol lies there
+  std::ranges::reverse(all);
+  for (auto& [name, exercise] : all) {
+    std::string protocol;
+    if (!exercise.document.empty()) {
+      const auto place = put_protocol(exercise, writer, folders);
+      protocol = protocol_words(place, folders);
+      if (place) {
+        exercise.document.clear();
+        kept.keep(exercise, name);  // or else the next start finds that the protocol lies there
+      }
     }
     const bool own = user && (exercise.user == *user || exercise.user.empty());
-    if (!own && !exercise.training && exercise.document.empty()) kept.use_up(left.name);
-    return !own;
-  });
+    if (own) {
+      left_.push_back({name, {exercise, true, protocol}});
+    } else if (!exercise.training && exercise.document.empty()) {
+      kept.use_up(name);
+    }
+  }
   telling_ = take_up_all(kept);
   telling_->start();
 }
 
-bool InterruptedExercises::put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
-                                        const ProtocolFolders& folders) {
+std::optional<std::filesystem::path> InterruptedExercises::put_protocol(
+    const KeptExercise& exercise, DocumentWriter& writer, const ProtocolFolders& folders) {
   const std::filesystem::path file = std::filesystem::path(exercise.file).filename();
   for (const auto& folder : {folders.protocols, folders.data}) {
-    if (lies_in(folder, file, exercise.document)) return true;  // put there before
+    if (auto before = written_in(folder, file, exercise.document)) return before;
   }
   for (const auto& folder : {folders.protocols, folders.data}) {
     const WriteResult result = writer.write(folder / file, exercise.document);
-    if (result.written) return true;
-    errors_.log(kTag, std::make_exception_ptr(RuntimeError(
-                          RuntimeError::kPathError, (folder / file).string() + ": " + result.reason,
-                          "take_up")));
+    if (result.written && folder == folders.data) log("A protocol lies in " + result.path.string());
+    if (result.written) return result.path;
+    log((folder / file).string() + ": " + result.reason);
   }
-  return false;
+  return {};
+}
+
+std::string InterruptedExercises::protocol_words(const std::optional<std::filesystem::path>& place,
+                                                 const ProtocolFolders& folders) const {
+  if (!place) return texts_.Wort(text::interrupted_protocol_not_written);
+  if (place->parent_path() != folders.data || folders.data == folders.protocols) return {};
+  return texts_.Wort(text::interrupted_protocol_elsewhere) + "\n" + place->string();
+}
+
+void InterruptedExercises::log(const std::string& line) {
+  const RuntimeError error(RuntimeError::kPathError, line, "take_up");
+  errors_.log(kTag, std::make_exception_ptr(error));
 }
 
 // One after the other: what the newest training has brought into the store the older ones meet.
 Sequence InterruptedExercises::take_up_all(KeptExercises& kept) {
   while (!left_.empty()) {
-    KeptExercises::Left left = std::move(left_.back());
+    Left left = std::move(left_.back());
     left_.pop_back();
     try {
       co_await take_up_one(kept, std::move(left));
@@ -120,17 +142,20 @@ Sequence InterruptedExercises::take_up_all(KeptExercises& kept) {
   }
 }
 
-Sequence InterruptedExercises::take_up_one(KeptExercises& kept, const KeptExercises::Left left) {
+Sequence InterruptedExercises::take_up_one(KeptExercises& kept, const Left left) {
   End end = End::nothing;
-  if (left.exercise.training) {
+  KeptExercise still = left.interrupted.exercise;
+  if (still.training) {
     std::function<void(bool)> no_window;
-    co_await offer(left.exercise, waits_, end, std::move(no_window));
+    co_await offer(left.interrupted, waits_, end, std::move(no_window));
   } else {
-    const Message message = told(text::exercise_interrupted, left.exercise);
+    Interrupted interrupted = left.interrupted;
+    std::string& protocol = interrupted.protocol;
+    if (protocol.empty()) protocol = texts_.Wort(text::interrupted_protocol_saved);
+    const Message message = told(text::exercise_interrupted, interrupted);
     co_await ask(waits_, dialogs_, message);
   }
   if (end == End::stays_kept) co_return;
-  KeptExercise still = left.exercise;
   still.training.reset();
   still.document.empty() ? kept.use_up(left.name) : void(kept.keep(still, left.name));
 }
@@ -146,15 +171,16 @@ StoredState InterruptedExercises::stored(const Settings& settings) {
   return found;
 }
 
-Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& end,
+Sequence InterruptedExercises::offer(Interrupted interrupted, Waits& waits, End& end,
                                      std::function<void(bool)> show_wait) {
   end = End::nothing;
+  const KeptExercise& exercise = interrupted.exercise;
   TextKey became = text::training_not_usable;
   if (std::optional<Training> training = read(*exercise.training)) {
     StoredState before = stored(training->settings);
-    Way way = way_with(exercise, before);
+    Way way = interrupted.kept && !server_.lasting() ? Way::left_kept : way_with(exercise, before);
     for (bool agreed = false; way == Way::asked && !agreed;) {
-      const Message asked = question(before, exercise);
+      const Message asked = question(before, interrupted);
       const Reply reply = co_await ask(waits, dialogs_, asked);
       end = End::refused;
       if (reply != Reply::yes) co_return;
@@ -167,7 +193,7 @@ Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& e
     end = way == Way::dropped ? End::nothing : End::stays_kept;
     if (way == Way::stored || asked) {
       if (show_wait) show_wait(true);
-      co_await store(training->state, training->settings, before, waits, end);
+      co_await store(training->state, training->settings, before, interrupted.kept, waits, end);
       if (show_wait) show_wait(false);
     }
     if (end == End::stored && asked) co_return;
@@ -175,36 +201,38 @@ Sequence InterruptedExercises::offer(KeptExercise exercise, Waits& waits, End& e
              : end == End::nothing ? text::newer_training_stays
                                    : text::interrupted_not_stored;
   }
-  const Message message = told(became, exercise);
+  const Message message = told(became, interrupted);
   co_await ask(waits, dialogs_, message);
 }
 
 Sequence InterruptedExercises::store(const SavedTraining& state, Settings& settings,
-                                     const StoredState& before, Waits& waits, End& end) {
+                                     const StoredState& before, bool kept, Waits& waits, End& end) {
   std::optional<SavedTraining> current;
-  bool kept = false;
+  bool done = false;
   TrainingRecord record(server_, errors_, settings, current, scheduler_, waits, kTag);
-  std::function<bool()> still = [this, &settings, &before] { return stored(settings) == before; };
-  co_await record.keep(state, kept, std::move(still));
-  end = kept ? End::stored : End::stays_kept;
+  std::function<bool()> still = [this, &settings, &before, kept] {
+    return stored(settings) == before && (!kept || server_.lasting());
+  };
+  co_await record.keep(state, done, std::move(still));
+  end = done ? End::stored : End::stays_kept;
 }
 
-Message InterruptedExercises::told(TextKey text, const KeptExercise& exercise) const {
-  return {"Tonarix 2000", words(text, exercise), MessageStyle::plain, {}, {}};
+Message InterruptedExercises::told(TextKey text, const Interrupted& interrupted) const {
+  return {"Tonarix 2000",
+          with_protocol(words(text, interrupted.exercise), interrupted),
+          MessageStyle::plain,
+          {},
+          {}};
 }
 
 Message InterruptedExercises::question(const StoredState& before,
-                                       const KeptExercise& exercise) const {
-  std::string asked = words(text::keep_interrupted_training, exercise);
+                                       const Interrupted& interrupted) const {
+  std::string asked = words(text::keep_interrupted_training, interrupted.exercise);
   const bool damaged = before.read == RecordRead::damaged;
   if (damaged) asked += " " + texts_.Wort(text::replaces_damaged_training);
   if (says_valid(before.state)) asked += " " + texts_.Wort(text::replaces_saved_training);
-  return {"Tonarix 2000",
-          asked,
-          MessageStyle::yes_no,
-          texts_.Wort(text::save_training),
-          texts_.Wort(text::do_not_save),
-          Reply::no};
+  return {"Tonarix 2000", with_protocol(asked, interrupted), MessageStyle::yes_no,
+          texts_.Wort(text::save_training), texts_.Wort(text::do_not_save)};
 }
 
 std::string InterruptedExercises::words(TextKey text, const KeptExercise& exercise) const {

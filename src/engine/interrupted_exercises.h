@@ -29,6 +29,14 @@ struct StoredState {
 /// The user's data in one text, to tell whose an exercise is; nothing when the host does not say.
 std::optional<std::string> user_name(Server& server);
 
+/// An exercise that came to no end of its own.
+struct Interrupted {
+  KeptExercise exercise;
+  bool kept = true;  ///< it lies on the disk until its training is settled
+  std::string protocol =
+      {};  ///< what the student must know of its protocol; empty when all is well
+};
+
 /// Exercises that came to no end of their own: their protocols go where they belong, their
 /// trainings into the store, and the student is told in one box each.
 class InterruptedExercises {
@@ -54,21 +62,34 @@ class InterruptedExercises {
   void take_up(KeptExercises& kept, DocumentWriter& writer, const ProtocolFolders& folders);
   /// Stores the training of the exercise and says what became of it. A training that was saved
   /// meanwhile wins; to replace an older one, or a record that is damaged, is asked first. While
-  /// the host is busy it waits in `waits`, up to 10 s, with `show_wait` around it.
-  Sequence offer(KeptExercise exercise, Waits& waits, End& end,
+  /// the host is busy it waits in `waits`, up to 10 s, with `show_wait` around it. A host that
+  /// stores in memory alone is given only what is not kept anyway.
+  Sequence offer(Interrupted interrupted, Waits& waits, End& end,
                  std::function<void(bool)> show_wait);
 
  private:
   Sequence take_up_all(KeptExercises& kept);
-  Sequence take_up_one(KeptExercises& kept, const KeptExercises::Left left);
-  bool put_protocol(const KeptExercise& exercise, DocumentWriter& writer,
-                    const ProtocolFolders& folders);
+  struct Left {
+    std::string name;
+    Interrupted interrupted;
+  };
+
+  Sequence take_up_one(KeptExercises& kept, const Left left);
+  /// Where the protocol lies from now on; nothing where no place takes it, which the log tells.
+  std::optional<std::filesystem::path> put_protocol(const KeptExercise& exercise,
+                                                    DocumentWriter& writer,
+                                                    const ProtocolFolders& folders);
+  /// What is said of a protocol that does not lie where it belongs; else nothing.
+  std::string protocol_words(const std::optional<std::filesystem::path>& place,
+                             const ProtocolFolders& folders) const;
+  void log(const std::string& line);
   StoredState stored(const Settings& settings);
-  /// The training is stored unless the store holds anything else than `before`.
+  /// The training is stored unless the store holds anything else than `before`, or memory would
+  /// take what is `kept` on the disk.
   Sequence store(const SavedTraining& state, Settings& settings, const StoredState& before,
-                 Waits& waits, End& end);
-  Message told(TextKey text, const KeptExercise& exercise) const;
-  Message question(const StoredState& before, const KeptExercise& exercise) const;
+                 bool kept, Waits& waits, End& end);
+  Message told(TextKey text, const Interrupted& interrupted) const;
+  Message question(const StoredState& before, const Interrupted& interrupted) const;
   std::string words(TextKey text, const KeptExercise& exercise) const;
 
   Scheduler& scheduler_;
@@ -76,7 +97,7 @@ class InterruptedExercises {
   ErrorReport& errors_;
   const Texts& texts_;
   Dialogs& dialogs_;
-  std::vector<KeptExercises::Left> left_;  ///< still to be told of, newest last
+  std::vector<Left> left_;  ///< still to be told of, newest last
   Waits waits_;
   std::optional<Sequence> telling_;
 };

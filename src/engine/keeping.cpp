@@ -72,7 +72,8 @@ Sequence Keeping::tell_interrupted(Waits& waits, std::function<void(bool)> show_
   if (!kept_.training) co_return;
   using End = InterruptedExercises::End;
   End end = End::stays_kept;
-  co_await context_.interrupted.offer(kept_, waits, end, std::move(show_wait));
+  const Interrupted interrupted{kept_, lies_kept_};
+  co_await context_.interrupted.offer(interrupted, waits, end, std::move(show_wait));
   if (end == End::stored) context_.caller.training_saved();
   if (end != End::stays_kept) settle_training();
 }
@@ -97,8 +98,10 @@ void Keeping::end_session() {
   over_ = true;
   const FinishResult result = context_.protocol.ProtokollSchluss(caption(), window_.caption,
                                                                  context_.settings.EinstDatSave);
-  if (!result.failed && !kept_.training) return context_.kept.use_up();
-  write(result.failed ? Document::as_it_stands : Document::none);
+  // What does not lie where it belongs the next start finds and tells.
+  const bool in_place = !result.failed && !result.fell_back;
+  if (in_place && !kept_.training) return context_.kept.use_up();
+  write(in_place ? Document::none : Document::as_it_stands);
 }
 
 void Keeping::write(Document document) {
@@ -119,7 +122,8 @@ void Keeping::keep(Document document) {
   if (document == Document::as_it_stands) {
     kept_.document = context_.protocol.so_far(caption(), window_.caption, settings.EinstDatSave);
   }
-  if (context_.kept.keep(kept_)) return;
+  lies_kept_ = context_.kept.keep(kept_);
+  if (lies_kept_) return;
   throw RuntimeError(RuntimeError::kPathError, "The exercise could not be kept", "Keeping");
 }
 

@@ -53,6 +53,7 @@ class Keeping {
   KeptExercise kept_;
   std::optional<KeptTraining> begun_;  ///< as the exercise found the store
   std::optional<SavedTraining> training_;
+  bool lies_kept_ = false;  ///< as it stands now
   bool over_ = false;
 };
 

@@ -38,7 +38,7 @@ Sequence TrainingRecord::keep(SavedTraining training, bool& kept, std::function<
     std::optional<Former> former;
     std::function<void()> store_both = [this, &records, &former, &still] {
       if (!former && still && !still()) {
-        throw RuntimeError(RuntimeError::kHostFailure, "Another training was stored meanwhile",
+        throw RuntimeError(RuntimeError::kHostFailure, "The store is not as it was found",
                            "TrainingRecord");
       }
       if (server_.ServerStoreTogether(records)) return;

@@ -69,6 +69,9 @@ class Host {
   /// Stores several records at once, each as "STORE" takes it: all of them or, when the call
   /// raises, none. False, with nothing stored, where the host can't.
   virtual bool StoreTogether(const Variant::Array&) { return false; }
+  /// False while a store would go no further than memory and end with the program, as the last call
+  /// found it.
+  virtual bool lasting() const { return true; }
 };
 
 }  // namespace tonarix

@@ -67,6 +67,8 @@ class Server {
     Variant data;
   };
   bool ServerStoreTogether(const std::vector<Record>& records);
+  /// False while the host keeps in memory alone what is stored; as its last call found it.
+  bool lasting() { return ServerObject().lasting(); }
   /// Reads a record of texts; false, with the target untouched, when there is none or it can't be
   /// read.
   bool ServerRead(const std::string& short_key, std::vector<std::string>& target) {

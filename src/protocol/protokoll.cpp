@@ -190,6 +190,7 @@ FinishResult Protokoll::finish_again() {
     result.path = second.path;
     result.fell_back = second.written;
     result.failed = !second.written;
+    if (result.fell_back) log("It lies in " + result.path.string());
   }
   if (!result.failed) finished_ = result;
   return result;
@@ -198,12 +199,13 @@ FinishResult Protokoll::finish_again() {
 WriteResult Protokoll::write_to(const std::filesystem::path& path) {
   document_.SetFileName(path);
   WriteResult result = document_.Finish();
-  if (!result.written) {
-    logger_("ProtokollSchluss.", std::make_exception_ptr(RuntimeError(
-                                     RuntimeError::kPathError, path.string() + ": " + result.reason,
-                                     "ProtokollSchluss")));
-  }
+  if (!result.written) log(path.string() + ": " + result.reason);
   return result;
+}
+
+void Protokoll::log(const std::string& line) const {
+  const RuntimeError error(RuntimeError::kPathError, line, "ProtokollSchluss");
+  logger_("ProtokollSchluss.", std::make_exception_ptr(error));
 }
 
 Element Protokoll::section(const std::string& name) const {

@@ -88,7 +88,7 @@ class Protokoll {
   const std::filesystem::path& file_name() const { return file_; }
   /// Tries to write the finished document again, for a user who has made room meanwhile; one that
   /// lies somewhere is not written a second time. A place that does not take it is logged under
-  /// "ProtokollSchluss." with the system's words.
+  /// "ProtokollSchluss." with the system's words, and so is the data folder's file.
   FinishResult finish_again();
 
  private:
@@ -98,6 +98,7 @@ class Protokoll {
   void tell_exercise(const std::string& caption, const std::string& name,
                      const std::vector<std::string>& pairs);
   WriteResult write_to(const std::filesystem::path& path);
+  void log(const std::string& line) const;
   Element section(const std::string& name) const;
   Element current_answer() const;
 

@@ -1,7 +1,6 @@
 #include "protocol/written_protocol.h"
 
 #include <algorithm>
-#include <optional>
 #include <pugixml.hpp>
 #include <sstream>
 #include <string>
@@ -44,10 +43,11 @@ bool begins_with(const Told& written, const Told& kept) {
 
 }  // namespace
 
-bool lies_in(const std::filesystem::path& folder, const std::filesystem::path& file,
-             std::string_view document) {
+std::optional<std::filesystem::path> written_in(const std::filesystem::path& folder,
+                                                const std::filesystem::path& file,
+                                                std::string_view document) {
   const std::optional<Told> kept = told_in(document);
-  if (!kept) return false;
+  if (!kept) return {};
   const std::string stem = file.stem();
   std::error_code error;
   for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -56,9 +56,9 @@ bool lies_in(const std::filesystem::path& folder, const std::filesystem::path& f
     if (!path.filename().string().starts_with(stem) || path.extension() != file.extension())
       continue;
     const std::optional<Told> written = told_in(content_of(path).value_or(""));
-    if (written && begins_with(*written, *kept)) return true;
+    if (written && begins_with(*written, *kept)) return path;
   }
-  return false;
+  return {};
 }
 
 }  // namespace tonarix

@@ -120,6 +120,18 @@ TEST(Levels, ATrainingThatCannotBeReadNowIsToldAndOfferedAgainWhenItCan) {
   }
 }
 
+TEST(Levels, ATrainingStoredWhileTheWindowStandsIsOfferedWhenTheListIsOpened) {
+  SettingsBed bed;
+  Einstellung1& window = bed.open();
+  window.open_list(window.training_Combo);
+  EXPECT_EQ(window.training_Combo.items[2].text, "---------------");
+  bed.store("E1", kSaved);
+  bed.store("A1", kState);
+  window.open_list(window.training_Combo);
+  EXPECT_EQ(window.training_Combo.items[2].text, "[565]");
+  EXPECT_EQ(window.training_Combo.selected, 0);
+}
+
 TEST(Levels, ADamagedRecordIsToldOnceWhenTheTrainingIsLookedFor) {
   for (const char* key : {"E1", "A1"}) {
     for (const auto& other : {kState, {"False"}, {}}) {

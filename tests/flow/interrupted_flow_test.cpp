@@ -89,6 +89,7 @@ TEST_F(InterruptedFlowTest, WhatIsStoredMeanwhileWinsAndWhatWouldBeReplacedIsAsk
     const auto state = Variant::strings(kept.left.at(0).exercise.training->state);
     FlowBed bed(host, kept);
     EXPECT_THAT(told(bed), testing::ElementsAre("[1170s] [1138s]"));
+    EXPECT_EQ(bed.dialogs.shown[0].usual, Reply::yes) << "neither Return nor Escape drops it";
     bed.dialogs.answer(reply);
     EXPECT_EQ(host.records["vemo06/A1"], reply == Reply::yes ? state : newer);
     EXPECT_TRUE(kept.left.empty());
@@ -183,8 +184,21 @@ TEST_F(InterruptedFlowTest, AProtocolThatNoPlaceTookIsPutThereByTheNextStart) {
     bed.scheduler.advance_ms(450);
     EXPECT_TRUE(bed.settings().takes_input());
   }
-  const FlowBed next(host, kept);
-  ASSERT_EQ(next.documents.written.size(), 1U);
+  struct Start {
+    std::set<std::filesystem::path> broken;
+    std::string told;
+  };
+  for (const auto& [broken, words] :
+       {Start{{"/protocols", "/data"}, "[1169s] [1178s]"},
+        {{"/protocols"}, "[1169s] [1177s]\n/data/EXR261121090532.xml"}}) {
+    FakeDocumentWriter files;
+    files.broken_folders = broken;
+    const FlowBed next(host, kept, files, {"/protocols", "/data"});
+    EXPECT_THAT(told(next), testing::ElementsAre(words));
+    EXPECT_EQ(files.written.empty(), kept.left.size() == 1);
+    EXPECT_THAT(host.error_places(), testing::Contains("vemo06.take_up."));
+    host.calls.clear();
+  }
   EXPECT_TRUE(kept.left.empty());
 }
 
@@ -209,8 +223,8 @@ TEST_F(InterruptedFlowTest, AProtocolThatLiesWhereItBelongsIsNotPutThereAgain) {
   kept.damaged_ = {"", "/data/damaged-kept-2.xml"};
   kept.refuses = true;
   FlowBed next(host, kept, writer, folders);
-  EXPECT_THAT(told(next),
-              testing::ElementsAre("[1169s]", "[1020s]", "[1019s]\n/data/damaged-kept-2.xml"));
+  EXPECT_THAT(told(next), testing::ElementsAre("[1169s] [1176s]", "[1020s]",
+                                               "[1019s]\n/data/damaged-kept-2.xml"));
   EXPECT_TRUE(kept.left.empty());
   using Files = std::filesystem::directory_iterator;
   EXPECT_EQ(std::distance(Files(folders.protocols), {}), 2);
@@ -225,6 +239,10 @@ TEST_F(InterruptedFlowTest, AStoreThatFailsAndAnotherUserLeaveTheTrainingKept) {
   host.failing = {"STORE"};
   EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1171s]"));
   host.failing.clear();
+  host.lasting = false;
+  EXPECT_THAT(told(FlowBed(host, kept)), testing::ElementsAre("[1171s]"));
+  EXPECT_TRUE(host.records.empty() && kept.left.at(0).exercise.training) << "memory is no store";
+  host.lasting = true;
   host.answers["LOGIN"] = Variant::Array{"Grace"};
   EXPECT_TRUE(told(FlowBed(host, kept)).empty());
   host.answers.clear();
@@ -259,6 +277,28 @@ TEST_F(InterruptedFlowTest, TheEndOfTheSessionIsSilentWritesTheProtocolAndKeepsT
     EXPECT_EQ(told(next),
               level == 1 ? std::vector<std::string>{"[1168s]"} : std::vector<std::string>{});
     EXPECT_TRUE(next.documents.written.empty()) << "the protocol lies where it belongs";
+  }
+}
+
+TEST_F(InterruptedFlowTest, TheNextStartNamesWhereTheEndOfTheSessionHasPutTheProtocol) {
+  FileDocumentWriter writer;
+  for (const int level : {0, 1}) {
+    TemporaryFolder folder;
+    folder.write("protocols", "a file stands where the folder should be");
+    folder.write("data/host.log", "");
+    const ProtocolFolders folders{folder.path / "protocols", folder.path / "data"};
+    {
+      FlowBed bed(host, kept, writer, folders);
+      bed.answer_row(bed.begin(level));
+      bed.module.end_session();
+    }
+    kept.crash();
+    const std::string place = (folders.data / "EXR261121090532.xml").string();
+    EXPECT_EQ(host.calls_of("LOGERR").back().input.at(2).text(), "It lies in " + place);
+    const std::string state = level == 1 ? "[1168s]" : "[1169s]";
+    EXPECT_THAT(told(FlowBed(host, kept, writer, folders)),
+                testing::ElementsAre(state + " [1177s]\n" + place));
+    EXPECT_TRUE(kept.left.empty());
   }
 }
 

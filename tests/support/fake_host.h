@@ -54,6 +54,7 @@ class FakeHost {
   std::set<std::string> failing;           ///< keys whose call raises
   std::set<std::string> failing_records;   ///< records that can't be stored: "vemo06/E1"
   bool together = false;                   ///< takes several records at once
+  bool lasting = true;                     ///< else what is stored ends with the program
   int busy = 0;                            ///< so many stores are refused as HostBusy
   std::string fates;  ///< of the next stores: r refused, s stored and refused, b busy
   std::map<std::string, Variant> records;  ///< the store: "vemo06/E1"
@@ -85,6 +86,7 @@ class FakeHost {
       }
       return true;
     }
+    bool lasting() const override { return owner.lasting; }
     FakeHost& owner;
     int instance;
   };

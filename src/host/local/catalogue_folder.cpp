@@ -56,7 +56,8 @@ std::vector<std::string> suffixes_in(const std::filesystem::path& folder) {
   std::vector<std::string> suffixes;
   const std::string start = kClass;
   const std::string end = kEnding;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+  std::error_code missing;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
     const std::string file = entry.path().filename().string();
     if (file.size() <= start.size() + end.size() || !file.starts_with(start)) continue;
     if (!file.ends_with(end)) continue;
@@ -108,10 +109,12 @@ LanguageLibraries catalogue_folder(const std::filesystem::path& folder) {
   };
 }
 
+bool holds_catalogues(const std::filesystem::path& folder) {
+  return !suffixes_in(folder).empty();
+}
+
 std::vector<std::string> damaged_catalogues(const std::filesystem::path& folder) {
   std::vector<std::string> damaged;
-  std::error_code missing;
-  if (!std::filesystem::is_directory(folder, missing)) return damaged;
   for (const std::string& suffix : suffixes_in(folder)) {
     if (!name_in(folder, suffix)) damaged.push_back(file_of(suffix));
   }

@@ -14,6 +14,8 @@ namespace tonarix {
 /// that can't be read, or is not as they say, is no language.
 LanguageLibraries catalogue_folder(const std::filesystem::path& folder);
 
+/// True where there is a file that is called like a catalogue, whole or not.
+bool holds_catalogues(const std::filesystem::path& folder);
 /// Names of the files in the folder that should be catalogues and are not whole.
 std::vector<std::string> damaged_catalogues(const std::filesystem::path& folder);
 

@@ -62,6 +62,7 @@ class LocalHost final : public Host {
   explicit LocalHost(LocalHostHome& home) : home_(home) {}
   bool Request(std::string& key, Variant& input, Variant& output) override;
   bool StoreTogether(const Variant::Array& inputs) override;
+  bool lasting() const override { return !home_.store_.in_memory(); }
 
  private:
   void login(Variant& output) const;

@@ -45,7 +45,12 @@ RecordStore::~RecordStore() {
     } catch (const Overtaken&) {
       again = true;  // told; the rest may go its way
     } catch (const std::exception& error) {
-      if (log_) log_(std::string("Records are lost with memory: ") + error.what());
+      reason_ = error.what();
+    }
+  }
+  for (const Batch& lost : memory_) {
+    for (const auto& [name, text] : lost.texts) {
+      if (log_) log_("Lost with memory: " + name.key + " of " + name.module + ": " + reason_);
     }
   }
 }
@@ -131,8 +136,11 @@ void RecordStore::write(const RecordTexts& records) {
   look_again();
   flush();
   if (state_ == State::writable) return file_->write(records);
-  const bool reads = place_ == Place::memory && state_ == State::readable;
-  reads || without_file() ? hold(records) : refuse();
+  in_memory() ? hold(records) : refuse();
+}
+
+bool RecordStore::in_memory() const {
+  return (place_ == Place::memory && state_ == State::readable) || without_file();
 }
 
 std::optional<std::string> RecordStore::read(const RecordName& name) {

@@ -30,6 +30,7 @@ class RecordStore {
   /// `file_stamp` goes into the name of a damaged file that is put aside; `patience_ms` is how long
   /// a call waits for another program that writes. `log` takes what came to pass after the start.
   RecordStore(std::filesystem::path file, std::string file_stamp, int patience_ms, Log log = {});
+  /// What memory holds goes into the file now, or is lost and logged.
   ~RecordStore();
   RecordStore(const RecordStore&) = delete;
   RecordStore& operator=(const RecordStore&) = delete;
@@ -50,6 +51,8 @@ class RecordStore {
   void write(const RecordTexts& records);
   /// The record, or nothing when there is none. RuntimeError 440 or HostBusy when it can't be read.
   std::optional<std::string> read(const RecordName& name);
+  /// True while what is written stays in memory, as the last call found the file.
+  bool in_memory() const;
 
  private:
   using State = RecordFile::State;

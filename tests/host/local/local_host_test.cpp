@@ -149,6 +149,7 @@ TEST_F(LocalHostTest, WithoutAFolderTheHostRunsInMemoryAndSaysSo) {
   EXPECT_EQ(session.problem(), 1010_text);
   EXPECT_EQ(session.home.problems()[0].detail, (folder.path / "data").string());
   EXPECT_EQ(session.home.problems()[0].error, std::errc::not_a_directory);
+  EXPECT_FALSE(session.server.lasting());
   session.store({"1"});
   EXPECT_THAT(session.read(), ElementsAre("1"));
 }
@@ -297,10 +298,12 @@ struct OrdinaryUser {
 };
 
 TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
-  for (const bool overtaken : {false, true}) {
+  for (const std::string end : {"for now", "newer", "kept"}) {
+    const bool overtaken = end == "newer", lost = end == "kept";
     std::filesystem::permissions(folder.path, std::filesystem::perms(0755));
     std::filesystem::remove_all(folder.path / "data");
     Session(folder).store({"kept"});
+    std::filesystem::permissions(folder.path / "data/host.log", std::filesystem::perms(0666));
     std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
     std::optional<OrdinaryUser> user(std::in_place, folder.path, file);
     std::optional<Session> session(std::in_place, folder);
@@ -309,11 +312,15 @@ TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
     EXPECT_THAT(session->read(), ElementsAre("kept"));
     session->store({"for now"});
     EXPECT_THAT(session->read(), ElementsAre("for now"));
+    EXPECT_FALSE(session->server.lasting());
+    if (lost) session.reset();
     user.reset();
     std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0755));
     if (overtaken) Session(folder).store({"newer"});
     session.reset();
-    EXPECT_THAT(Session(folder).read(), ElementsAre(overtaken ? "newer" : "for now"));
+    EXPECT_THAT(Session(folder).read(), ElementsAre(end));
+    EXPECT_EQ(folder.content("data/host.log").find("Lost with memory: A1") != std::string::npos,
+              lost);
   }
 }
 
