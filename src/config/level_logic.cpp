@@ -40,12 +40,14 @@ void LevelLogic::leave() {
 
 void LevelLogic::look_for_training() {
   fill_levels(saved_training(context_.server, settings_));
-  controls_.status.text.clear();
-  if (saved_ == RecordRead::failed) {
-    controls_.status.text = context_.common.texts.Wort(text::saved_training_not_read);
-  } else if (saved_ == RecordRead::damaged) {
+  if (saved_ == RecordRead::damaged) {
     controls_.status.text = context_.common.texts.Wort(text::saved_training_damaged);
   }
+}
+
+std::string LevelLogic::standing_line() const {
+  const bool failed = saved_ == RecordRead::failed;
+  return failed ? context_.common.texts.Wort(text::saved_training_not_read) : std::string();
 }
 
 void LevelLogic::look_again() {
@@ -64,6 +66,7 @@ void LevelLogic::fill_levels(RecordRead saved) {
     controls_.training_Combo.add(name);
     controls_.training_Combo.items.back().gap = name == kNoSavedTraining;
   }
+  controls_.status.text = standing_line();
 }
 
 void LevelLogic::training_finished() {

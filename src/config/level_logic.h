@@ -23,6 +23,8 @@ class LevelLogic {
   void begin();
   /// Where no training is offered it is looked for again: it may be readable now, or stored by now.
   void look_again();
+  /// What the status line says while nothing newer stands there; empty when all is well.
+  std::string standing_line() const;
   /// Another level, another exam has been chosen.
   void level_chosen();
   void exam_chosen();

@@ -81,7 +81,7 @@ void SettingsWindow::close_requested() {
 void SettingsWindow::click(Control& control) {
   const auto event = events_.find(&control);
   if (takes_input(control) && event != events_.end()) {
-    status.text.clear();
+    status.text = levels_.standing_line();
     handle(event->second.tag, event->second.handler);
   }
 }
@@ -105,7 +105,7 @@ void SettingsWindow::slide(SliderControl& slider, int value) {
 
 void SettingsWindow::frame_menu(int frame) {
   if (!takes_input()) return;
-  status.text.clear();
+  status.text = levels_.standing_line();
   marks_.open_menu(frame);
   changed();
 }

@@ -108,7 +108,7 @@ TEST(Levels, ATrainingThatCannotBeReadNowIsToldAndOfferedAgainWhenItCan) {
     for (const bool readable : {false, true}) {
       if (readable) bed.host.failing.clear();
       bed.choose_level(3);
-      EXPECT_EQ(window.status.text, "");
+      EXPECT_EQ(window.status.text, "[1037]") << "until it is read";
       look();
       EXPECT_EQ(window.training_Combo.items[2].text, readable ? "[565]" : "---------------");
       EXPECT_EQ(window.status.text, readable ? "" : "[1037]");

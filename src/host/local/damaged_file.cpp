@@ -54,7 +54,8 @@ NameLock::NameLock(const std::filesystem::path& database, Kind kind) {
   const std::filesystem::path file = database.string() + "-lock";
   make_private_file(file);
   errno = 0;
-  number_ = ::open(file.c_str(), O_RDWR | O_CLOEXEC);
+  // Made, if it must be, so that the error of a closed folder is its own.
+  number_ = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
   const int wanted = kind == Kind::shared ? LOCK_SH : LOCK_EX;
   if (number_ < 0 || ::flock(number_, wanted | LOCK_NB) != 0) error_ = last_system_error();
 }

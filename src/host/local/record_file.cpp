@@ -141,7 +141,12 @@ void RecordFile::open() {
   }
   if (code == SQLITE_OK) code = prepare_file();
   state_ = code == SQLITE_OK ? State::writable : state_after(code);
-  if (code != SQLITE_OK) take_reason(code);
+  if (code == SQLITE_OK) return;
+  take_reason(code);
+  // A file that can't be made in a closed folder is at last missed; that is not why.
+  if (closed && error_ == std::errc::no_such_file_or_directory) {
+    error_ = {folder_error, std::generic_category()};
+  }
 }
 
 int RecordFile::connect(const std::string& name, int flags) {

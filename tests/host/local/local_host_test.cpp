@@ -324,6 +324,13 @@ TEST_F(LocalHostTest, AFolderThatCannotBeWrittenStillGivesItsRecords) {
   }
 }
 
+TEST_F(LocalHostTest, AClosedFolderWithoutADatabaseIsNotCalledMissing) {
+  folder.write("data/other", "");
+  std::filesystem::permissions(folder.path / "data", std::filesystem::perms(0555));
+  const OrdinaryUser user(folder.path, folder.path / "data");
+  EXPECT_EQ(Session(folder).home.problems()[0].error, std::errc::permission_denied);
+}
+
 TEST_F(LocalHostTest, WhatAnotherProgramHasStoredIsNotReplacedByMemoryAndToldOnce) {
   const RecordName settings{"A", "vemo06", "E1"}, state{"A", "vemo06", "A1"};
   for (const std::string need : {"read", "store", "end"}) {
@@ -358,7 +365,10 @@ TEST_F(LocalHostTest, AFileThatCannotBeReadIsNotAnEmptyOne) {
     SCOPED_TRACE(hindrance);
     std::filesystem::remove_all(folder.path / "data");
     Session(folder).store({"kept"});
-    if (hindrance[0] == 'd') folder.write("data/host.sqlite", std::string(4096, '?'));
+    if (hindrance[0] == 'd') {
+      folder.write("data/host.sqlite", std::string(4096, '?'));
+      std::filesystem::remove(file.string() + "-lock");
+    }
     const std::string before = folder.content(file);
     if (hindrance == "no rights") std::filesystem::permissions(file, std::filesystem::perms(0));
     const std::filesystem::perms of_folder{hindrance[0] == 'd' ? 0555U : 0777U};
@@ -377,6 +387,8 @@ TEST_F(LocalHostTest, AFileThatCannotBeReadIsNotAnEmptyOne) {
     EXPECT_EQ(session.problem(), 1012_text);
     EXPECT_EQ(read, RecordRead::failed);
     EXPECT_EQ(folder.content(file), before);
+    const bool closed = session.home.problems()[0].error == std::errc::permission_denied;
+    EXPECT_EQ(closed, hindrance != "no descriptors");
     if (hindrance[0] == 'd') continue;
     std::filesystem::permissions(file, std::filesystem::perms(0600));
     EXPECT_THAT(session.read(), ElementsAre("kept"));
