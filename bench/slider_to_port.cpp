@@ -1,6 +1,6 @@
 // How long a step of the pitch slider takes to the bend at a MIDI port, with the whole program
-// between them. Needs a display and a JACK server; prints the 99th of a hundred over the server's
-// own period.
+// between them. Needs a display and a JACK server; prints what 99 % of 1,000 steps stay under,
+// beyond the server's own period.
 
 #include <RtMidi.h>
 

@@ -47,7 +47,8 @@ class ExerciseHooks {
   virtual bool control_comes_first() const = 0;
   /// Shows the help of the window; `closed` runs when it has been read.
   virtual void show_help(const std::function<void()>& closed) = 0;
-  /// Another line in the place of a usual one that does not fit the window.
+  /// Another line in the place of a usual one that does not fit the window; for the head none, 0,
+  /// where the question of the task is to stand already.
   virtual TextKey line(TextKey usual) const { return usual; }
   /// The question that stands above the row while it is asked.
   virtual std::string question_text() const = 0;

@@ -127,8 +127,8 @@ void ExerciseWindow::enter(Phase phase, bool keynote) {
   const bool automatic = context_.settings.abfrage == 1;
   next_task_.withdraw();
   if (actions.next_task && reading_ == 0) next_task_.offer(automatic);
-  const TextKey head = actions.next_task && automatic ? actions.other : actions.head;
-  question.text = head == TextKey{} ? question_text() : word(line(head));
+  const TextKey head = line(actions.next_task && automatic ? actions.other : actions.head);
+  question.text = head == TextKey{} ? question_text() : word(head);
   hint.text = word(line(keynote ? actions.other : actions.hint));
   if (is_over(phase)) {
     sitting_.end();

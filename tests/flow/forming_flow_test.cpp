@@ -221,6 +221,21 @@ TEST(FormingFlow, TheHelpPageStandsInTheSlidersPlaceAndStopsTheClock) {
   }
 }
 
+TEST(FormingFlow, TheTaskIsToldBeforeItSoundsAndTimeUpEndsTheTone) {
+  FakeHost host;
+  FormingBed bed(host);
+  Einstellung2& settings = bed.open_settings();
+  settings.choose(settings.training_Combo, 4);
+  Arbeitsblatt2& window = bed.open_exercise();
+  bed.scheduler.advance_ms(200);
+  EXPECT_EQ(window.phase(), Phase::sounding);
+  EXPECT_EQ(window.question.text, "[1316s]");
+  bed.scheduler.advance_ms(700'000);
+  EXPECT_EQ(window.phase(), Phase::time_up);
+  EXPECT_FALSE(window.sldPitch.open() || window.cmdok.open());
+  EXPECT_EQ(bed.devices.log.back().message.status & 0xF0, 0xC0) << "the programs, after the notes";
+}
+
 TEST(FormingFlow, TroubleEndsTidyOrLeavesTheTaskOpen) {
   FakeHost host;
   {
@@ -236,6 +251,26 @@ TEST(FormingFlow, TroubleEndsTidyOrLeavesTheTaskOpen) {
     EXPECT_TRUE(bed.documents.written.size() == 1 && bed.devices.notes().empty());
     EXPECT_TRUE(bed.newest<Einstellung2>().visible);
   }
+  {
+    FormingBed bed(host);
+    Arbeitsblatt2& window = bed.begin(1, 1);
+    bed.answer(window, 0);
+    bed.dialogs.script = {Reply::yes};
+    bed.leave(window);
+  }
+  Variant::Array slots = host.records["vemo06/E2"].array();
+  slots.at(11) = "1";
+  host.records["vemo06/E2"] = slots;
+  {
+    FormingBed bed(host);
+    Einstellung2& settings = bed.open_settings();
+    settings.choose(settings.training_Combo, 2);
+    EXPECT_EQ(bed.module.settings().stimm_g, 1) << "a stored training may hold that tuning too";
+    bed.open_exercise();
+    bed.scheduler.advance_ms(3000);
+    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
+    EXPECT_EQ(bed.windows.newest()->name(), "testergebnis");
+  }
   FormingBed bed(host);
   Arbeitsblatt2& window = bed.begin();
   bed.devices.refuses = true;
@@ -243,6 +278,8 @@ TEST(FormingFlow, TroubleEndsTidyOrLeavesTheTaskOpen) {
   bed.hear_task();
   EXPECT_EQ(bed.dialogs.shown.size(), 1U);
   EXPECT_TRUE(window.sldPitch.open() && window.wieder.open());
+  for (const int step : {1, 2, 3}) window.sldPitch_change(window.sldPitch.value + step);
+  EXPECT_EQ(bed.dialogs.shown.size(), 1U) << "a silent device is not asked again";
   bed.devices.refuses = false;
   window.wieder_click();
   bed.hear_task();

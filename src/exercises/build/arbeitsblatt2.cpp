@@ -20,10 +20,13 @@ constexpr Colour kOpenSlider = RGB(255, 128, 0);
 constexpr Colour kClosedSlider = RGB(255, 224, 192);
 constexpr std::array kTunings{546_text, 458_text, 401_text};
 
-/// "große Terz aufwärts"
-std::string interval_words(std::int16_t iv, const IntervalNames& names, const Texts& texts) {
-  const IntervalCode size{to_int16(std::abs(iv))};
-  return names.long_name(size) + " " + texts.Wort(Sgn(iv) == 1 ? 131_text : 82_text);
+/// "große Terz aufwärts"; an octave leap has the code of a prime.
+std::string interval_words(std::int16_t iv, bool leap, const IntervalNames& names,
+                           const Texts& texts) {
+  constexpr int kPrime = 1;
+  const int size = std::abs(iv);
+  const IntervalCode code{to_int16(size == kPrime && leap ? 0 : size)};
+  return names.long_name(code) + " " + texts.Wort(Sgn(iv) == 1 ? 131_text : 82_text);
 }
 
 }  // namespace
@@ -119,7 +122,10 @@ TaskTuning Arbeitsblatt2::tune() {
 
 void Arbeitsblatt2::show_task() {
   const auto words = [this](int place) {
-    return interval_words(answers().book.place(place).interval, context().interval_names,
+    const auto& tones = context().row.inv_ton;
+    const auto from = static_cast<std::size_t>(place);
+    return interval_words(answers().book.place(place).interval,
+                          tones[from].chr != tones[from + 1].chr, context().interval_names,
                           common().texts);
   };
   aufg.text = words(kAsked);
@@ -135,6 +141,7 @@ void Arbeitsblatt2::show_task() {
   pitches_.reset();
   okFrei_ = true;
   close_help();
+  announce(question_text());
 }
 
 // The page stands where the slider stood, which rests meanwhile, as does the answer clock.
@@ -162,11 +169,10 @@ void Arbeitsblatt2::open_answers(bool open) {
   sldPitch.enabled = open;
   sldPitch.back = open ? kOpenSlider : kClosedSlider;
   cmdok.enabled = open && okFrei_;
-  if (open) tell_what_to_do();
 }
 
 void Arbeitsblatt2::tell_what_to_do() {
-  hint.text = word(okFrei_ ? text::how_to_form : text::move_first);
+  hint.text = word(line(text::how_to_answer));
 }
 
 void Arbeitsblatt2::show_actions(const Actions& actions) {
@@ -182,6 +188,8 @@ void Arbeitsblatt2::show_tries() {
 }
 
 TextKey Arbeitsblatt2::line(TextKey usual) const {
+  if (usual == text::listen && phase() == Phase::sounding) return {};
+  if (usual == text::how_to_answer) return okFrei_ ? text::how_to_form : text::move_first;
   if (usual == text::may_hear_again) return text::may_hear_both;
   if (usual == text::row_is_done) return text::task_is_done;
   return usual;
@@ -202,7 +210,7 @@ void Arbeitsblatt2::sldPitch_change(int value) {
     sldPitch.value = value;
     desk_.slider = to_int16(value);
     okFrei_ = cmdok.enabled = true;
-    forming_player().bend_formed_tone();
+    forming_player().follow_slider();
     tell_what_to_do();
   });
 }
@@ -237,6 +245,7 @@ std::string Arbeitsblatt2::wrong_answer() {
   okFrei_ = false;
   if (answers().wrong(kAsked, 0) == Verdict::given_up) {
     solve(signal::given, signal::black);
+    ergebnis[kAsked].accessible_name += ", " + word(text::spoken_solution);
     return word(232_text) + ":";
   }
   Control& field = ergebnis[kAsked];

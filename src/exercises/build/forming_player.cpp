@@ -98,7 +98,7 @@ Sequence FormingPlayer::step() {
     if (!control_) hold_tone();
     co_return sounded();
   }
-  desk_.tells(control_ ? std::optional<TextKey>{} : kNowForm);
+  if (!control_) desk_.tells(kNowForm);
   co_await waits_.Delay(kPassPause);
   if (waits_.closed()) co_return;
   if (control_) desk_.tells(kRightPitch);

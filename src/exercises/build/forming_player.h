@@ -35,8 +35,11 @@ class FormingPlayer final : public RowPlayer {
   void silence() override;
   void forget() override;
 
-  /// The slider has moved: the sounding tone follows at once.
-  void bend_formed_tone() { bend(kFormedChannel, desk_.slider); }
+  /// The slider has moved: the sounding tone follows at once. A device that has failed is not asked
+  /// again with each step.
+  void follow_slider() {
+    if (tone_held_) bend_formed_tone();
+  }
 
  private:
   static constexpr std::int16_t kKeynoteChannel = 1;
@@ -51,6 +54,7 @@ class FormingPlayer final : public RowPlayer {
   void bend_given_tones();
   void bend_keynote();
   void move_slider(std::int16_t value);
+  void bend_formed_tone() { bend(kFormedChannel, desk_.slider); }
   void hold_tone();
   void hold_keynote();
   void release();

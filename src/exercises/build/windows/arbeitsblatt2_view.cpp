@@ -61,7 +61,7 @@ void Arbeitsblatt2View::build_slider() {
   ends->addWidget(label(window_.higher_end, TextRole::note));
   card->body().addLayout(ends);
 
-  auto* gap = new PitchGap(&content());
+  PitchGap* gap = gap_ = new PitchGap(&content());
   bindings().bind(*gap, window_.pitch_gap, [this, gap] {
     const auto& pitches = window_.pitches();
     if (!pitches) return gap->clear();
@@ -111,12 +111,17 @@ void Arbeitsblatt2View::applied() {
   ExerciseView::applied();
   if (window_.sldPitch.back) slider_->set_ground(theme::colour(*window_.sldPitch.back));
   const bool reading = window_.RTxtBox.visible;
-  if (reading && help_card_->isHidden()) {
-    page_->moveCursor(QTextCursor::Start);
-    page_->setFocus(Qt::OtherFocusReason);
-  }
+  const bool begins = reading && help_card_->isHidden();
   help_card_->setVisible(reading);
   slider_card_->setVisible(!reading);
+  if (begins) {
+    page_->moveCursor(QTextCursor::Start);
+    page_->setFocus(Qt::OtherFocusReason);
+    bring_into_view(*help_card_);
+  }
+  const bool told = !window_.pitch_gap.text.empty();
+  if (told && !was_told_) bring_into_view(*gap_);
+  was_told_ = told;
   // The hand goes to the slider as soon as there is a tone to form.
   const bool open = window_.sldPitch.enabled;
   const QWidget* focus = focusWidget();

@@ -26,10 +26,12 @@ class Arbeitsblatt2View final : public ExerciseView {
 
   Arbeitsblatt2& window_;
   PitchSlider* slider_ = nullptr;
+  PitchGap* gap_ = nullptr;
   Card* slider_card_ = nullptr;
   Card* help_card_ = nullptr;
   QTextBrowser* page_ = nullptr;
   bool was_open_ = false;
+  bool was_told_ = false;
 };
 
 }  // namespace tonarix
