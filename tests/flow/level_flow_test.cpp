@@ -3,7 +3,7 @@
 #include <array>
 #include <set>
 
-#include "flow/flow_bed.h"
+#include "flow/level_bed.h"
 
 namespace tonarix {
 namespace {
@@ -11,51 +11,14 @@ namespace {
 int percent(const Arbeitsblatt1& window) {
   return std::stoi(window.matboxanz[15].text);
 }
-std::string saved_training_entry(FlowBed& bed) {
-  return dynamic_cast<Einstellung1&>(*bed.windows.at(1)).training_Combo.items.at(2).text;
-}
-
-/// Answers to the end of a training, each interval wrong at first with the chance `wrong`.
-void play(FlowBed& bed, Arbeitsblatt1& window, double wrong) {
-  for (int task = 0; task < 500 && !is_over(window.phase()); ++task) {
-    if (task > 0) bed.next_task(window);
-    bed.answer_row(window, 1, wrong);
-  }
-}
-/// Leaves for the settings and has the training saved.
-void save(FlowBed& bed, Arbeitsblatt1& window) {
-  bed.dialogs.script = {Reply::yes};
-  bed.leave(window);
-}
-
-/// A training with this many intervals, left with yes, and with no where the host refuses; what is
-/// listed then. `fates`: of its stores.
-std::string train(FakeHost& host, int invzahl, const std::string& fates = {}) {
-  FlowBed bed(host);
-  bed.open_settings().click(bed.settings().invzahl[invzahl]);
-  bed.settings().choose(bed.settings().training_Combo, 1);
-  Arbeitsblatt1& window = bed.open_exercise();
-  bed.hear_row();
-  bed.answer_row(window);
-  host.fates = fates;
-  bed.dialogs.script = {Reply::yes, Reply::no};
-  bed.leave(window);
-  return saved_training_entry(bed);
-}
-
-struct LevelFlowTest : testing::Test {
-  Variant& state() { return host.records["vemo06/A1"]; }
-  FakeHost host;
-};
-
 TEST_F(LevelFlowTest, ATrainingEndsSolvedOrTooHard) {
-  FlowBed bed(host);
+  LevelBed bed(host);
   Arbeitsblatt1& window = bed.begin(1);
   EXPECT_EQ(percent(window), 50);
   EXPECT_TRUE(window.ergebnis_anz[0].visible);
   std::string told;
   window.on_announced = [&](const std::string& news) { told = news; };
-  play(bed, window, 0);
+  bed.play(window, 0);
   EXPECT_TRUE(told.ends_with("[1166s]. [1101s]. [1144s]")) << told;
   EXPECT_TRUE(window.ergebnis_anz[1].visible && !window.ergebnis_anz[0].visible);
   EXPECT_EQ(percent(window), 0);
@@ -70,12 +33,12 @@ TEST_F(LevelFlowTest, ATrainingEndsSolvedOrTooHard) {
   EXPECT_FALSE(window.CmdNextAufg.visible);
   bed.leave(window);
   EXPECT_TRUE(bed.dialogs.shown.empty()) << "a finished training is not offered for saving";
-  EXPECT_EQ(saved_training_entry(bed), "---------------");
+  EXPECT_EQ(bed.saved_training_entry(), "---------------");
   EXPECT_EQ(bed.settings().training_Combo.selected, 1);
 
   Arbeitsblatt1& hard = bed.open_exercise();
   bed.hear_row();
-  play(bed, hard, 1);
+  bed.play(hard, 1);
   EXPECT_TRUE(hard.ergebnis_anz[2].visible);
   EXPECT_EQ(percent(hard), 100);
 }
@@ -86,7 +49,7 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
   };
   std::array<std::string, 3> left;
   {
-    FlowBed bed(host, 7);
+    LevelBed bed(host, 7);
     Arbeitsblatt1& window = bed.begin(1);
     window.wieder_click();
     bed.hear_row();
@@ -96,9 +59,9 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
     }
     left = standing(window);
     EXPECT_NE(left[0], "0");
-    save(bed, window);
+    bed.save(window);
     EXPECT_EQ(bed.dialogs.shown.at(0).text, "[495s]");
-    EXPECT_EQ(saved_training_entry(bed), "[565s]");
+    EXPECT_EQ(bed.saved_training_entry(), "[565s]");
     EXPECT_EQ(bed.settings().training_Combo.selected, 1);
   }
   const Variant saved = state();
@@ -106,12 +69,12 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
     Variant::Array changed = saved.array();
     changed.at(0) = flag;
     state() = changed;
-    FlowBed bed(host);
+    LevelBed bed(host);
     bed.open_settings();
-    EXPECT_EQ(saved_training_entry(bed), "---------------") << flag;
+    EXPECT_EQ(bed.saved_training_entry(), "---------------") << flag;
   }
   state() = saved;
-  FlowBed bed(host, 8);
+  LevelBed bed(host, 8);
   bed.open_settings().choose(bed.settings().training_Combo, 2);
   host.failing = {"READ"};  // it goes on as it was read when it was chosen
   Arbeitsblatt1& window = bed.open_exercise();
@@ -128,19 +91,19 @@ TEST_F(LevelFlowTest, ASavedTrainingGoesOnByItsFlagInANewProcessAsItWasLeft) {
   EXPECT_EQ(standing(again), left);
   bed.hear_row();
   bed.answer_row(again, 1);
-  save(bed, again);
+  bed.save(again);
   EXPECT_EQ(bed.dialogs.shown.back().text, "[495s]") << "it replaces its own state";
   EXPECT_NE(state(), saved);
   EXPECT_EQ(state().array().size(), saved.array().size());
 }
 
 TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
-  FlowBed bed(host);
+  LevelBed bed(host);
   for (const char* question : {"[495s]", "[495s] [1138s]", "[495s]"}) {
     Arbeitsblatt1& window = bed.dialogs.shown.empty() ? bed.begin(1) : bed.open_exercise();
     bed.hear_row();
     bed.answer_row(window);
-    save(bed, window);
+    bed.save(window);
     EXPECT_EQ(bed.dialogs.shown.back().text, question);
     if (bed.dialogs.shown.size() == 2) state() = Variant::strings({"False"});
   }
@@ -149,156 +112,8 @@ TEST_F(LevelFlowTest, TheQuestionTellsThatAnotherSavedTrainingWouldBeReplaced) {
   Arbeitsblatt1& window = bed.open_exercise();
   bed.hear_row();
   bed.answer_row(window);
-  save(bed, window);
+  bed.save(window);
   EXPECT_EQ(bed.dialogs.shown.back().text, "[495s] [1139s]") << "perhaps";
-}
-
-TEST_F(LevelFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheStoreHasIt) {
-  struct Case {
-    int level;
-    const char* before;  ///< flag of the training saved before
-    std::set<std::string> failing;
-    const char *told, *entry;
-    int selected;
-  };
-  const Case cases[] = {{2, "true", {"STORE"}, "[1129s]", "[565s]", 2},
-                        {2, "true", {"STORE", "READ"}, "[1137s]", "[565s]", 2},
-                        {1, "true", {"STORE"}, "[1129s]", "[565s]", 1},
-                        {1, "", {"STORE"}, "[1136s]", "---------------", 1},
-                        {1, "False", {"STORE"}, "[1136s]", "---------------", 1},
-                        {1, "", {"STORE", "READ"}, "[1137s]", "---------------", 1}};
-  for (const Case& at : cases) {
-    SCOPED_TRACE(at.told + std::to_string(at.level));
-    FakeHost of;
-    if (*at.before) {
-      FlowBed before(of, 3);
-      Arbeitsblatt1& window = before.begin(1);
-      before.answer_row(window);
-      save(before, window);
-      Variant::Array changed = of.records["vemo06/A1"].array();
-      changed.at(0) = at.before;
-      of.records["vemo06/A1"] = changed;
-    }
-    const auto stored = of.records;
-    FlowBed bed(of);
-    Arbeitsblatt1& window = bed.begin(at.level);
-    of.failing = at.failing;
-    play(bed, window, 0);
-    ASSERT_EQ(window.phase(), Phase::training_finished);
-    EXPECT_EQ(of.records, stored);
-    bed.leave(window);
-    EXPECT_EQ(bed.dialogs.shown.size(), 1U);
-    EXPECT_EQ(bed.dialogs.shown.at(0).text, at.told);
-    EXPECT_EQ(saved_training_entry(bed), at.entry);
-    EXPECT_EQ(bed.settings().training_Combo.selected, at.selected);
-  }
-}
-
-TEST_F(LevelFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
-  EXPECT_EQ(train(host, 2), "[565s]");
-  ASSERT_EQ(host.records.size(), 2U);
-  for (const auto& [settings, state] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}}) {
-    for (const std::string refused : {"vemo06/E1", "vemo06/A1", "READ"}) {
-      SCOPED_TRACE(refused + (settings ? " over settings" : "") + (state ? " over a state" : ""));
-      FakeHost of;
-      train(of, 1);
-      if (!settings) of.records.erase("vemo06/E1");
-      if (!state) of.records.erase("vemo06/A1");
-      const auto former = of.records;
-      of.failing_records = of.failing = {refused};
-      const bool offered = settings && state && refused != "READ";
-      EXPECT_EQ(train(of, 2), offered ? "[565s]" : "---------------");
-      // Where no training was, the mark of one that is used up may stand.
-      auto left = of.records;
-      if (!state && left.contains("vemo06/A1")) {
-        EXPECT_EQ(left["vemo06/A1"], Variant::strings({"False"}));
-        left.erase("vemo06/A1");
-      }
-      EXPECT_EQ(left, former);
-      of.failing_records = of.failing = {};
-      train(of, 2);
-      EXPECT_EQ(of.records, host.records);
-    }
-  }
-}
-
-TEST_F(LevelFlowTest, WhateverBecomesOfEachStoreNoTrainingIsMixed) {
-  const auto records_after = [](int invzahl, const std::string& fates) {
-    FakeHost of;
-    train(of, invzahl);
-    train(of, 2, fates);
-    return of.records;
-  };
-  const auto former = records_after(1, "rrrrrr");
-  const auto anew = records_after(1, "");
-  ASSERT_NE(former, anew);
-  int kept = 0;
-  for (int pattern = 0; pattern < 81; ++pattern) {  // three fates of each store behind the first
-    std::string fates = " ";
-    for (int left = pattern; fates.size() < 5; left /= 3) fates += " rs"[left % 3];
-    auto records = records_after(1, fates);
-    const bool valid = records["vemo06/A1"].at(0) == Variant("true");
-    EXPECT_TRUE(!valid || records == former || records == anew) << '"' << fates << '"';
-    kept += records == former;
-  }
-  EXPECT_EQ(kept, 22) << "what a host refuses only once is put back";
-}
-
-TEST_F(LevelFlowTest, WhatABusyHostLeftHalfWayIsPutBackFromWhatItHeldAtFirst) {
-  FlowBed bed(host);
-  for (const char* fates : {"", " bb r"}) {
-    Arbeitsblatt1& window = *fates ? bed.open_exercise() : bed.begin(1);
-    bed.hear_row();
-    bed.answer_row(window);
-    const auto former = host.records;
-    host.fates = fates;
-    bed.dialogs.script = {Reply::yes, Reply::no};
-    window.zurueck_click();
-    bed.scheduler.advance_ms(500);
-    if (*fates) {
-      EXPECT_EQ(host.records, former);
-      EXPECT_EQ(host.fates, "");
-    }
-    bed.dialogs.script.clear();
-    bed.result().cmdOk_click();
-    bed.scheduler.advance_ms(450);
-  }
-}
-
-TEST_F(LevelFlowTest, AStoreWaitsForOthersWithoutFreezingTheWindow) {
-  host.together = true;
-  FlowBed bed(host);
-  Arbeitsblatt1& window = bed.begin(1);
-  bed.answer_row(window);
-  bed.dialogs.script = {Reply::yes};
-  host.busy = 100'000;
-  window.zurueck_click();
-  bed.scheduler.advance_ms(9'900);
-  EXPECT_TRUE(window.busy && window.WaitMeldung.visible && bed.dialogs.shown.size() == 1);
-  bed.scheduler.advance_ms(200);
-  EXPECT_EQ(bed.dialogs.shown.back().text, "[1106s]") << "ten seconds are enough";
-  EXPECT_FALSE(window.busy || window.WaitMeldung.visible);
-  host.busy = 50;
-  bed.dialogs.answer(Reply::yes);
-  bed.scheduler.advance_ms(2'000);
-  EXPECT_TRUE(window.busy && host.records.empty());
-  bed.scheduler.advance_ms(1'000);
-  EXPECT_EQ(host.records.size(), 2U);
-  bed.result().cmdOk_click();
-  bed.scheduler.advance_ms(450);
-
-  Arbeitsblatt1& again = bed.open_exercise();
-  bed.hear_row();
-  host.busy = 50;
-  play(bed, again, 0);
-  again.title_bar_close();
-  again.wieder2_click();
-  bed.scheduler.advance_ms(2'000);
-  EXPECT_TRUE(again.busy && !again.zurueck.enabled);
-  EXPECT_EQ(saved_training_entry(bed), "[565s]");
-  bed.scheduler.advance_ms(1'000);
-  EXPECT_TRUE(!again.busy && again.zurueck.enabled);
-  EXPECT_EQ(state(), Variant::strings({"False"}));
 }
 
 TEST_F(LevelFlowTest, EveryExamHasItsSettingsAndEndsByTasksAndByTime) {
@@ -315,7 +130,7 @@ TEST_F(LevelFlowTest, EveryExamHasItsSettingsAndEndsByTasksAndByTime) {
   for (int prfnr = 1; prfnr <= 5; ++prfnr) {
     SCOPED_TRACE(prfnr);
     const Exam& exam = kExams[prfnr - 1];
-    FlowBed bed(host);
+    LevelBed bed(host);
     // What was chosen before, another exam at last, leaves no trace.
     Einstellung1& choices = bed.open_settings();
     choices.click(choices.abfr_iv[1 - exam.abfr_iv]);

@@ -4,103 +4,16 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QToolTip>
-#include <QVBoxLayout>
 #include <string>
 
 #include "base/windows/accessibility.h"
-#include "base/windows/presenter.h"
-#include "base/windows/qt_dialogs.h"
-#include "support/shown_window.h"
-#include "support/window_bed.h"
+#include "base/windows/kit_bed.h"
 
 namespace tonarix {
 namespace {
 
-class KitWindow final : public Window {
- public:
-  explicit KitWindow(const WindowContext& context) : Window(context, "kit") {
-    caption = "Kit";
-    go.text = "Save & go";
-    back.text = "go back";
-    title.text = "Group";
-    for (OptionControl& choice : mode) {
-      choice.text = std::to_string(*choice.index());
-      choice.container = &frame;
-    }
-    entries.container = &frame;
-  }
-  void close_requested() override { told += "close "; }
-  void failed(std::string_view tag, std::exception_ptr) override { told += tag; }
-  void mode_click(int index) {
-    told += "mode" + std::to_string(index) + " ";
-    if (index != 3) select_option(mode, index);
-    changed();
-  }
-  void leave() { common().windows.unload(*this); }
-  void tell_news(const std::string& news) {
-    announce(news);
-    changed();
-  }
-  using Window::changed;
-
-  Control frame{*this, "frame"};
-  Control title{*this, "title"};
-  ControlArray<OptionControl, 1, 3> mode{*this, "mode"};
-  ListControl entries{*this, "entries"};
-  SliderControl volume{*this, "volume"};
-  Control field{*this, "field", 2};
-  Control go{*this, "go"};
-  Control back{*this, "back"};
-  std::string told;
-};
-
-class KitView final : public WindowView {
- public:
-  KitView(KitWindow& window, const Texts& texts) : WindowView(window, texts) {
-    auto* rows = new QVBoxLayout(&content());
-    rows->addWidget(frame = card(&window.frame, &window.title));
-    choices = options(window.mode, frame->body(), [&window](int i) { window.mode_click(i); });
-    frame->body().addWidget(entries = list(window.entries, [&window](int i) {
-                              window.entries.selected = i;
-                              window.told += "entry" + std::to_string(i) + " ";
-                            }));
-    rows->addWidget(volume = slider(window.volume, [&window](int value) {
-                      window.volume.value = value;
-                      window.told += "volume" + std::to_string(value) + " ";
-                    }));
-    const Binding look{.keep_place = true, .signs = true};
-    rows->addWidget(field = label(window.field, TextRole::plain, look));
-    actions().addWidget(back = button(window.back, [&window] { window.leave(); }));
-    actions().addWidget(go = button(window.go, [&window] { window.told += "go "; }));
-    way_on({go, back});
-    way_back({back});
-  }
-  Card* frame;
-  std::vector<Option*> choices;
-  ListBox* entries;
-  Slider* volume;
-  Label* field;
-  Button *back, *go;
-};
-
-void stroke(QWidget& target, int key, const QString& text = {}) {
-  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-  QApplication::sendEvent(&target, &press);
-}
-
-struct BindingsTest : testing::Test, WindowBed {
-  BindingsTest() {
-    presenter.add<KitWindow, KitView>("kit", texts);
-    window = &windows.open(std::make_unique<KitWindow>(common));
-    view = static_cast<KitView*>(presenter.view_of(*window));
-    come_up(scheduler);
-  }
-  Presenter presenter{windows};
-  KitWindow* window = nullptr;
-  KitView* view = nullptr;
-};
+using BindingsTest = KitBed;
 
 TEST_F(BindingsTest, RealButtonsPressAndShowTheStateOfTheLogic) {
   EXPECT_EQ(view->field->objectName(), "field_2");
@@ -295,66 +208,6 @@ TEST_F(BindingsTest, TheTitleBarOnlyAsksAndAViewOutlivesItsOwnButton) {
   scheduler.settle();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(gone.isNull());
-}
-
-TEST_F(BindingsTest, MessagesWaitForEachOtherAndOutliveTheirWindow) {
-  QtDialogs boxes(scheduler, texts, presenter);
-  std::string replies;
-  const auto note = [&replies](Reply reply) { replies += "oyn"[static_cast<int>(reply)]; };
-  boxes.show({"Warning", "first\nsecond", MessageStyle::warning, "", ""}, note);
-  boxes.show({"Question", "really?", MessageStyle::yes_no, "", "Never"}, note);
-  boxes.show({"Question", "really?", MessageStyle::yes_no, "", ""}, note);
-  EXPECT_EQ(boxes.current()->windowTitle(), "Warning");
-  window->leave();
-  ASSERT_NE(boxes.current(), nullptr);
-  boxes.current()->reject();
-  ASSERT_EQ(boxes.current()->windowTitle(), "Warning") << "it has only just come up";
-  come_up(scheduler);
-  boxes.current()->reject();
-  come_up(scheduler);
-  EXPECT_EQ(boxes.current()->findChild<QPushButton*>("no")->text(), "Never");
-  boxes.current()->findChild<QPushButton*>("yes")->click();
-  come_up(scheduler);
-  stroke(*boxes.current(), Qt::Key_Escape);
-  EXPECT_FALSE(boxes.current()->close());
-  boxes.current()->findChild<QPushButton*>("no")->click();
-  EXPECT_EQ(boxes.current(), nullptr);
-  EXPECT_EQ(replies, "oyn");
-  boxes.show({"Question", "", MessageStyle::yes_no, "", "", Reply::no}, note);
-  come_up(scheduler);
-  EXPECT_TRUE(boxes.current()->findChild<QPushButton*>("no")->isDefault());
-  stroke(*boxes.current(), Qt::Key_Escape);
-  boxes.show({"Warning", "again", MessageStyle::warning, "", ""}, note);
-  QDialog* box = boxes.current();
-  come_up(scheduler);
-  for (int press = 0; press < 2; ++press) box->findChild<QPushButton*>("ok")->click();
-  EXPECT_EQ(replies, "oynno");
-}
-
-TEST_F(BindingsTest, APressMeantForABoxThatHasGoneIsNoAnswerBelowIt) {
-  QtDialogs boxes(scheduler, texts, presenter);
-  boxes.show({"Help", "", MessageStyle::plain, "", ""}, [](Reply) {});
-  come_up(scheduler);
-  view->go->click();
-  EXPECT_EQ(window->told, "") << "the box holds it back";
-  boxes.current()->reject();
-  view->go->click();
-  EXPECT_EQ(window->told, "");
-  scheduler.advance_ms(InputGuard::kNewlyShown);
-  view->go->click();
-  EXPECT_EQ(window->told, "go ");
-}
-
-TEST_F(BindingsTest, ABoxWithALongTextFitsTheScreenAndCanBeAnswered) {
-  QtDialogs boxes(scheduler, texts, presenter);
-  std::string text;
-  for (int line = 0; line < 200; ++line) text += "Folder: /home/ada/protocols\n";
-  boxes.show({"Warning", text, MessageStyle::warning, "", ""}, [](Reply) {});
-  QApplication::processEvents();
-  const QDialog& box = *boxes.current();
-  const auto* ok = box.findChild<QPushButton*>("ok");
-  EXPECT_TRUE(box.screen()->availableGeometry().contains(box.geometry()));
-  EXPECT_TRUE(box.rect().contains(QRect(ok->mapTo(&box, QPoint()), ok->size())));
 }
 
 TEST_F(BindingsTest, ASecondClickOnAnEntryHitsNothingBelowTheList) {
