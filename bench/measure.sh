@@ -12,7 +12,9 @@ if command -v jackd >/dev/null; then
   export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonarix-measure
   jackd -r -n tonarix-measure -d dummy -r 48000 -p 256 >/dev/null 2>&1 &
   ended+=($!)
-  jackd -r -n tonarix-slider -d dummy -r 48000 -p 16 >/dev/null 2>&1 &
+  # A period of a third of a millisecond, which takes real-time threads where they are allowed.
+  if chrt -f 1 true 2>/dev/null; then realtime=-R; else realtime=-r; fi
+  jackd $realtime -S -n tonarix-slider -d dummy -r 48000 -p 16 >/dev/null 2>&1 &
   ended+=($!)
 fi
 if [ -z "${DISPLAY:-}" ]; then

@@ -79,9 +79,7 @@ int print(const std::vector<Clock::time_point>& moved,
   return 0;
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
+int measure(int argc, char* argv[]) {
   const double period_ms = argc > 1 ? std::atof(argv[1]) : 0;
   QApplication application(argc, argv);
   tonarix::theme::apply(application);
@@ -116,4 +114,15 @@ int main(int argc, char* argv[]) {
   at(kFirstStep + kSteps * kStepPause + 500,
      [&] { std::_Exit(print(moved, port.arrived(), period_ms)); });
   return application.exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  try {
+    return measure(argc, argv);
+  } catch (const RtMidiError& error) {
+    std::fprintf(stderr, "slider_to_port: %s\n", error.what());
+    return 1;
+  }
 }
