@@ -2192,5 +2192,9 @@ Vorzeichen!</translation>
         <source>Hilfe schließen</source>
         <translation>Hilfe schließen</translation>
     </message>
+    <message id="1331s">
+        <source>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</source>
+        <translation>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</translation>
+    </message>
 </context>
 </TS>

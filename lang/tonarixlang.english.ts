@@ -2192,5 +2192,9 @@ in any order.</translation>
         <source>Hilfe schließen</source>
         <translation>Close help</translation>
     </message>
+    <message id="1331s">
+        <source>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</source>
+        <translation>This training has come to its end. The training saved earlier for this exercise can therefore no longer be continued.</translation>
+    </message>
 </context>
 </TS>

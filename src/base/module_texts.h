@@ -234,5 +234,6 @@ inline constexpr TextKey slider_keys = 1327_text;
 inline constexpr TextKey task_is_done = 1328_text;
 inline constexpr TextKey help_build = 1329_text;
 inline constexpr TextKey help_close = 1330_text;
+inline constexpr TextKey earlier_training_over = 1331_text;
 
 }  // namespace tonarix::text

@@ -31,6 +31,9 @@ Sequence WayOut::ask_to_break_off(bool& breaks_off) {
 }
 
 Sequence WayOut::finish_training(TrainingRecord& training) {
+  // The mark of the end stands in the one place for both.
+  const bool earlier =
+      context_.settings.Uebungsmodus == Level::training && training.stored() == RecordRead::found;
   hold(true);
   show_wait(window_, controls_, true);
   bool dropped = false;
@@ -44,7 +47,8 @@ Sequence WayOut::finish_training(TrainingRecord& training) {
   if (left == RecordRead::failed) co_return tell(text::store_not_read);
   const bool found = left == RecordRead::found;
   found ? context_.caller.training_saved() : context_.caller.training_finished();
-  if (!dropped) tell(found ? text::training_not_marked : text::no_training_stored);
+  if (!dropped) co_return tell(found ? text::training_not_marked : text::no_training_stored);
+  if (earlier) tell(text::earlier_training_over);
 }
 
 Sequence WayOut::leave(WorkDone work, Keep keep, RecordRead former) {

@@ -65,6 +65,21 @@ TEST_F(TrainingStoreFlowTest, ATrainingWhoseEndIsNotStoredIsToldAndListedAsTheSt
   }
 }
 
+TEST_F(TrainingStoreFlowTest, ATrainingThatEndsTakesNoEarlierOneWithItUntold) {
+  {
+    LevelBed bed(host);
+    Arbeitsblatt1& window = bed.begin(1);
+    bed.answer_row(window);
+    bed.save(window);
+  }
+  for (const bool earlier : {true, false}) {
+    LevelBed bed(host);
+    bed.play(bed.begin(1), 0);
+    EXPECT_EQ(bed.dialogs.shown.size(), earlier ? 1U : 0U);
+    EXPECT_TRUE(!earlier || bed.dialogs.shown.at(0).text == "[1331s]");
+  }
+}
+
 TEST_F(TrainingStoreFlowTest, BothRecordsOfATrainingAreStoredOrNone) {
   EXPECT_EQ(train(host, 2), "[565s]");
   ASSERT_EQ(host.records.size(), 2U);
