@@ -2196,5 +2196,246 @@ Vorzeichen!</translation>
         <source>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</source>
         <translation>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</translation>
     </message>
+    <message id="1332s">
+        <source>Spielen Sie Ton %1</source>
+        <translation>Spielen Sie Ton %1</translation>
+    </message>
+    <message id="1333s">
+        <source>Die Taste klingt; das Feld auf der Taste sagt, wie der Ton geschrieben ist.</source>
+        <translation>Die Taste klingt; das Feld auf der Taste sagt, wie der Ton geschrieben ist.</translation>
+    </message>
+    <message id="1334s">
+        <source>Klicken Sie auf das Feld der Taste. Pfeiltasten wählen ein Feld, die Eingabetaste spielt es.</source>
+        <translation>Klicken Sie auf das Feld der Taste. Pfeiltasten wählen ein Feld, die Eingabetaste spielt es.</translation>
+    </message>
+    <message id="1335s">
+        <source>Ton 1 ist der Grundton. Jede Taste gilt, das Feld muss stimmen.</source>
+        <translation>Ton 1 ist der Grundton. Jede Taste gilt, das Feld muss stimmen.</translation>
+    </message>
+    <message id="1336s">
+        <source>unteres Feld</source>
+        <translation>unteres Feld</translation>
+    </message>
+    <message id="1337s">
+        <source>mittleres Feld</source>
+        <translation>mittleres Feld</translation>
+    </message>
+    <message id="1338s">
+        <source>oberes Feld</source>
+        <translation>oberes Feld</translation>
+    </message>
+    <message id="1339s">
+        <source>Subkontra-Oktave</source>
+        <translation>Subkontra-Oktave</translation>
+    </message>
+    <message id="1340s">
+        <source>Kontra-Oktave</source>
+        <translation>Kontra-Oktave</translation>
+    </message>
+    <message id="1341s">
+        <source>große Oktave</source>
+        <translation>große Oktave</translation>
+    </message>
+    <message id="1342s">
+        <source>kleine Oktave</source>
+        <translation>kleine Oktave</translation>
+    </message>
+    <message id="1343s">
+        <source>eingestrichene Oktave</source>
+        <translation>eingestrichene Oktave</translation>
+    </message>
+    <message id="1344s">
+        <source>zweigestrichene Oktave</source>
+        <translation>zweigestrichene Oktave</translation>
+    </message>
+    <message id="1345s">
+        <source>dreigestrichene Oktave</source>
+        <translation>dreigestrichene Oktave</translation>
+    </message>
+    <message id="1346s">
+        <source>viergestrichene Oktave</source>
+        <translation>viergestrichene Oktave</translation>
+    </message>
+    <message id="1347s">
+        <source>Ton 1: %1.</source>
+        <translation>Ton 1: %1.</translation>
+    </message>
+    <message id="1348s">
+        <source>Richtige Taste, andere Schreibweise: gesucht war %1.</source>
+        <translation>Richtige Taste, andere Schreibweise: gesucht war %1.</translation>
+    </message>
+    <message id="1349s">
+        <source>Richtiger Ton, andere Lage: gesucht war %1.</source>
+        <translation>Richtiger Ton, andere Lage: gesucht war %1.</translation>
+    </message>
+    <message id="1350s">
+        <source>Das Feld stimmt nicht: Ton 1 schreibt man %1.</source>
+        <translation>Das Feld stimmt nicht: Ton 1 schreibt man %1.</translation>
+    </message>
+    <message id="1351s">
+        <source>%1-Dur</source>
+        <translation>%1-Dur</translation>
+    </message>
+    <message id="1352s">
+        <source>%1-moll</source>
+        <translation>%1-moll</translation>
+    </message>
+    <message id="1353s">
+        <source>%1-Dur-moll</source>
+        <translation>%1-Dur-moll</translation>
+    </message>
+    <message id="1354s">
+        <source>Eine Tonreihe erklingt. Spielen Sie sie Ton für Ton auf der Klaviatur nach. Die Taste sagt die Tonhöhe, das Feld auf der Taste die Schreibweise. Der erste Ton ist der Grundton; bei ihm zählt nur das Feld. Vier falsche Tasten beenden einen Ton; eine andere Schreibweise oder Lage führt weiter, zählt aber nicht als richtig. Pfeiltasten, Bild auf und Bild ab wählen ein Feld, die Eingabetaste spielt es. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons.</source>
+        <translation>Eine Tonreihe erklingt. Spielen Sie sie Ton für Ton auf der Klaviatur nach. Die Taste sagt die Tonhöhe, das Feld auf der Taste die Schreibweise. Der erste Ton ist der Grundton; bei ihm zählt nur das Feld. Vier falsche Tasten beenden einen Ton; eine andere Schreibweise oder Lage führt weiter, zählt aber nicht als richtig. Pfeiltasten, Bild auf und Bild ab wählen ein Feld, die Eingabetaste spielt es. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons.</translation>
+    </message>
+    <message id="1355s">
+        <source>Klaviatur</source>
+        <translation>Klaviatur</translation>
+    </message>
+    <message id="1357s">
+        <source>Ton %1</source>
+        <translation>Ton %1</translation>
+    </message>
+    <message id="1360s">
+        <source>feses</source>
+        <extracomment>Name of a tone as it is printed on the piano keys: short. One that ends in b or # after a stem has these letters printed as accidentals</extracomment>
+        <translation>feses</translation>
+    </message>
+    <message id="1361s">
+        <source>ceses</source>
+        <translation>ceses</translation>
+    </message>
+    <message id="1362s">
+        <source>geses</source>
+        <translation>geses</translation>
+    </message>
+    <message id="1363s">
+        <source>deses</source>
+        <translation>deses</translation>
+    </message>
+    <message id="1364s">
+        <source>ases</source>
+        <translation>ases</translation>
+    </message>
+    <message id="1365s">
+        <source>eses</source>
+        <translation>eses</translation>
+    </message>
+    <message id="1366s">
+        <source>heses</source>
+        <translation>heses</translation>
+    </message>
+    <message id="1367s">
+        <source>fes</source>
+        <translation>fes</translation>
+    </message>
+    <message id="1368s">
+        <source>ces</source>
+        <translation>ces</translation>
+    </message>
+    <message id="1369s">
+        <source>ges</source>
+        <translation>ges</translation>
+    </message>
+    <message id="1370s">
+        <source>des</source>
+        <translation>des</translation>
+    </message>
+    <message id="1371s">
+        <source>as</source>
+        <translation>as</translation>
+    </message>
+    <message id="1372s">
+        <source>es</source>
+        <translation>es</translation>
+    </message>
+    <message id="1373s">
+        <source>b</source>
+        <translation>b</translation>
+    </message>
+    <message id="1374s">
+        <source>f</source>
+        <translation>f</translation>
+    </message>
+    <message id="1375s">
+        <source>c</source>
+        <translation>c</translation>
+    </message>
+    <message id="1376s">
+        <source>g</source>
+        <translation>g</translation>
+    </message>
+    <message id="1377s">
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+    <message id="1378s">
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message id="1379s">
+        <source>e</source>
+        <translation>e</translation>
+    </message>
+    <message id="1380s">
+        <source>h</source>
+        <translation>h</translation>
+    </message>
+    <message id="1381s">
+        <source>fis</source>
+        <translation>fis</translation>
+    </message>
+    <message id="1382s">
+        <source>cis</source>
+        <translation>cis</translation>
+    </message>
+    <message id="1383s">
+        <source>gis</source>
+        <translation>gis</translation>
+    </message>
+    <message id="1384s">
+        <source>dis</source>
+        <translation>dis</translation>
+    </message>
+    <message id="1385s">
+        <source>ais</source>
+        <translation>ais</translation>
+    </message>
+    <message id="1386s">
+        <source>eis</source>
+        <translation>eis</translation>
+    </message>
+    <message id="1387s">
+        <source>his</source>
+        <translation>his</translation>
+    </message>
+    <message id="1388s">
+        <source>fisis</source>
+        <translation>fisis</translation>
+    </message>
+    <message id="1389s">
+        <source>cisis</source>
+        <translation>cisis</translation>
+    </message>
+    <message id="1390s">
+        <source>gisis</source>
+        <translation>gisis</translation>
+    </message>
+    <message id="1391s">
+        <source>disis</source>
+        <translation>disis</translation>
+    </message>
+    <message id="1392s">
+        <source>aisis</source>
+        <translation>aisis</translation>
+    </message>
+    <message id="1393s">
+        <source>eisis</source>
+        <translation>eisis</translation>
+    </message>
+    <message id="1394s">
+        <source>hisis</source>
+        <translation>hisis</translation>
+    </message>
 </context>
 </TS>

@@ -2196,5 +2196,246 @@ in any order.</translation>
         <source>Dieses Training ist zu Ende. Das früher gespeicherte Training dieser Übung kann damit nicht mehr fortgesetzt werden.</source>
         <translation>This training has come to its end. The training saved earlier for this exercise can therefore no longer be continued.</translation>
     </message>
+    <message id="1332s">
+        <source>Spielen Sie Ton %1</source>
+        <translation>Play tone %1</translation>
+    </message>
+    <message id="1333s">
+        <source>Die Taste klingt; das Feld auf der Taste sagt, wie der Ton geschrieben ist.</source>
+        <translation>The key sounds; the field on the key says how the tone is spelled.</translation>
+    </message>
+    <message id="1334s">
+        <source>Klicken Sie auf das Feld der Taste. Pfeiltasten wählen ein Feld, die Eingabetaste spielt es.</source>
+        <translation>Click the field on the key. Arrow keys choose a field, Enter plays it.</translation>
+    </message>
+    <message id="1335s">
+        <source>Ton 1 ist der Grundton. Jede Taste gilt, das Feld muss stimmen.</source>
+        <translation>Tone 1 is the keynote. Any key will do, the field must be right.</translation>
+    </message>
+    <message id="1336s">
+        <source>unteres Feld</source>
+        <translation>lower field</translation>
+    </message>
+    <message id="1337s">
+        <source>mittleres Feld</source>
+        <translation>middle field</translation>
+    </message>
+    <message id="1338s">
+        <source>oberes Feld</source>
+        <translation>upper field</translation>
+    </message>
+    <message id="1339s">
+        <source>Subkontra-Oktave</source>
+        <translation>subcontra octave</translation>
+    </message>
+    <message id="1340s">
+        <source>Kontra-Oktave</source>
+        <translation>contra octave</translation>
+    </message>
+    <message id="1341s">
+        <source>große Oktave</source>
+        <translation>great octave</translation>
+    </message>
+    <message id="1342s">
+        <source>kleine Oktave</source>
+        <translation>small octave</translation>
+    </message>
+    <message id="1343s">
+        <source>eingestrichene Oktave</source>
+        <translation>one-line octave</translation>
+    </message>
+    <message id="1344s">
+        <source>zweigestrichene Oktave</source>
+        <translation>two-line octave</translation>
+    </message>
+    <message id="1345s">
+        <source>dreigestrichene Oktave</source>
+        <translation>three-line octave</translation>
+    </message>
+    <message id="1346s">
+        <source>viergestrichene Oktave</source>
+        <translation>four-line octave</translation>
+    </message>
+    <message id="1347s">
+        <source>Ton 1: %1.</source>
+        <translation>Tone 1: %1.</translation>
+    </message>
+    <message id="1348s">
+        <source>Richtige Taste, andere Schreibweise: gesucht war %1.</source>
+        <translation>Right key, other spelling: it was %1.</translation>
+    </message>
+    <message id="1349s">
+        <source>Richtiger Ton, andere Lage: gesucht war %1.</source>
+        <translation>Right tone, other register: it was %1.</translation>
+    </message>
+    <message id="1350s">
+        <source>Das Feld stimmt nicht: Ton 1 schreibt man %1.</source>
+        <translation>The field is not right: tone 1 is spelled %1.</translation>
+    </message>
+    <message id="1351s">
+        <source>%1-Dur</source>
+        <translation>%1 major</translation>
+    </message>
+    <message id="1352s">
+        <source>%1-moll</source>
+        <translation>%1 minor</translation>
+    </message>
+    <message id="1353s">
+        <source>%1-Dur-moll</source>
+        <translation>%1 major and minor</translation>
+    </message>
+    <message id="1354s">
+        <source>Eine Tonreihe erklingt. Spielen Sie sie Ton für Ton auf der Klaviatur nach. Die Taste sagt die Tonhöhe, das Feld auf der Taste die Schreibweise. Der erste Ton ist der Grundton; bei ihm zählt nur das Feld. Vier falsche Tasten beenden einen Ton; eine andere Schreibweise oder Lage führt weiter, zählt aber nicht als richtig. Pfeiltasten, Bild auf und Bild ab wählen ein Feld, die Eingabetaste spielt es. „wiederholen“ spielt die Reihe noch einmal, „Grundton-Kontrolle“ den Akkord des Grundtons.</source>
+        <translation>A row of tones is played. Play it back tone by tone on the keyboard. The key says the pitch, the field on the key the spelling. The first tone is the keynote; for it only the field counts. Four wrong keys end a tone; another spelling or register leads on but does not count as right. Arrow keys, Page up and Page down choose a field, Enter plays it. “Repeat” plays the row again, “Keynote check” the chord of the keynote.</translation>
+    </message>
+    <message id="1355s">
+        <source>Klaviatur</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message id="1357s">
+        <source>Ton %1</source>
+        <translation>Tone %1</translation>
+    </message>
+    <message id="1360s">
+        <source>feses</source>
+        <extracomment>Name of a tone as it is printed on the piano keys: short. One that ends in b or # after a stem has these letters printed as accidentals</extracomment>
+        <translation>fbb</translation>
+    </message>
+    <message id="1361s">
+        <source>ceses</source>
+        <translation>cbb</translation>
+    </message>
+    <message id="1362s">
+        <source>geses</source>
+        <translation>gbb</translation>
+    </message>
+    <message id="1363s">
+        <source>deses</source>
+        <translation>dbb</translation>
+    </message>
+    <message id="1364s">
+        <source>ases</source>
+        <translation>abb</translation>
+    </message>
+    <message id="1365s">
+        <source>eses</source>
+        <translation>ebb</translation>
+    </message>
+    <message id="1366s">
+        <source>heses</source>
+        <translation>bbb</translation>
+    </message>
+    <message id="1367s">
+        <source>fes</source>
+        <translation>fb</translation>
+    </message>
+    <message id="1368s">
+        <source>ces</source>
+        <translation>cb</translation>
+    </message>
+    <message id="1369s">
+        <source>ges</source>
+        <translation>gb</translation>
+    </message>
+    <message id="1370s">
+        <source>des</source>
+        <translation>db</translation>
+    </message>
+    <message id="1371s">
+        <source>as</source>
+        <translation>ab</translation>
+    </message>
+    <message id="1372s">
+        <source>es</source>
+        <translation>eb</translation>
+    </message>
+    <message id="1373s">
+        <source>b</source>
+        <translation>bb</translation>
+    </message>
+    <message id="1374s">
+        <source>f</source>
+        <translation>f</translation>
+    </message>
+    <message id="1375s">
+        <source>c</source>
+        <translation>c</translation>
+    </message>
+    <message id="1376s">
+        <source>g</source>
+        <translation>g</translation>
+    </message>
+    <message id="1377s">
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+    <message id="1378s">
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message id="1379s">
+        <source>e</source>
+        <translation>e</translation>
+    </message>
+    <message id="1380s">
+        <source>h</source>
+        <translation>b</translation>
+    </message>
+    <message id="1381s">
+        <source>fis</source>
+        <translation>f#</translation>
+    </message>
+    <message id="1382s">
+        <source>cis</source>
+        <translation>c#</translation>
+    </message>
+    <message id="1383s">
+        <source>gis</source>
+        <translation>g#</translation>
+    </message>
+    <message id="1384s">
+        <source>dis</source>
+        <translation>d#</translation>
+    </message>
+    <message id="1385s">
+        <source>ais</source>
+        <translation>a#</translation>
+    </message>
+    <message id="1386s">
+        <source>eis</source>
+        <translation>e#</translation>
+    </message>
+    <message id="1387s">
+        <source>his</source>
+        <translation>b#</translation>
+    </message>
+    <message id="1388s">
+        <source>fisis</source>
+        <translation>f##</translation>
+    </message>
+    <message id="1389s">
+        <source>cisis</source>
+        <translation>c##</translation>
+    </message>
+    <message id="1390s">
+        <source>gisis</source>
+        <translation>g##</translation>
+    </message>
+    <message id="1391s">
+        <source>disis</source>
+        <translation>d##</translation>
+    </message>
+    <message id="1392s">
+        <source>aisis</source>
+        <translation>a##</translation>
+    </message>
+    <message id="1393s">
+        <source>eisis</source>
+        <translation>e##</translation>
+    </message>
+    <message id="1394s">
+        <source>hisis</source>
+        <translation>b##</translation>
+    </message>
 </context>
 </TS>

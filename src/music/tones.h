@@ -49,6 +49,13 @@ class ToneNames {
   /// The tone with its octave. RuntimeError 9 for an octave without a mark (below 0 or above 8) or
   /// a `qz` outside 0 to 34.
   std::string name(Tone tone) const;
+  /// The lower-case form without an octave, or the upper-case one. `qz` from 0 to 34.
+  const std::string& lower(int qz) const { return names_.at(static_cast<std::size_t>(qz)).lower; }
+  const std::string& upper(int qz) const { return names_.at(static_cast<std::size_t>(qz)).upper; }
+  /// The mark of an octave from 0 to 8; 3 and 4 have marks that are never printed.
+  const std::string& octave_mark(int octave) const {
+    return octave_marks_.at(static_cast<std::size_t>(octave));
+  }
   /// The name of the tone in one row; RuntimeError 9 also when there is no such row.
   std::string ErmStatStrTon(int index, std::span<const Tone> row) const;
 
