@@ -98,6 +98,7 @@ void SoundingWindow::grundton_click() {
 // During a task hearing costs, and the answer clock stands meanwhile.
 Sequence SoundingWindow::hear(SpielArt what) {
   const bool in_task = row_is_asked(phase());
+  hearing(what);
   enter(sounding_again(phase()), what == SpielArt::grundton);
   if (in_task) answers().pause();
   player().silence();

@@ -32,6 +32,8 @@ class SoundingWindow : public ExerciseWindow, public SoundControls {
   LessonFacts lesson_facts() override;
   void show_actions(const Actions& actions) override;
   void show_counts(const TaskAnswers::Counts& counts) override;
+  /// Something is to be heard now.
+  virtual void hearing(SpielArt) {}
   /// Marks the tone that sounds now, -1 for none.
   void show_sounding(int place);
 

@@ -27,6 +27,10 @@ inline constexpr std::array<std::int16_t, 12> kirnberger_abw{5, 2, 6, 3, 1, 4, 2
 /// tone below the line of fifths of its key has no place in the table: RuntimeError 9.
 std::int16_t tuning_deviation(const Tone& tone, std::int16_t stimm_g, std::int16_t qz_transpos);
 
+/// Deviation of a tone that somebody plays, under any name: as above, and in the pure tuning beyond
+/// the tones of the key by pure fifths further on, -20 to 16 steps.
+std::int16_t played_deviation(const Tone& tone, std::int16_t stimm_g, std::int16_t qz_transpos);
+
 /// The common detuning `freq_abw` of a new task: -16 to 16 steps, 0 when `frequenz` is 0 and then
 /// without a draw.
 std::int16_t draw_freq_abw(std::int16_t frequenz, Chance& chance);

@@ -19,6 +19,10 @@ std::int16_t five_eighths(std::int16_t tasks) {
   return to_int16(static_cast<std::int64_t>(Int(tasks / 8.0 * 5)));
 }
 
+std::int16_t three_quarters(std::int16_t tasks) {
+  return round_to_int16(Round(tasks / 4.0 * 3));
+}
+
 TestList::TestList(const Settings& settings, const Key& key, Auswertung& statistics, Chance& chance)
     : settings_(settings), key_(key), statistics_(statistics), chance_(chance) {}
 
@@ -35,7 +39,7 @@ void TestList::build(const TestTiming& timing) {
       one_degree ? wished : wished * 10 / static_cast<int>(Round((settings_.invzahl + 0.5) * 10)));
   aufg_gesamt = to_even(aufg_gesamt);
   aufg_dauer = estimate(timing);
-  if (aufg_dauer > kLongTest || one_degree) {
+  if (aufg_dauer > kLongTest || (one_degree && timing.one_degree_is_long)) {
     aufg_gesamt = to_even(timing.shortened(aufg_gesamt));
     aufg_dauer = estimate(timing);
   } else if (aufg_dauer < kShortTest) {

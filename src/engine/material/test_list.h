@@ -13,6 +13,8 @@ namespace tonarix {
 
 /// Five eighths of the tasks, rounded down: what a test that takes too long is cut to.
 std::int16_t five_eighths(std::int16_t tasks);
+/// Three quarters, rounded: what a test of played rows that takes too long is cut to.
+std::int16_t three_quarters(std::int16_t tasks);
 
 /// What a test's length is estimated from.
 struct TestTiming {
@@ -20,6 +22,7 @@ struct TestTiming {
   std::int16_t WahlAutomat = 0;  ///< pause before the next task, milliseconds
   std::int16_t zeit_grenze = 0;  ///< free time of an answer, tenths of a second
   std::int16_t (*shortened)(std::int16_t tasks) = five_eighths;
+  bool one_degree_is_long = true;  ///< a test of a single degree is cut whatever time it takes
 };
 
 /// The intervals that half a test asks, to be used up, and how many tasks and seconds are left.
