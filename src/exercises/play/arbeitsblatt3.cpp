@@ -3,6 +3,7 @@
 #include "base/arithmetic.h"
 #include "base/filled_text.h"
 #include "base/module_texts.h"
+#include "base/runtime_error.h"
 #include "engine/answer_words.h"
 #include "exercises/play/played_key.h"
 #include "settings/setting_pairs.h"
@@ -118,6 +119,7 @@ void Arbeitsblatt3::show_actions(const Actions& actions) {
   SoundingWindow::show_actions(actions);
   // What begins now silences the device itself.
   if (is_sounding(actions.phase) || actions.phase >= Phase::time_up) turn_off();
+  if (is_sounding(actions.phase)) heard_ = false;
   if (actions.phase != Phase::leaving) mark_asked(actions.asks);
 }
 
@@ -127,6 +129,10 @@ void Arbeitsblatt3::mark_asked(bool asked) {
     tries[i].visible = int_lb[i].visible && !erstKlick_;
     if (tries[i].visible) tries[i].text = std::to_string(answers().book.tries_left(i - 1));
   }
+}
+
+void Arbeitsblatt3::row_sounded() {
+  heard_ = true;
 }
 
 void Arbeitsblatt3::hearing(SpielArt what) {
@@ -148,23 +154,33 @@ void Arbeitsblatt3::taste_down(int key, std::optional<int> band) {
 }
 
 void Arbeitsblatt3::taste_up() {
-  if (!sounding_) return;
-  handle("tasten_click.", [this] {
-    const SoundingKey key = *sounding_;
-    turn_off();
-    context().midi.MidiNoteOff(key.note, key.channel);
-  });
+  if (sounding_) handle("tasten_click.", [this] { let_go(); });
 }
 
-// The tone goes out before anything else.
+void Arbeitsblatt3::let_go() {
+  if (!sounding_) return;
+  const SoundingKey key = *sounding_;
+  turn_off();
+  context().midi.MidiNoteOff(key.note, key.channel);
+}
+
+// The tone goes out before anything else. It is an answer on a silent device too, which is told
+// once and tried again with the next row.
 void Arbeitsblatt3::tasten_click(const Field& field) {
-  sound(field);
+  std::exception_ptr failure;
+  try {
+    if (heard_) sound(field);
+  } catch (const RuntimeError&) {
+    failure = std::current_exception();
+    heard_ = false;
+  }
   tasteBand_ = field.band;
   erstKlick_ ? first_click() : answer(field);
+  if (failure) std::rethrow_exception(failure);
 }
 
 void Arbeitsblatt3::sound(const Field& field) {
-  taste_up();
+  let_go();
   const Settings& settings = context().settings;
   const Tone tone = tone_of(field);
   // Where tones are bent each has the channel that is its own when the row is played.

@@ -55,6 +55,7 @@ class Arbeitsblatt3 final : public SoundingWindow, public KeynoteControls {
   int first_asked() const override { return 0; }
   void show_task() override;
   LessonFacts lesson_facts() override;
+  void row_sounded() override;
   void open_answers(bool open) override;
   void show_actions(const Actions& actions) override;
   bool control_comes_first() const override { return false; }
@@ -76,6 +77,7 @@ class Arbeitsblatt3 final : public SoundingWindow, public KeynoteControls {
   std::string in_full(const Tone& tone) const;
   void tasten_click(const Field& field);
   void sound(const Field& field);
+  void let_go();
   void turn_off();
   void first_click();
   void answer(const Field& field);
@@ -96,6 +98,7 @@ class Arbeitsblatt3 final : public SoundingWindow, public KeynoteControls {
   int tasteBand_ = 0;  ///< of the last press
   int tonNr_ = 0;      ///< the tone that is asked
   bool erstKlick_ = true;
+  bool heard_ = false;  ///< the device is there: the row has sounded
 };
 
 }  // namespace tonarix
