@@ -1,6 +1,5 @@
 #include "engine/windows/exercise_view.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -13,7 +12,6 @@ namespace tonarix {
 namespace {
 
 constexpr QSize kUsualSize(1024, 600);
-constexpr int kColumnWidth = 228;
 constexpr int kNarrow = 860;  // below this the column goes under the answers
 
 bool pressable(const Button* button) {
@@ -26,9 +24,12 @@ ExerciseView::ExerciseView(ExerciseWindow& window, const Texts& texts, SoundingW
     : WindowView(window, texts), window_(window), sounding_(sounding) {
   // The focus begins at the window itself, so that Return never leaves by accident.
   setFocusPolicy(Qt::ClickFocus);
-  halves_ = new QBoxLayout(QBoxLayout::LeftToRight, &content());
-  halves_->setContentsMargins(theme::edge, 12, theme::edge, 4);
+  whole_ = new QVBoxLayout(&content());
+  whole_->setContentsMargins(theme::edge, 12, theme::edge, 4);
+  whole_->setSpacing(12);
+  halves_ = new QBoxLayout(QBoxLayout::LeftToRight);
   halves_->setSpacing(theme::between);
+  whole_->addLayout(halves_, 1);
   middle_ = new QVBoxLayout;
   middle_->setSpacing(12);
   halves_->addLayout(middle_, 1);
@@ -88,87 +89,17 @@ void ExerciseView::build_row(const Control& title, const Control* lead,
   row_card->body().addWidget(row_);
 }
 
-void ExerciseView::build_standing() {
-  column_box_ = new QWidget(&content());
-  column_ = new QVBoxLayout(column_box_);
-  column_->setContentsMargins(0, 0, 0, 0);
-  column_->setSpacing(12);
-  halves_->addWidget(column_box_);
-
-  training_card_ = card(nullptr, nullptr);
-  training_card_->setAccessibleName(word(text::training_status));
-  build_training(*training_card_);
-  test_card_ = card(nullptr, nullptr);
-  build_test(*test_card_);
-  Card* counters = card(nullptr, nullptr);
-  counters->setAccessibleName(word(text::standing));
-  build_counters(*counters);
-  for (Card* made : {training_card_, test_card_, counters}) column_->addWidget(made);
+void ExerciseView::build_standing(StandingColumn::Shape shape) {
+  standing_ = new StandingColumn({window_, sounding_, bindings(), texts()}, shape, &content());
+  halves_->addWidget(standing_);
+  Place& buttons = standing_->test_buttons();
+  buttons.add(*action(window_.cmd_test_ein, [this] { window_.cmd_test_ein_click(); }));
+  buttons.add(*action(window_.cmd_test_aus, [this] { window_.cmd_test_aus_click(); }));
 }
 
-void ExerciseView::build_training(Card& card) {
-  auto* place = new Place(&card);
-  place->add(*label(window_.ergebnis_anz[0], TextRole::title));
-  for (const int end : {1, 2}) {
-    auto* verdict = new EndPanel(end == 1 ? Label::Sign::right : Label::Sign::wrong, &card);
-    bindings().bind(*verdict, window_.ergebnis_anz[end]);
-    place->add(*verdict);
-  }
-  card.body().addWidget(place);
-  const Control& value = window_.matboxanz[window_.matboxanz.last];
-  auto* bar = new PercentBar(
-      {word(text::percent), word(text::bar_solved), word(text::bar_too_difficult)}, &card);
-  bindings().bind(*bar, value, [this, bar, &value] {
-    if (value.text.empty()) return;
-    bar->set_percent(std::stoi(value.text));
-    const QString name =
-        (to_qstring(window_.ergebnis_anz[0].text) + QLatin1Char(' ') + bar->number()).trimmed();
-    set_accessible_name(*bar, name);
-  });
-  card.body().addWidget(bar);
-}
-
-void ExerciseView::build_test(Card& card) {
-  card.title().setText(word(text::test_standing));
-  for (const Control* line : {&window_.lab_aufgaben, &window_.stop_uhr}) {
-    Label* shown = label(*line, TextRole::choice, {.keep_place = true});
-    shown->setWordWrap(true);
-    card.body().addWidget(shown);
-  }
-  auto* place = new Place(&card);
-  place->add(*action(window_.cmd_test_ein, [this] { window_.cmd_test_ein_click(); }));
-  place->add(*action(window_.cmd_test_aus, [this] { window_.cmd_test_aus_click(); }));
-  card.body().addWidget(place);
-}
-
-void ExerciseView::build_counters(Card& card) {
-  struct Line {
-    const Control& number;
-    const Control& name;
-  };
-  std::vector<Line> lines{{window_.zaehler[0], window_.true_false[0]},
-                          {window_.zaehler[1], window_.true_false[1]}};
-  if (sounding_) {
-    lines.push_back({sounding_->whlgzaehler, sounding_->repeat_label});
-    if (const KeynoteControls* keynote = sounding_->keynote()) {
-      lines.push_back({keynote->GrdtonWhlg, keynote->keynote_label});
-    }
-  }
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(theme::inside);
-  grid->setVerticalSpacing(2);
-  grid->setColumnStretch(1, 1);
-  int row = 0;
-  for (const Line& line : lines) {
-    Label* number = label(line.number, TextRole::number);
-    number->setMinimumWidth(44);
-    grid->addWidget(number, row, 0);
-    Label* name = label(line.name, TextRole::note);
-    name->setWordWrap(true);
-    grid->addWidget(name, row, 1);
-    ++row;
-  }
-  card.body().addLayout(grid);
+void ExerciseView::build_below(QWidget& widget) {
+  whole_->setStretchFactor(halves_, 0);
+  whole_->addWidget(&widget, 1);
 }
 
 void ExerciseView::answer_action(const Control& control, Bindings::Handler pressed) {
@@ -252,10 +183,7 @@ void ExerciseView::applied() {
     }
     sounds_ = sounds;
   }
-  if (column_) {
-    training_card_->setVisible(is_training(window_.level()));
-    test_card_->setVisible(is_test(window_.level()));
-  }
+  if (standing_) standing_->show_level(window_.level());
   for (AnswerGrid* grid : grids_) {
     int place = 0;
     for (AnswerButton* answer : grid->shown()) {
@@ -331,11 +259,12 @@ void ExerciseView::resizeEvent(QResizeEvent* event) {
   }
   // Room for a message that takes two lines, so that the row below it stays where it is.
   if (messages_) messages_->setMinimumHeight(narrow ? 2 * fontMetrics().lineSpacing() : 0);
-  if (!column_box_) return;
-  column_box_->setMinimumWidth(narrow ? 0 : kColumnWidth);
-  column_box_->setMaximumWidth(narrow ? QWIDGETSIZE_MAX : kColumnWidth);
+  if (!standing_) return;
+  const int column = standing_->usual_width();
+  standing_->setMinimumWidth(narrow ? 0 : column);
+  standing_->setMaximumWidth(narrow ? QWIDGETSIZE_MAX : column);
   // The clock stands at the foot of the column, the actions end where the answers end.
-  if (clock_) clock_->setMinimumWidth(narrow ? 0 : kColumnWidth + theme::inside);
+  if (clock_) clock_->setMinimumWidth(narrow ? 0 : column + theme::inside);
 }
 
 void ExerciseView::showEvent(QShowEvent* event) {

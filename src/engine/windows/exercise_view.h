@@ -9,7 +9,7 @@
 #include "engine/windows/answer_grid.h"
 #include "engine/windows/answer_row.h"
 #include "engine/windows/places.h"
-#include "engine/windows/standing.h"
+#include "engine/windows/standing_column.h"
 
 class QBoxLayout;
 class QVBoxLayout;
@@ -42,7 +42,9 @@ class ExerciseView : public WindowView {
   /// null.
   void build_row(const Control& title, const Control* lead, const PlaceControls& places);
   /// Standing and counters.
-  void build_standing();
+  void build_standing(StandingColumn::Shape shape = StandingColumn::Shape::cards);
+  /// Below row and standing, over the whole width: what takes all the room that they leave.
+  void build_below(QWidget& widget);
   /// A button that Return presses while it is the logic's default.
   Button* action(const Control& control, Bindings::Handler pressed);
   /// A button that gives the answer, before the way on in the line of actions.
@@ -52,7 +54,7 @@ class ExerciseView : public WindowView {
 
   /// Below the row: the answers.
   QVBoxLayout& middle() { return *middle_; }
-  QVBoxLayout& column() { return *column_; }
+  QVBoxLayout& column() { return standing_->cards(); }
   /// A grid of buttons for the codes, in their order.
   template <int First, int Last, typename Codes>
   AnswerGrid* answer_grid(const ControlArray<Control, First, Last>& controls, const Codes& codes,
@@ -83,17 +85,14 @@ class ExerciseView : public WindowView {
   bool press_answer(int key);
   void press_return();
   bool press_letter(const QString& text);
-  void build_training(Card& card);
-  void build_test(Card& card);
-  void build_counters(Card& card);
 
   ExerciseWindow& window_;
   SoundingWindow* sounding_;
-  QBoxLayout* halves_ = nullptr;
+  QVBoxLayout* whole_ = nullptr;
+  QBoxLayout* halves_ = nullptr;  ///< row and answers, standing
   QBoxLayout* head_ = nullptr;
   QVBoxLayout* middle_ = nullptr;
-  QVBoxLayout* column_ = nullptr;
-  QWidget* column_box_ = nullptr;
+  StandingColumn* standing_ = nullptr;
   AnswerRow* row_ = nullptr;
   const PlaceControls* places_ = nullptr;
   ActionLine* action_line_ = nullptr;
@@ -101,8 +100,6 @@ class ExerciseView : public WindowView {
   Label* explained_ = nullptr;
   Place* messages_ = nullptr;
   Label* clock_ = nullptr;
-  Card* training_card_ = nullptr;
-  Card* test_card_ = nullptr;
   std::vector<AnswerGrid*> grids_;
   std::vector<ActionButton> action_buttons_;
   bool sounds_ = false;             ///< the row of a task was sounding when last looked at
