@@ -15,7 +15,9 @@ constexpr std::array kWhiteBands{kHeight, 148, 123, kBlackBottom};
 constexpr std::array kBlackBands{kBlackBottom, 65, 32, 0};
 
 constexpr double kBlackHalf = 0.31;  // of the width of a white key
-constexpr int kOutlineParts = 10;    // of a narrow key's width, at most, beside its outline
+// Of a narrow key's width, at most, beside its outline.
+constexpr int kWhiteParts = 12;
+constexpr int kBlackParts = 24;
 
 /// White keys below a key, from key 0.
 int whites_below(int key) {
@@ -69,7 +71,7 @@ Box KeyboardGeometry::outline(const Field& field) const {
   const bool black = is_black(field.key);
   const int top = (3 - field.band) * (black ? 33 : 25) + (black ? 0 : 98);
   const Box key = this->key(field.key);
-  const int side = std::min(y_of(black ? 1 : 3), key.width() / kOutlineParts);
+  const int side = std::min(y_of(black ? 1 : 3), key.width() / (black ? kBlackParts : kWhiteParts));
   return common({key.left + side, y_of(top), key.right - side, y_of(top + (black ? 31 : 24))},
                 band(field));
 }
