@@ -34,6 +34,7 @@ fi
 "$programs/mat_wahl"
 "$programs/onset_error"
 "$programs/sheet"
+"$programs/hover"
 JACK_DEFAULT_SERVER=tonarix-slider "$programs/slider_to_port" 0.333
 
 # What a bare Debian 12 downloads for running: everything the packages need, less what every system has.
