@@ -100,6 +100,7 @@ void ExerciseView::build_standing(StandingColumn::Shape shape) {
 void ExerciseView::build_below(QWidget& widget) {
   whole_->setStretchFactor(halves_, 0);
   whole_->addWidget(&widget, 1);
+  below_ = &widget;
 }
 
 void ExerciseView::answer_action(const Control& control, Bindings::Handler pressed) {
@@ -261,6 +262,8 @@ void ExerciseView::resizeEvent(QResizeEvent* event) {
   if (messages_) messages_->setMinimumHeight(narrow ? 2 * fontMetrics().lineSpacing() : 0);
   if (!standing_) return;
   const int column = standing_->usual_width();
+  QBoxLayout* holder = narrow && below_ ? whole_ : halves_;
+  if (holder->indexOf(standing_) < 0) holder->addWidget(standing_);
   standing_->setMinimumWidth(narrow ? 0 : column);
   standing_->setMaximumWidth(narrow ? QWIDGETSIZE_MAX : column);
   // The clock stands at the foot of the column, the actions end where the answers end.

@@ -43,7 +43,8 @@ class ExerciseView : public WindowView {
   void build_row(const Control& title, const Control* lead, const PlaceControls& places);
   /// Standing and counters.
   void build_standing(StandingColumn::Shape shape = StandingColumn::Shape::cards);
-  /// Below row and standing, over the whole width: what takes all the room that they leave.
+  /// Below row and standing, over the whole width: what takes all the room that they leave. In a
+  /// narrow window the standing comes last.
   void build_below(QWidget& widget);
   /// A button that Return presses while it is the logic's default.
   Button* action(const Control& control, Bindings::Handler pressed);
@@ -88,11 +89,12 @@ class ExerciseView : public WindowView {
 
   ExerciseWindow& window_;
   SoundingWindow* sounding_;
-  QVBoxLayout* whole_ = nullptr;
+  QBoxLayout* whole_ = nullptr;
   QBoxLayout* halves_ = nullptr;  ///< row and answers, standing
   QBoxLayout* head_ = nullptr;
   QVBoxLayout* middle_ = nullptr;
   StandingColumn* standing_ = nullptr;
+  QWidget* below_ = nullptr;
   AnswerRow* row_ = nullptr;
   const PlaceControls* places_ = nullptr;
   ActionLine* action_line_ = nullptr;

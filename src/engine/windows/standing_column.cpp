@@ -120,7 +120,7 @@ void StandingColumn::add_counters(QVBoxLayout& into, int columns) {
     const int row = place / columns;
     const int column = 2 * (place++ % columns);
     Label* number = label(line.number, TextRole::number);
-    number->setMinimumWidth(columns == 1 ? 44 : 32);
+    number->setMinimumWidth(columns == 1 ? 44 : 30);
     grid->addWidget(number, row, column);
     Label* name = label(line.name, TextRole::note);
     name->setWordWrap(true);

@@ -35,7 +35,7 @@ class StandingColumn final : public QWidget {
   /// Shows what the level has of training and test.
   void show_level(Level level);
   /// Beside the row, in logical pixels.
-  int usual_width() const { return shape_ == Shape::compact ? 288 : 228; }
+  int usual_width() const { return shape_ == Shape::compact ? 300 : 228; }
 
  private:
   Card* add_card(TextKey name);
