@@ -49,9 +49,7 @@ WindowView::WindowView(Window& window, const Texts& texts) : WidgetMaker(texts),
   });
   announcer_ = new Announcer(this);
   window.on_changed = [this] { apply(); };
-  window.on_announced = [this](const std::string& news) {
-    if (isVisible()) announcer_->announce(to_qstring(news));
-  };
+  window.on_announced = [this](const std::string& news) { announce(to_qstring(news)); };
 }
 
 WindowView::~WindowView() {
@@ -139,6 +137,10 @@ void WindowView::grow() {
   const QRect room = room_on(*screen());
   own_size_ = with_bars(need, room.size()).expandedTo(size());
   setGeometry(moved_inside({geometry().topLeft(), own_size_}, room));
+}
+
+void WindowView::announce(const QString& news) {
+  if (isVisible()) announcer_->announce(news);
 }
 
 void WindowView::bring_into_view(QWidget& widget) {

@@ -64,6 +64,8 @@ class WindowView : public QWidget, protected WidgetMaker {
   /// A further key for a button, "3" say. It works while the button is open.
   void key(const QKeySequence& sequence, Button& button);
 
+  /// Says news aloud that only the view knows.
+  void announce(const QString& news);
   /// Scrolls until the widget is seen, once all is laid out. It must stand in `content()`.
   void bring_into_view(QWidget& widget);
 
