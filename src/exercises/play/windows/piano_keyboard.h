@@ -79,8 +79,8 @@ class PianoKeyboard final : public QWidget {
   /// The point of the widget, in logical pixels, at a pixel of the keyboard.
   QPointF logical(const QPointF& pixel) const;
 
-  QSize sizeHint() const override { return {960, 300}; }
-  QSize minimumSizeHint() const override { return {460, 150}; }
+  QSize sizeHint() const override { return minimumSizeHint(); }
+  QSize minimumSizeHint() const override { return {430, 150}; }
 
  protected:
   bool event(QEvent* event) override;
