@@ -8,6 +8,7 @@
 #include "config/einstellung2.h"
 #include "exercises/build/arbeitsblatt2.h"
 #include "exercises/determine/arbeitsblatt1.h"
+#include "exercises/play/arbeitsblatt3.h"
 
 namespace tonarix {
 
@@ -23,6 +24,7 @@ constexpr std::array kExerciseWindows{
     // window          help       made by
     ExerciseFactory{"arbeitsblatt1", text::help_determine, make<Arbeitsblatt1>},
     ExerciseFactory{"arbeitsblatt2", text::help_build, make<Arbeitsblatt2>},
+    ExerciseFactory{"arbeitsblatt3", text::help_play, make<Arbeitsblatt3>},
 };
 constexpr std::array kSettingsWindows{
     // kind                                      window          help       made by

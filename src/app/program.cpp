@@ -20,6 +20,7 @@
 #include "config/windows/selection_view.h"
 #include "exercises/build/windows/arbeitsblatt2_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
+#include "exercises/play/windows/arbeitsblatt3_view.h"
 #include "host/local/catalogue_folder.h"
 #include "protocol/file_in_making.h"
 #include "results/windows/result_view.h"
@@ -106,6 +107,7 @@ Program::Program(const Options& options)
   presenter_.add<Einstellung2, Einstellung2View>("einstellung2", language_);
   presenter_.add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", language_);
   presenter_.add<Arbeitsblatt2, Arbeitsblatt2View>("arbeitsblatt2", language_);
+  presenter_.add<Arbeitsblatt3, Arbeitsblatt3View>("arbeitsblatt3", language_);
   presenter_.add<ResultWindow, ResultView>("testergebnis", language_);
 }
 

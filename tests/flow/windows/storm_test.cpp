@@ -12,6 +12,7 @@
 #include "config/windows/selection_view.h"
 #include "exercises/build/windows/arbeitsblatt2_view.h"
 #include "exercises/determine/windows/arbeitsblatt1_view.h"
+#include "exercises/play/windows/arbeitsblatt3_view.h"
 #include "flow/flow_bed.h"
 #include "results/windows/result_view.h"
 #include "support/shown_window.h"
@@ -33,6 +34,7 @@ struct StormTest : testing::Test {
     presenter->add<Arbeitsblatt1, Arbeitsblatt1View>("arbeitsblatt1", bed->language);
     presenter->add<Einstellung2, Einstellung2View>("einstellung2", bed->language);
     presenter->add<Arbeitsblatt2, Arbeitsblatt2View>("arbeitsblatt2", bed->language);
+    presenter->add<Arbeitsblatt3, Arbeitsblatt3View>("arbeitsblatt3", bed->language);
     presenter->add<ResultWindow, ResultView>("testergebnis", bed->language);
     bed->open();
     come_up(bed->scheduler);
