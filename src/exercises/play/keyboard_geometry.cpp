@@ -71,7 +71,8 @@ Box KeyboardGeometry::outline(const Field& field) const {
   const bool black = is_black(field.key);
   const int top = (3 - field.band) * (black ? 33 : 25) + (black ? 0 : 98);
   const Box key = this->key(field.key);
-  const int side = std::min(y_of(black ? 1 : 3), key.width() / (black ? kBlackParts : kWhiteParts));
+  const int most = std::max(1, key.width() / (black ? kBlackParts : kWhiteParts));
+  const int side = std::min(y_of(black ? 1 : 3), most);
   return common({key.left + side, y_of(top), key.right - side, y_of(top + (black ? 31 : 24))},
                 band(field));
 }

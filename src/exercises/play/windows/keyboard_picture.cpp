@@ -231,9 +231,12 @@ void KeyboardPicture::draw_labels(QPainter& painter) const {
     // Of two that lie on one another the pointer's tells more.
     if (!place || (first && first->intersects(*place))) continue;
     first = place;
-    painter.setPen(Qt::NoPen);
+    // A light line parts it from a black key.
+    const double half = face_.ratio / 2;
+    painter.setPen(QPen(kWhite, face_.ratio));
     painter.setBrush(theme_colour(theme::ink));
-    painter.drawRoundedRect(*place, kCorner * face_.ratio, kCorner * face_.ratio);
+    painter.drawRoundedRect(QRectF(*place).adjusted(half, half, -half, -half),
+                            kCorner * face_.ratio, kCorner * face_.ratio);
     const QFontMetricsF metrics(font);
     const KeyName name(face_.caption(*field));
     const QPointF at(place->left() + (place->width() - name.width(font)) / 2,
