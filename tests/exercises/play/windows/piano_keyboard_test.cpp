@@ -150,6 +150,33 @@ TEST_F(PianoKeyboardTest, AKeyIsHeldUntilItIsLetGoAndTakesNothingWhileClosed) {
   }
 }
 
+TEST_F(PianoKeyboardTest, TheFieldUnderThePointerIsOutlinedWithinItsBandWhileItMayBePressed) {
+  piano.clearFocus();
+  piano.set_finished_tone(Field{17, 2});
+  for (const KeyState& state : {KeyState{true, false, false}, {true, false, true}, {}}) {
+    for (int number = 12; number <= 24; ++number) {
+      for (int band = 1; band <= kBands; ++band) {
+        const Field field{number, band};
+        piano.set_state(number, state);
+        const QImage before = piano.grab().toImage();
+        to(field);
+        const QImage pointed = piano.grab().toImage();
+        const Box box = piano.geometry().outline(field);
+        QImage outside = pointed;
+        QPainter(&outside).drawImage(box.left, box.top, before, box.left, box.top, box.width(),
+                                     box.height());
+        ASSERT_EQ(pointed != before, state.open && spelling(field)) << number << " " << band;
+        const bool labelled = piano.picture().label_place(field).has_value();
+        ASSERT_TRUE(labelled || outside == before) << number << " " << band;
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(&piano.key(number), &leave);
+        ASSERT_EQ(piano.grab().toImage(), before);
+        taker = nullptr;
+      }
+    }
+  }
+}
+
 TEST_F(PianoKeyboardTest, KeysAloneReachEveryFieldAndTellIt) {
   QString told;
   piano.on_field_focused = [&](const QString& spoken) { told = spoken; };
