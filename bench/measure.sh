@@ -36,6 +36,7 @@ fi
 "$programs/sheet"
 "$programs/hover"
 JACK_DEFAULT_SERVER=tonarix-slider "$programs/slider_to_port" 0.333
+JACK_DEFAULT_SERVER=tonarix-slider "$programs/key_to_port" 0.333
 
 # What a bare Debian 12 downloads for running: everything the packages need, less what every system has.
 status=$(mktemp)
