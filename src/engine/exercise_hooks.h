@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 
+#include "engine/material/range_repair.h"
 #include "engine/material/test_list.h"
 #include "engine/phase.h"
 #include "engine/row_player.h"
@@ -25,6 +27,8 @@ class ExerciseHooks {
   virtual void prepare() = 0;
   /// What the length of a test is reckoned from, where a window has measures of its own.
   virtual TestTiming test_timing(const TestTiming& usual) const { return usual; }
+  /// A row was drawn, and this had to be moved into the range for it.
+  virtual void row_drawn(std::span<const RangeMove>) {}
   /// How the row that was drawn is tuned.
   virtual TaskTuning tune() = 0;
   /// The first interval of a row that is asked, counted from 0; those before it are given.

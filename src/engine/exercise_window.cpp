@@ -95,6 +95,7 @@ Sequence ExerciseWindow::mat_wahl() {
   keeping_.now();
   sitting_.begin_task();
   material_.mat_wahl();
+  row_drawn(material_.moves());
   next_task_.name(context_.common.texts, ++lesson_nr_);
   player().begin_task(tune(), material_.terz_typ);
   const auto intervals =

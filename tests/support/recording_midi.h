@@ -57,6 +57,7 @@ class RecordingDevices final : public MidiDevices {
 
   std::vector<MidiDeviceInfo> devices{{1, "Recorder"}};
   bool refuses = false;  ///< opening raises RuntimeError 57
+  bool deaf = false;     ///< each message raises it
   int opened = -2;       ///< number of the device opened last
   std::vector<Entry> log;
   std::vector<std::pair<std::int32_t, std::int32_t>> volumes;  ///< left and right, as they were set
@@ -68,6 +69,7 @@ class RecordingDevices final : public MidiDevices {
     explicit Port(RecordingDevices& devices) : owner(devices) {}
     ~Port() override { stop_queue(); }
     void send(const MidiMessage& message) override {
+      if (owner.deaf) throw RuntimeError(RuntimeError::kDeviceError, "It takes nothing", "test");
       owner.log.push_back({seconds(owner.scheduler_.now() - owner.started_) * 1000.0, message});
     }
     void start_queue(std::vector<MidiMessage> queue, std::function<void()> ran_out) override {

@@ -85,6 +85,7 @@ void Material::draw_acceptable_row() {
 }
 
 void Material::draw_row() {
+  built_.moves.clear();
   for (int i = 1; i <= settings_.invzahl + 1; ++i) {
     draw_tone(i);
     if (is_test(settings_.Uebungsmodus) && (settings_.ton_st_wahl == 0 || i == 2)) {

@@ -36,6 +36,9 @@ class Material {
   /// Thirds over the keynote in a Dur-moll row: 0 none, 1 minor, 2 major, 3 both.
   std::int16_t terz_typ = 0;
 
+  /// What had to be moved into the range when the row was drawn.
+  const std::vector<RangeMove>& moves() const { return built_.moves; }
+
   /// Rows drawn again so far, by reason.
   const std::array<std::int64_t, kRefusals>& refused() const { return refused_; }
 

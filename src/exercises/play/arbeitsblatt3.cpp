@@ -1,5 +1,7 @@
 #include "exercises/play/arbeitsblatt3.h"
 
+#include <cstdlib>
+
 #include "base/arithmetic.h"
 #include "base/filled_text.h"
 #include "base/module_texts.h"
@@ -50,6 +52,23 @@ TestTiming Arbeitsblatt3::test_timing(const TestTiming& usual) const {
   return timing;
 }
 
+// Why a row came out as it did can be read in the host's log; a host without one is no trouble.
+void Arbeitsblatt3::row_drawn(std::span<const RangeMove> moves) {
+  const auto number = [](int value) { return std::to_string(value); };
+  for (const RangeMove& move : moves) {
+    std::string line = "  Ton " + number(move.tone) + " = außerhalb  inv_ton(i, 0) neu  " +
+                       number(move.chr) + " vorher:  " + number(move.iv_before) +
+                       " nachher : " + number(move.iv);
+    if (std::abs(move.iv) != std::abs(move.iv_before)) line += " KomplementärIv";
+    if (move.seeming_octave) line += "  '=scheinbare Oktave ";
+    try {
+      context().server.ServerLogMess(line);
+    } catch (const std::exception&) {
+      return;
+    }
+  }
+}
+
 LessonFacts Arbeitsblatt3::lesson_facts() {
   LessonFacts facts = SoundingWindow::lesson_facts();
   facts.iv_nr = 1;  // answers are numbered by the tone they lead to
@@ -94,7 +113,6 @@ void Arbeitsblatt3::show_task() {
     key.visible = *key.index() >= keys_.lowest && *key.index() <= keys_.highest;
     key.back = std::nullopt;
   }
-  tasteGesperrt_.reset();
   finished_tone_.reset();
   tonNr_ = 0;
   erstKlick_ = true;
@@ -112,7 +130,7 @@ void Arbeitsblatt3::show_task() {
 }
 
 void Arbeitsblatt3::open_answers(bool open) {
-  for (Control& key : taste) key.enabled = open && key.visible && !locked(*key.index());
+  for (Control& key : taste) key.enabled = open && !locked(*key.index());
 }
 
 void Arbeitsblatt3::show_actions(const Actions& actions) {

@@ -52,6 +52,7 @@ class Arbeitsblatt3 final : public SoundingWindow, public KeynoteControls {
  protected:
   void prepare() override;
   TestTiming test_timing(const TestTiming& usual) const override;
+  void row_drawn(std::span<const RangeMove> moves) override;
   int first_asked() const override { return 0; }
   void show_task() override;
   LessonFacts lesson_facts() override;
