@@ -90,6 +90,7 @@ Program::Program(const Options& options)
       chance_(clock_seed()),
       windows_(scheduler_),
       language_(catalogue_folder(catalogue_place())),
+      key_repeats_(*QCoreApplication::instance()),
       presenter_(windows_),
       dialogs_(scheduler_, language_, presenter_),
       printer_(scheduler_, language_, presenter_),

@@ -6,6 +6,7 @@
 #include "app/module.h"
 #include "app/options.h"
 #include "base/chance.h"
+#include "base/windows/key_repeats.h"
 #include "base/windows/presenter.h"
 #include "base/windows/qt_dialogs.h"
 #include "base/windows/qt_scheduler.h"
@@ -56,6 +57,7 @@ class Program {
   WindowList windows_;
   Language language_;
   ToolkitTexts toolkit_texts_;
+  KeyRepeats key_repeats_;
   Presenter presenter_;
   QtDialogs dialogs_;
   QtSheetPrinter printer_;

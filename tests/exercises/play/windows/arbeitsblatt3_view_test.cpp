@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include "base/windows/accessibility.h"
+#include "base/windows/key_repeats.h"
 #include "base/windows/presenter.h"
 #include "exercises/play/windows/piano_keyboard.h"
 #include "flow/flow_bed.h"
@@ -72,6 +73,14 @@ struct Arbeitsblatt3ViewTest : testing::Test {
     focus = view->focusWidget() ? view->focusWidget() : view;
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, {}, repeats);
     QApplication::sendEvent(focus, &release);
+  }
+  /// A repeat as the display tells it, where the toolkit has not seen that it is one.
+  void unmarked_repeat(int key, quint64 moment) const {
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+      QKeyEvent event(type, key, Qt::NoModifier);
+      event.setTimestamp(moment);
+      QApplication::sendEvent(view->focusWidget(), &event);
+    }
   }
   void go_to(const Field& field) const {
     while (keyboard->focused_field().key != field.key) {
@@ -143,8 +152,10 @@ TEST_F(Arbeitsblatt3ViewTest, AWholeTaskIsPlayedByKeysAloneAndItsLastStrokeLeads
   EXPECT_EQ(window->zaehler[0].text + wrong_count(), "50");
   stroke(Qt::Key_Return, true);
   stroke(Qt::Key_Return);
-  EXPECT_EQ(window->phase(), Phase::next_offered) << "the same stroke, or its second half";
   bed.scheduler.advance_ms(InputGuard::kSamePress);
+  const KeyRepeats filter(*QCoreApplication::instance());
+  unmarked_repeat(Qt::Key_Return, 15325283);
+  EXPECT_EQ(window->phase(), Phase::next_offered) << "the same stroke, or its second half";
   stroke(Qt::Key_Return);
   EXPECT_EQ(window->phase(), Phase::sounding);
 }
