@@ -147,6 +147,7 @@ TEST(PlayFlow, WhatAToneEarns) {
                                         (told.back() == "TrOf" ? "[433s][703s]" : "[561s][703s]"));
     const bool right = told.back() == "true";
     EXPECT_EQ(window.zaehler[0].text, right ? "1" : "0");
+    EXPECT_EQ(window.ergPic[1].text.starts_with("[1125s]: "), wrong_tries == 4);
     EXPECT_EQ(window.ergPic[1].back, right             ? signal::right
                                      : near_misses > 0 ? signal::open
                                                        : signal::given);

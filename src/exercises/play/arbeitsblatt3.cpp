@@ -307,6 +307,8 @@ void Arbeitsblatt3::show_tone(const Colour& ground, const std::string& verdict) 
   result.back = ground;
   result.fore = signal::black;
   result.text = names_.written(tone);
+  // What the program tells reads differently from what was played, in grey too.
+  if (ground == signal::given) result.text = verdict + ": " + result.text;
   result.accessible_name = int_lb[tonNr_].text + ": " + names_.spoken(tone) + ", " + verdict;
 }
 

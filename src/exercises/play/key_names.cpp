@@ -1,7 +1,5 @@
 #include "exercises/play/key_names.h"
 
-#include <cctype>
-
 #include "base/module_texts.h"
 
 namespace tonarix {
@@ -51,14 +49,11 @@ std::string KeyNames::caption(const Field& field, int note) const {
 }
 
 std::string KeyNames::written(Tone tone) const {
-  std::string name = namenTab_.at(static_cast<std::size_t>(pitch_class(tone.qz)))
-                         .at(static_cast<std::size_t>(band_of(tone.qz) - 1));
   const int octave = written_octave(tone);
-  if (octave <= kGreatOctave) {
-    name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
-  }
   const std::string& mark = tone_names_.octave_mark(octave);
-  return mark == kUpperCase || mark == kPlain ? name : name + mark;
+  const bool printed = mark != kUpperCase && mark != kPlain;
+  return (octave <= kGreatOctave ? tone_names_.upper(tone.qz) : tone_names_.lower(tone.qz)) +
+         (printed ? mark : std::string());
 }
 
 std::string KeyNames::spoken(Tone tone) const {

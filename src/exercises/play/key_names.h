@@ -17,7 +17,7 @@ class KeyNames {
   /// What is printed on a field of the key that sounds `note`: the name of its spelling, on the
   /// lowest band of a c with its octave. Empty for a field that stands for nothing.
   std::string caption(const Field& field, int note) const;
-  /// The tone as it is written on keys, always with its octave: "Fis", "fis", "fis'".
+  /// The tone's full name with its octave behind it, as on the keys: "Fis", "fis", "fis'".
   std::string written(Tone tone) const;
   /// A tone by name and octave: "fis, kleine Oktave".
   std::string spoken(Tone tone) const;

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "base/arithmetic.h"
 #include "base/windows/accessibility.h"
 #include "base/windows/key_repeats.h"
 #include "base/windows/presenter.h"
@@ -133,6 +134,24 @@ TEST_F(Arbeitsblatt3ViewTest, ARealKeyAnswersOncePerClickAndSoundsWhileItIsHeld)
   }
   EXPECT_EQ(window->zaehler[0].text + wrong_count(), "52");
   EXPECT_EQ(child<Label>("ergPic_5").sign(), Label::Sign::right);
+}
+
+// Tasks with tones that no key of the exercise has: each of the named ones is played once.
+TEST_F(Arbeitsblatt3ViewTest, EveryNamedToneHasItsPlaceOnTheKeys) {
+  auto& row = const_cast<TaskRow&>(bed.module.row());
+  for (int qz = 0; qz < kNamedTones;) {
+    bed.hear_row();
+    click(right());
+    for (; asked() >= 0 && qz < kNamedTones; ++qz) {
+      const auto place = static_cast<std::size_t>(asked());
+      row.inv_ton[place] = {to_int16(60 + pitch_class(qz)), to_int16(qz)};
+      bed.scheduler.advance_ms(InputGuard::kSamePress);
+      click(right());
+      EXPECT_EQ(window->ergPic[static_cast<int>(place)].back, signal::right) << qz;
+    }
+    window->CmdNextAufg_click();
+  }
+  EXPECT_EQ(window->zaehler[0].text + wrong_count(), "350");
 }
 
 TEST_F(Arbeitsblatt3ViewTest, AWholeTaskIsPlayedByKeysAloneAndItsLastStrokeLeadsNoFurther) {
