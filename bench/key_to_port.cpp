@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <vector>
 
 #include "app/program.h"
@@ -50,9 +51,10 @@ class Pianist {
  private:
   void click(const Arbeitsblatt3& window) {
     const KeyRange& keys = window.keys();
+    const int before = key_;
     do {
-      key_ = keys.lowest + (key_ * 7 + 5) % (keys.highest - keys.lowest);
-    } while (is_black(key_) || !window.taste[key_].open());
+      key_ = std::uniform_int_distribution(keys.lowest, keys.highest)(chance_);
+    } while (key_ == before || is_black(key_) || !window.taste[key_].open());
     for (QWidget* top : QApplication::topLevelWidgets()) {
       auto* key = top->findChild<QWidget*>(QStringLiteral("taste_%1").arg(key_));
       if (!key) continue;
@@ -67,7 +69,8 @@ class Pianist {
   Port& port_;
   double period_ms_;
   std::vector<Moment> clicked_;
-  int key_ = 12;
+  std::minstd_rand chance_;
+  int key_ = 0;
 };
 
 int measure(int argc, char* argv[]) {

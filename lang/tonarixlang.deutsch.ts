@@ -769,9 +769,9 @@
         <translation>Ton</translation>
     </message>
     <message id="561s">
-        <source>Tonart</source>
+        <source>Schreibweise</source>
         <extracomment>Keyboard and write exercises: warning that the spelling of a tone does not fit the key; exclamation marks follow</extracomment>
-        <translation>Tonart</translation>
+        <translation>Schreibweise</translation>
     </message>
     <message id="564s">
         <source>Training mit Speichern</source>
@@ -2255,10 +2255,6 @@ Vorzeichen!</translation>
     <message id="1346s">
         <source>viergestrichene Oktave</source>
         <translation>viergestrichene Oktave</translation>
-    </message>
-    <message id="1347s">
-        <source>Ton 1: %1.</source>
-        <translation>Ton 1: %1.</translation>
     </message>
     <message id="1348s">
         <source>Richtige Taste, andere Schreibweise: gesucht war %1.</source>

@@ -769,7 +769,7 @@
         <translation>Tone</translation>
     </message>
     <message id="561s">
-        <source>Tonart</source>
+        <source>Schreibweise</source>
         <extracomment>Keyboard and write exercises: warning that the spelling of a tone does not fit the key; exclamation marks follow</extracomment>
         <translation>Spelling</translation>
     </message>
@@ -2255,10 +2255,6 @@ in any order.</translation>
     <message id="1346s">
         <source>viergestrichene Oktave</source>
         <translation>four-line octave</translation>
-    </message>
-    <message id="1347s">
-        <source>Ton 1: %1.</source>
-        <translation>Tone 1: %1.</translation>
     </message>
     <message id="1348s">
         <source>Richtige Taste, andere Schreibweise: gesucht war %1.</source>

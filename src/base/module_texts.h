@@ -250,7 +250,6 @@ inline constexpr TextKey octave_one_line = 1343_text;
 inline constexpr TextKey octave_two_line = 1344_text;
 inline constexpr TextKey octave_three_line = 1345_text;
 inline constexpr TextKey octave_four_line = 1346_text;
-inline constexpr TextKey first_tone_is = 1347_text;
 inline constexpr TextKey other_spelling = 1348_text;
 inline constexpr TextKey other_register = 1349_text;
 inline constexpr TextKey first_spelling_wrong = 1350_text;

@@ -59,12 +59,15 @@ bool bring_back(RowUnderWay& built, int i, const Settings& settings, const Key& 
 bool TonraumTest(RowUnderWay& built, int i, const Settings& settings, const Key& key) {
   const int above_offset = built.tone(i).chr - key.tonart_offset;
   const bool inside = above_offset >= settings.tonraum_min && above_offset <= settings.tonraum_max;
-  const std::int16_t iv_before = built.iv(i - 1);
+  const TaskRow before = built.row;
   if (!inside && !bring_back(built, i, settings, key)) return false;
   // Neither a tone repeated around another nor the octave that would only seem to be one.
   const bool repeated = built.tone(i).chr == built.tone(i - 2).chr;
   if (!inside) {
-    built.moves.push_back({i, built.tone(i).chr, iv_before, built.iv(i - 1), repeated});
+    const auto turned = static_cast<std::size_t>(
+        before.iv[static_cast<std::size_t>(i - 2)] != built.iv(i - 2) ? i - 2 : i - 1);
+    built.moves.push_back(
+        {i, built.tone(i).chr, before.iv[turned], built.row.iv[turned], repeated});
   }
   return !repeated;
 }

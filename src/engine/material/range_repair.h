@@ -13,7 +13,7 @@ namespace tonarix {
 struct RangeMove {
   int tone = 0;                 ///< its place in the row
   std::int16_t chr = 0;         ///< MIDI note it was moved to
-  std::int16_t iv_before = 0;   ///< the interval that leads to it
+  std::int16_t iv_before = 0;   ///< the interval that changed, or the one that leads to the tone
   std::int16_t iv = 0;          ///< the same after the move
   bool seeming_octave = false;  ///< it would equal the tone two before it, so it is drawn again
 };

@@ -151,6 +151,7 @@ void Arbeitsblatt3::mark_asked(bool asked) {
 
 void Arbeitsblatt3::row_sounded() {
   heard_ = true;
+  if (lesson_number() == 1 && erstKlick_) announce(word(text::how_to_begin_row));
 }
 
 void Arbeitsblatt3::hearing(SpielArt what) {
@@ -229,8 +230,8 @@ void Arbeitsblatt3::first_click() {
   show_tone(spelled ? signal::right : signal::given,
             word(spelled ? text::spoken_right : text::spoken_solution));
   if (!spelled) warn(561_text);
-  const TextKey words = spelled ? text::first_tone_is : text::first_spelling_wrong;
-  const std::string told = filled(word(words), {in_full(first)});
+  const std::string told = spelled ? word(468_text) + ": " + names_.spoken(first) + "."
+                                   : filled(word(text::first_spelling_wrong), {in_full(first)});
   announce(told);
   finish_tone();
   answers().restart();
@@ -241,8 +242,10 @@ void Arbeitsblatt3::first_click() {
 void Arbeitsblatt3::answer(const Field& field) {
   const float tenths = answers().take();
   const int place = tonNr_ - 1;
+  const KeyVerdict verdict = judge_key(field, row_tone(tonNr_), row_tone(tonNr_ - 1), tasteBasis());
+  const bool nearly = verdict == KeyVerdict::tone_right || verdict == KeyVerdict::octave_right;
   std::string told;
-  switch (judge_key(field, row_tone(tonNr_), row_tone(tonNr_ - 1), tasteBasis())) {
+  switch (verdict) {
     case KeyVerdict::right:
       told = right_answer(tenths);
       break;
@@ -259,7 +262,10 @@ void Arbeitsblatt3::answer(const Field& field) {
   announce(told);
   if (!answers().book.open(place)) finish_tone();
   if (!answers().book.done()) answers().open_next(to_int16(tonNr_));
+  const std::string words = hint.text;
   go_on_after_answer();
+  // What was nearly right in the last tone stays to be read.
+  if (nearly && answers().book.done()) hint.text = words;
 }
 
 std::string Arbeitsblatt3::right_answer(float tenths) {

@@ -15,8 +15,6 @@ namespace tonarix {
 /// the tone is written.
 class Arbeitsblatt3 final : public SoundingWindow, public KeynoteControls {
  public:
-  static constexpr int kLastKey = 79;
-
   explicit Arbeitsblatt3(const ExerciseContext& context);
 
   /// The student presses a key in one of its bands; no band for a place above them, which says

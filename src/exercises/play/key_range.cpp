@@ -22,6 +22,7 @@ KeyRange key_range(const Settings& settings, const Key& key, const TaskRow& row)
     keys.lowest = std::min(keys.lowest, tone);
     keys.highest = std::max(keys.highest, tone);
   }
+  keys = {std::max(keys.lowest, 0), std::min(keys.highest, kLastKey)};
   if (is_black(keys.lowest)) --keys.lowest;
   if (is_black(keys.highest)) ++keys.highest;
   return keys;

@@ -8,6 +8,9 @@
 
 namespace tonarix {
 
+/// Keys are numbered from 0, the c an octave below the lowest range, to this g.
+inline constexpr int kLastKey = 79;
+
 /// Keys from `lowest` to `highest`, both counted in.
 struct KeyRange {
   int lowest = 12;
@@ -26,7 +29,7 @@ constexpr int note_of(int key, std::int16_t tasteBasis) {
 
 /// The keys that a task needs: the chosen range as it lies in the key of the task, where the key
 /// changes as it lies in any, so that the picture stays; and on to the next white key at either
-/// end, as a black one stands on two.
+/// end, as a black one stands on two. At most from 0 to `kLastKey`.
 KeyRange key_range(const Settings& settings, const Key& key, const TaskRow& row);
 
 }  // namespace tonarix

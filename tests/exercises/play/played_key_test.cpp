@@ -93,8 +93,14 @@ TEST(KeyRange, ReachesOverTheRangeAndEndsOnWhiteKeys) {
     EXPECT_EQ(keys.highest, is_black(highest) ? highest + 1 : highest);
     EXPECT_FALSE(is_black(keys.lowest) || is_black(keys.highest));
   }
-  row.inv_ton[2] = {110, 17};
-  EXPECT_EQ(key_range(settings, key, row).highest, 86) << "no right answer is out of reach";
+  settings.tonraum_max = 60;
+  settings.Tonart = key.tonart_offset = 0;
+  for (const int note : {61, 80, 103, 110}) {
+    row.inv_ton[2].chr = to_int16(note);
+    const int highest = std::min(note - 36 + 12, 79);
+    EXPECT_EQ(key_range(settings, key, row).highest, highest + (is_black(highest) ? 1 : 0))
+        << "no right answer is out of reach";
+  }
 }
 
 // The tones of a key have their own table; beyond it pure fifths go on at either end.

@@ -12,7 +12,7 @@
 namespace tonarix {
 namespace {
 
-static_assert(kPianoKeys == Arbeitsblatt3::kLastKey + 1);
+static_assert(kPianoKeys == kLastKey + 1);
 
 bool is_return(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
