@@ -46,6 +46,12 @@ struct PianoKeyboardTest : testing::Test {
   void stroke(int which) { key(QEvent::KeyPress, which); }
   void repeat(int which) { key(QEvent::KeyPress, which, true); }
   void let_go(int which) { key(QEvent::KeyRelease, which); }
+  void screen_reader_press() {
+    auto* actions = QAccessible::queryAccessibleInterface(&piano)->actionInterface();
+    const QString press = QAccessibleActionInterface::pressAction();
+    EXPECT_EQ(actions->actionNames().contains(press), piano.open());
+    actions->doAction(press);
+  }
   void all_keys(const KeyState& state) {
     for (int number = 0; number < kPianoKeys; ++number) piano.set_state(number, state);
     log += "set ";
@@ -130,8 +136,17 @@ TEST_F(PianoKeyboardTest, AKeyIsHeldUntilItIsLetGoAndTakesNothingWhileClosed) {
        [&] { repeat(Qt::Key_Return), all_keys(kClosed), repeat(Qt::Key_Return); }, "set "},
       {"Ctrl and Return",
        [&] { key(QEvent::KeyPress, Qt::Key_Return, false, Qt::ControlModifier); }, "window "},
+      {"a screen reader's press", [&] { screen_reader_press(); }, "36.1 up "},
+      {"a screen reader's press while closed", [&] { all_keys(kClosed), screen_reader_press(); },
+       "set "},
       {"focus lost", [&] { stroke(Qt::Key_Space), piano.clearFocus(), log += "there "; },
        "36.1 up there "},
+      {"window left",
+       [&] {
+         QEvent away(QEvent::WindowDeactivate);
+         down(kD), QApplication::sendEvent(&piano, &away), log += "there ", up();
+       },
+       "14.1 up there "},
       {"moved on while held", [&] { stroke(Qt::Key_Enter), stroke(Qt::Key_Left), log += "there "; },
        "36.1 up there "},
       {"mouse and key",
@@ -151,6 +166,7 @@ TEST_F(PianoKeyboardTest, AKeyIsHeldUntilItIsLetGoAndTakesNothingWhileClosed) {
 }
 
 TEST_F(PianoKeyboardTest, TheFieldUnderThePointerIsOutlinedWithinItsBandWhileItMayBePressed) {
+  bed.show({12, 36});
   piano.clearFocus();
   piano.set_finished_tone(Field{17, 2});
   for (const KeyState& state : {KeyState{true, false, false}, {true, false, true}, {}}) {
@@ -175,6 +191,37 @@ TEST_F(PianoKeyboardTest, TheFieldUnderThePointerIsOutlinedWithinItsBandWhileItM
       }
     }
   }
+}
+
+TEST_F(PianoKeyboardTest, AScreenReaderIsToldEachStrokeOnceAndTheKeysByPitch) {
+  int told = 0;
+  QString last;
+  piano.on_field_focused = [&](const QString& spoken) { ++told, last = spoken; };
+  piano.set_locked_word("locked");
+  int strokes = 0;
+  for (const int which : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down,
+                          Qt::Key_End, Qt::Key_End, Qt::Key_Right, Qt::Key_PageUp}) {
+    stroke(which);
+    EXPECT_EQ(told, ++strokes);
+  }
+  repeat(Qt::Key_Right);
+  stroke(Qt::Key_Return), let_go(Qt::Key_Return);
+  EXPECT_EQ(told, strokes) << "neither a held key at the end nor a tone";
+  piano.set_state(48, {true, true, false});
+  stroke(Qt::Key_Return);
+  EXPECT_EQ(told, strokes + 1);
+  EXPECT_TRUE(last.endsWith(", locked"));
+  EXPECT_EQ(piano.accessibleName(), "") << "a name that is set is told a second time";
+
+  const auto* all = QAccessible::queryAccessibleInterface(&piano);
+  ASSERT_EQ(all->childCount(), kPianoKeys);
+  for (int number = 0; number < kPianoKeys; ++number) {
+    ASSERT_EQ(all->child(number)->object(), &piano.key(number));
+    ASSERT_EQ(all->indexOfChild(all->child(number)), number);
+  }
+  const Box black = piano.geometry().key(25);
+  const QPoint over_c = piano.mapToGlobal(QPoint(black.left + 2, black.bottom - 2));
+  EXPECT_EQ(all->childAt(over_c.x(), over_c.y())->object(), &piano.key(25));
 }
 
 TEST_F(PianoKeyboardTest, KeysAloneReachEveryFieldAndTellIt) {
