@@ -58,6 +58,8 @@ void Arbeitsblatt3View::build_keyboard() {
 
   keyboard_ = new PianoKeyboard(card);
   keyboard_->set_locked_word(word(text::locked));
+  keyboard_->setAccessibleDescription(word(text::field_says_spelling) + QLatin1Char(' ') +
+                                      word(text::how_to_play));
   keyboard_->on_pressed = [this](int key, std::optional<int> band) { press(key, band); };
   keyboard_->on_released = [this] {
     if (bindings().live()) window_.taste_up();

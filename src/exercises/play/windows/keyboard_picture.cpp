@@ -31,6 +31,7 @@ constexpr QColor kSoundingOctave(255, 0, 0);
 constexpr double kCorner = 4;
 constexpr double kBlackCorner = 3;
 constexpr double kRing = 3;
+constexpr double kThinRing = 2;
 constexpr double kHatchStep = 6;
 constexpr int kLabelText = 13;
 constexpr double kLabelBeside = 6;
@@ -91,12 +92,12 @@ void KeyboardPicture::paint(QPainter& painter, const QRect& part) const {
     }
   }
   draw_finished_tone(painter);
+  draw_focus(painter);
   for (int key = keys.lowest; key <= keys.highest; ++key) {
     if (!rect(face_.geometry.key(key)).intersects(part)) continue;
     for (int band = 1; band <= kBands; ++band) TasteCaption(painter, {key, band});
   }
   draw_hover(painter);
-  draw_focus(painter);
   draw_labels(painter);
 }
 
@@ -196,16 +197,21 @@ void KeyboardPicture::draw_hover(QPainter& painter) const {
 
 void KeyboardPicture::draw_focus(QPainter& painter) const {
   if (!face_.focused) return;
-  const double line = kRing * face_.ratio;
-  const double out = line / 3;
+  // At narrow keys names begin at the edge: the ring keeps to its band, its light line lies
+  // outside.
+  const bool thin = frame_width(face_, *face_.focused) == pixels(1);
+  const double line = (thin ? kThinRing : kRing) * face_.ratio;
   const double edge = line / 2;
+  const double out = thin ? -edge : line / 3;
   const QRectF whole(edge, edge, face_.geometry.width() - line, face_.geometry.height() - line);
   const QRectF ring =
       QRectF(rect(face_.geometry.band(*face_.focused))).adjusted(-out, -out, out, out) & whole;
+  const double light = (thin ? 1 : 2) * face_.ratio;
+  const double aside = thin ? light / 2 : 0;
   const double corner = kCorner * face_.ratio;
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(kWhite, line + 2 * face_.ratio));
-  painter.drawRoundedRect(ring, corner, corner);
+  painter.setPen(QPen(kWhite, line + light));
+  painter.drawRoundedRect(ring.adjusted(-aside, -aside, aside, aside), corner, corner);
   painter.setPen(QPen(theme_colour(theme::accent), line));
   painter.drawRoundedRect(ring, corner, corner);
 }

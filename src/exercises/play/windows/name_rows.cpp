@@ -10,8 +10,8 @@ namespace tonarix {
 namespace {
 
 // Logical pixels.
-constexpr int kSmallest = 8;
-constexpr int kSmallestOfC = 7;
+constexpr int kSmallest = 9;
+constexpr int kSmallestOfC = 8;
 constexpr int kLargest = 15;
 constexpr int kLargestOfLowest = 20;
 // In units of the keyboard's height.
@@ -25,6 +25,7 @@ bool is_c(const Field& field) {
 }
 
 struct Printed {
+  int key;
   KeyName name;
   int room;
 };
@@ -69,24 +70,32 @@ NameRows::NameRows(const KeyboardFace& face) {
         const KeyName name(face.caption(field));
         // Alone it has the key to its border.
         if (is_c(field)) {
-          cs.push_back({name, face.geometry.band(field).width() - pixels(face, 1)});
+          cs.push_back({key, name, face.geometry.band(field).width() - pixels(face, 1)});
         } else {
           names.push_back(
-              {name, face.geometry.outline(field).width() - 2 * frame_width(face, field)});
+              {key, name, face.geometry.outline(field).width() - 2 * frame_width(face, field)});
         }
       }
       const int largest = largest_of_row(face, black, band);
       int& row = rows_[black ? 1 : 0].at(static_cast<std::size_t>(band - 1));
       row = largest_that_fits(names, largest, pixels(face, kSmallest));
       if (cs.empty()) continue;
-      c_ = largest_that_fits(cs, row > 0 ? row : largest, pixels(face, kSmallestOfC));
+      const int smallest = pixels(face, kSmallestOfC);
+      const int all = largest_that_fits(cs, row > 0 ? row : largest, smallest);
+      for (const Printed& c : cs) {
+        cs_.at(static_cast<std::size_t>(c.key)) =
+            all > 0 ? all : largest_that_fits({c}, smallest, smallest);
+      }
     }
   }
+  auto& [white, black] = rows_;
+  black[0] = black[1] = std::min(black[0], black[1]);
+  white[1] = white[2] = std::min(white[1], white[2]);
 }
 
 int NameRows::size(const Field& field) const {
   return is_c(field)
-             ? c_
+             ? cs_.at(static_cast<std::size_t>(field.key))
              : rows_[is_black(field.key) ? 1 : 0].at(static_cast<std::size_t>(field.band - 1));
 }
 

@@ -8,8 +8,10 @@ namespace tonarix {
 
 /// How large the names on the keys are printed. The names of one row, which is one band of the
 /// white or of the black keys, have one size, in which the widest still fits its field; where even
-/// the smallest readable one is too large, none of the row is printed. The c of the lowest band is
-/// printed alone where the rest of its row is not, as it is what octaves are found by.
+/// the smallest readable one is too large, none of the row is printed. Two rows of like names, the
+/// sharps and flats of black keys or the upper two of white keys, count as one: one alone would
+/// look like the whole choice. The c of the lowest band is printed alone where the rest of its row
+/// is not, as it is what octaves are found by; where one is too wide, the others stay.
 class NameRows {
  public:
   NameRows() = default;
@@ -20,7 +22,7 @@ class NameRows {
 
  private:
   std::array<std::array<int, kBands>, 2> rows_{};  ///< white and black, by band
-  int c_ = 0;
+  std::array<int, kPianoKeys> cs_{};               ///< by key
 };
 
 /// Width of the frame around the field under the pointer; names stay within it.

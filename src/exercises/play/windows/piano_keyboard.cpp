@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/windows/accessibility.h"
+#include "exercises/play/windows/piano_accessible.h"
 
 namespace tonarix {
 namespace {
@@ -27,7 +28,7 @@ PianoKeyboard::PianoKeyboard(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::TabFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setLayoutDirection(Qt::LeftToRight);  // high is on the right in every language
-  set_accessible_role(*this, QAccessible::Button);
+  install_piano_accessibility();
   for (const bool black : {false, true}) {
     for (int number = 0; number < kPianoKeys; ++number) {
       if (is_black(number) == black) {
@@ -39,7 +40,7 @@ PianoKeyboard::PianoKeyboard(QWidget* parent) : QWidget(parent) {
 
 PianoKeyboard::~PianoKeyboard() {
   // Before the toolkit hides them: they would tell a keyboard that is half gone.
-  for (const PianoKey* key : keys_) delete key;
+  for (PianoKey*& key : keys_) delete std::exchange(key, nullptr);
 }
 
 void PianoKeyboard::set_keys(const KeyRange& keys) {
@@ -87,7 +88,6 @@ void PianoKeyboard::set_finished_tone(const std::optional<Field>& field) {
 
 void PianoKeyboard::set_locked_word(const QString& word) {
   locked_word_ = word;
-  tell_names(focused_field().key);
 }
 
 Field PianoKeyboard::focused_field() const {
@@ -108,7 +108,6 @@ void PianoKeyboard::tell_names(int number) {
     if (!spoken.isEmpty()) fields << spoken;
   }
   set_accessible_name(key(number), fields.join(QStringLiteral("; ")));
-  if (focused_field().key == number) set_accessible_name(*this, spoken(focused_field()));
 }
 
 bool PianoKeyboard::takes_press(int number) const {
@@ -156,29 +155,37 @@ bool PianoKeyboard::take_key(const QKeyEvent& event) {
   if (event.type() != QEvent::KeyPress || (event.modifiers() & ~Qt::KeypadModifier) != 0) {
     return false;
   }
+  const auto to = goal(event.key());
+  if (!to) return false;
+  // A key that is held at the end is answered once.
+  if (focus_field(*to) || !event.isAutoRepeat()) tell_focus();
+  return true;
+}
+
+std::optional<Field> PianoKeyboard::goal(int key) const {
   const Field field = focused_field();
+  // The band that was chosen comes back behind a key that lacks it.
+  const int band = focus_ ? focus_->band : 1;
   const KeyRange& keys = face_.geometry.keys();
-  switch (event.key()) {
+  switch (key) {
     case Qt::Key_Left:
-      return move(field.key - 1);
+      return Field{field.key - 1, band};
     case Qt::Key_Right:
-      return move(field.key + 1);
+      return Field{field.key + 1, band};
     case Qt::Key_PageUp:
-      return move(field.key + kOctaveKeys);
+      return Field{field.key + kOctaveKeys, band};
     case Qt::Key_PageDown:
-      return move(field.key - kOctaveKeys);
+      return Field{field.key - kOctaveKeys, band};
     case Qt::Key_Home:
-      return move(keys.lowest);
+      return Field{keys.lowest, band};
     case Qt::Key_End:
-      return move(keys.highest);
+      return Field{keys.highest, band};
     case Qt::Key_Up:
-      focus_field({field.key, field.band + 1});
-      return true;
+      return Field{field.key, field.band + 1};
     case Qt::Key_Down:
-      focus_field({field.key, field.band - 1});
-      return true;
+      return Field{field.key, field.band - 1};
     default:
-      return false;
+      return std::nullopt;
   }
 }
 
@@ -192,28 +199,37 @@ bool PianoKeyboard::play(const QKeyEvent& event) {
   }
   // One held since something else was pressed by it presses nothing, here or in the window.
   if (event.isAutoRepeat()) return true;
+  if (!open()) return false;
+  press_focused(event.key());
+  return true;
+}
+
+void PianoKeyboard::click() {
+  press_focused(0);
+  let_go();
+}
+
+void PianoKeyboard::press_focused(int by) {
   const Field field = focused_field();
-  if (!face_.state_of(field.key).open) return false;
-  press({field.key, field.band}, event.key());
-  return true;
+  if (!takes_press(field.key)) return tell_focus();
+  press({field.key, field.band}, by);
 }
 
-bool PianoKeyboard::move(int to) {
-  // The band that was chosen comes back behind a key that lacks it.
-  if (face_.geometry.has(to)) focus_field({to, focus_ ? focus_->band : 1});
-  return true;
+void PianoKeyboard::tell_focus() const {
+  if (on_field_focused) on_field_focused(spoken(focused_field()));
 }
 
-void PianoKeyboard::focus_field(const Field& field) {
+bool PianoKeyboard::focus_field(const Field& field) {
   if (!hasFocus()) setFocus(Qt::OtherFocusReason);
   const Field before = focused_field();
-  const bool stands = field.band >= 1 && (is_field(field) || field.key != before.key);
-  if (!stands) return;
+  const bool stands =
+      field.key != before.key ? face_.geometry.has(field.key) : field.band >= 1 && is_field(field);
+  if (!stands) return false;
   focus_ = field;
-  if (focused_field() == before) return;
+  if (focused_field() == before) return false;
   if (held_ && held_->by != 0) let_go();
   show_focus();
-  if (on_field_focused) on_field_focused(spoken(focused_field()));
+  return true;
 }
 
 void PianoKeyboard::show_focus() {
@@ -221,7 +237,6 @@ void PianoKeyboard::show_focus() {
   for (const auto& changed : {std::exchange(face_.focused, now), now}) {
     if (changed && face_.geometry.has(changed->key)) update_pixels(picture_.marks_place(*changed));
   }
-  tell_names(focused_field().key);
 }
 
 void PianoKeyboard::keyPressEvent(QKeyEvent* event) {
@@ -234,6 +249,9 @@ void PianoKeyboard::keyReleaseEvent(QKeyEvent* event) {
 
 void PianoKeyboard::focusInEvent(QFocusEvent*) {
   show_focus();
+  // The fields on the way were told as news; who asks for the name now gets this one.
+  QAccessibleEvent renamed(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
 }
 
 void PianoKeyboard::focusOutEvent(QFocusEvent*) {

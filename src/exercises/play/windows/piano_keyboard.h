@@ -17,6 +17,7 @@ class PianoKeyboard;
 class PianoKey final : public QWidget {
  public:
   PianoKey(PianoKeyboard& keyboard, int number);
+  int number() const { return number_; }
 
  protected:
   bool event(QEvent* event) override;
@@ -49,11 +50,13 @@ class PianoKeyboard final : public QWidget {
   std::function<void(int key, std::optional<int> band)> on_pressed;
   /// The key that was pressed is let go.
   std::function<void()> on_released;
-  /// Keys have led the focus to another field, called so.
+  /// Keys have led the focus to a field, called so, or could not lead it further or play it.
   std::function<void(const QString& spoken)> on_field_focused;
 
   /// A key, 0 to 79.
   PianoKey& key(int number) { return *keys_.at(static_cast<std::size_t>(number)); }
+  /// All keys by rising pitch, none any more while the keyboard goes.
+  const std::array<PianoKey*, kPianoKeys>& keys() const { return keys_; }
   /// Shows these keys, both ends white; the rest is hidden. The focused field stays where it is as
   /// far as the keys reach; at first it is the c in or next above the middle.
   void set_keys(const KeyRange& keys);
@@ -67,8 +70,12 @@ class PianoKeyboard final : public QWidget {
 
   /// The field that the computer keyboard plays.
   Field focused_field() const;
-  /// What a screen reader calls a field.
+  /// What a screen reader calls a field, and while it is focused the keyboard.
   QString spoken(const Field& field) const;
+  /// Whether the keys take presses.
+  bool open() const { return isEnabled() && face_.state_of(focused_field().key).open; }
+  /// Presses the focused field and lets it go; while the keys are open.
+  void click();
   /// Takes a press or release of a key of the computer keyboard, also for a window whose focus is
   /// elsewhere; one that moves brings the focus here. False for a key that means nothing here:
   /// Return and Space while the keys are closed, any with Shift, Ctrl or Alt.
@@ -105,8 +112,10 @@ class PianoKeyboard final : public QWidget {
   void let_go();
   bool takes_press(int key) const;
   bool play(const QKeyEvent& event);
-  bool move(int to);
-  void focus_field(const Field& field);
+  void press_focused(int by);
+  void tell_focus() const;
+  std::optional<Field> goal(int key) const;
+  bool focus_field(const Field& field);
   void show_focus();
   void tell_names(int key);
   void lay_out();
