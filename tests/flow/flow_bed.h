@@ -137,7 +137,7 @@ class FlowBed {
     hear_row();
   }
   /// Leaves by `zurueck`, past the result sheet after a while; what was written.
-  pugi::xml_node leave(Arbeitsblatt1& window) {
+  pugi::xml_node leave(ExerciseWindow& window) {
     window.zurueck_click();
     scheduler.advance_ms(400);
     work = result().content().work.line(", ");

@@ -57,13 +57,6 @@ struct FormingBed : FlowBed {
     module.settings().abfrage == 1 ? scheduler.advance_ms(1800) : window.CmdNextAufg_click();
     hear_task();
   }
-  pugi::xml_node leave(Arbeitsblatt2& window) {
-    window.zurueck_click();
-    scheduler.advance_ms(400);
-    result().cmdOk_click();
-    scheduler.advance_ms(450);
-    return written();
-  }
   std::size_t wire() const { return devices.log.size(); }
   /// Bends of a channel since this entry of the wire.
   std::vector<int> bends(int channel, std::size_t from) const {

@@ -87,14 +87,6 @@ struct PlayBed : FlowBed {
     module.settings().abfrage == 1 ? scheduler.advance_ms(1800) : window.CmdNextAufg_click();
     hear_row();
   }
-  pugi::xml_node leave(Arbeitsblatt3& window) {
-    window.zurueck_click();
-    scheduler.advance_ms(400);
-    work = result().content().work.line(", ");
-    result().cmdOk_click();
-    scheduler.advance_ms(450);
-    return written();
-  }
 };
 
 }  // namespace tonarix
