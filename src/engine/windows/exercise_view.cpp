@@ -207,7 +207,7 @@ bool ExerciseView::press_answer(int key) {
 }
 
 bool ExerciseView::press_letter(const QString& text) {
-  if (text.size() != 1 || !text[0].isLetter()) return false;
+  if (!letters_press() || text.size() != 1 || !text[0].isLetter()) return false;
   const QKeySequence alt(QStringLiteral("Alt+") + text.toUpper());
   for (const ActionButton& action : action_buttons_) {
     if (action.control == &window_.zurueck) continue;

@@ -71,6 +71,9 @@ class ExerciseView : public WindowView {
     return grid;
   }
 
+  /// Whether letters press the actions without Alt too.
+  virtual bool letters_press() const { return true; }
+
   void applied() override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;

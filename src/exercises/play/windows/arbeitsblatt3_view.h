@@ -15,6 +15,8 @@ class Arbeitsblatt3View final : public ExerciseView {
 
  protected:
   void applied() override;
+  /// The actions' letters are names of tones too: "g" would check the keynote, and count.
+  bool letters_press() const override { return false; }
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 

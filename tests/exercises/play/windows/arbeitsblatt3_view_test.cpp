@@ -67,9 +67,9 @@ struct Arbeitsblatt3ViewTest : testing::Test {
     mouse(QEvent::MouseButtonPress, field);
     mouse(QEvent::MouseButtonRelease, field);
   }
-  void stroke(int key, bool repeats = false) const {
+  void stroke(int key, bool repeats = false, const QString& text = {}) const {
     QWidget* focus = view->focusWidget() ? view->focusWidget() : view;
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, {}, repeats);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text, repeats);
     QApplication::sendEvent(focus, &press);
     focus = view->focusWidget() ? view->focusWidget() : view;
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, {}, repeats);
@@ -177,6 +177,15 @@ TEST_F(Arbeitsblatt3ViewTest, AWholeTaskIsPlayedByKeysAloneAndItsLastStrokeLeads
   EXPECT_EQ(window->phase(), Phase::next_offered) << "the same stroke, or its second half";
   stroke(Qt::Key_Return);
   EXPECT_EQ(window->phase(), Phase::sounding);
+}
+
+// A letter is the name of a tone here before it is a way to an action.
+TEST_F(Arbeitsblatt3ViewTest, LettersPressNoAction) {
+  bed.hear_row();
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    stroke(letter - 'a' + Qt::Key_A, false, QString(QLatin1Char(letter)));
+    ASSERT_EQ(window->phase(), Phase::answering) << letter;
+  }
 }
 
 TEST_F(Arbeitsblatt3ViewTest, NothingIsCutOffAndOnlyALowWindowScrolls) {
