@@ -20,7 +20,8 @@ namespace {
 
 /// A row of six tones to be played back, in its real window.
 struct Arbeitsblatt3ViewTest : testing::Test {
-  Arbeitsblatt3ViewTest() {
+  explicit Arbeitsblatt3ViewTest(int level = 0) {
+    settings.choose(settings.training_Combo, level);
     settings.click(settings.invzahl[4]);
     presenter.add<Arbeitsblatt3, Arbeitsblatt3View>("arbeitsblatt3", bed.language);
     settings.click(settings.cmdOk);
@@ -215,6 +216,18 @@ TEST_F(Arbeitsblatt3ViewTest, ALowWindowShowsWhatEachStepNeeds) {
     for (; asked() >= 0; bed.scheduler.advance_ms(InputGuard::kSamePress)) click(right());
     window->CmdNextAufg_click();
   }
+}
+
+struct Arbeitsblatt3TestViewTest : Arbeitsblatt3ViewTest {
+  Arbeitsblatt3TestViewTest() : Arbeitsblatt3ViewTest(3) {}
+};
+
+TEST_F(Arbeitsblatt3TestViewTest, ANarrowWindowShowsTheTimeLeftBelowAGrownPiano) {
+  view->resize(800, 600);
+  bed.hear_row();
+  settle();
+  EXPECT_TRUE(seen("question") && seen("stop_uhr") && seen("cmd_test_aus"));
+  EXPECT_GT(keyboard->height(), 150);
 }
 
 TEST_F(Arbeitsblatt3ViewTest, NothingIsCutOffAndOnlyALowWindowScrolls) {
