@@ -13,6 +13,7 @@ namespace {
 
 constexpr QSize kUsualSize(1024, 600);
 constexpr int kNarrow = 860;  // below this the column goes under the answers
+constexpr int kLow = 500;     // below this row and answers don't stand one below the other
 
 bool pressable(const Button* button) {
   return button->isVisible() && button->open();
@@ -42,9 +43,9 @@ QSize ExerciseView::sizeHint() const {
 void ExerciseView::build_head(const Control& explanation) {
   head_ = new QBoxLayout(QBoxLayout::LeftToRight);
   head_->setSpacing(theme::between);
-  Label* question = label(window_.question, TextRole::question);
-  question->setMinimumHeight(28);
-  head_->addWidget(question);
+  question_ = label(window_.question, TextRole::question);
+  question_->setMinimumHeight(28);
+  head_->addWidget(question_);
   explained_ = label(explanation, TextRole::note);
   explained_->setWordWrap(true);
   head_->addWidget(explained_, 1);
@@ -61,7 +62,8 @@ Card* ExerciseView::build_messages(const Control& title) {
     shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     messages_->add(*shown);
   }
-  row_card->head().addWidget(messages_, 1);
+  row_head_ = &row_card->head();
+  row_head_->addWidget(messages_, 1);
   middle_->addWidget(row_card);
   return row_card;
 }
@@ -101,6 +103,27 @@ void ExerciseView::build_below(QWidget& widget) {
   whole_->setStretchFactor(halves_, 0);
   whole_->addWidget(&widget, 1);
   below_ = &widget;
+  still_ = new QWidget(this);
+  auto* line = new QHBoxLayout(still_);
+  line->setContentsMargins(theme::edge, 8, theme::edge, 4);
+  line->setSpacing(theme::between);
+  static_cast<QBoxLayout*>(layout())->insertWidget(0, still_);
+  still_->lower();  // the first that a screen reader meets
+  still_->hide();
+}
+
+bool ExerciseView::low() const {
+  return below_ && height() < kLow;
+}
+
+void ExerciseView::place_question() {
+  const bool still = low();
+  if (!still_ || still == still_->isAncestorOf(question_)) return;
+  auto* line = static_cast<QBoxLayout*>(still_->layout());
+  (still ? line : head_)->insertWidget(0, question_);
+  (still ? line : row_head_)->addWidget(messages_, 1);
+  question_->setFont(theme::font(still ? TextRole::title : TextRole::question));
+  still_->setVisible(still && content().isVisibleTo(this));
 }
 
 void ExerciseView::answer_action(const Control& control, Bindings::Handler pressed) {
@@ -156,6 +179,7 @@ void ExerciseView::applied() {
   const bool prepared = window_.phase() != Phase::starting;
   content().setVisible(prepared);
   if (action_line_) action_line_->setVisible(prepared);
+  if (still_) still_->setVisible(prepared && low());
 
   if (tabbed_in_ != window_.phase()) tabbed_in_.reset();
   const Button* way_on = button_of(window_.default_button());
@@ -207,7 +231,7 @@ bool ExerciseView::press_answer(int key) {
 }
 
 bool ExerciseView::press_letter(const QString& text) {
-  if (text.size() != 1 || !text[0].isLetter()) return false;
+  if (!letters_press() || text.size() != 1 || !text[0].isLetter()) return false;
   const QKeySequence alt(QStringLiteral("Alt+") + text.toUpper());
   for (const ActionButton& action : action_buttons_) {
     if (action.control == &window_.zurueck) continue;
@@ -252,6 +276,7 @@ bool ExerciseView::focusNextPrevChild(bool next) {
 void ExerciseView::resizeEvent(QResizeEvent* event) {
   WindowView::resizeEvent(event);
   const bool narrow = width() < kNarrow;
+  place_question();
   halves_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   if (head_) {
     head_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
@@ -259,7 +284,8 @@ void ExerciseView::resizeEvent(QResizeEvent* event) {
     explained_->setAlignment(Qt::AlignVCenter | (narrow ? Qt::AlignLeft : Qt::AlignRight));
   }
   // Room for a message that takes two lines, so that the row below it stays where it is.
-  if (messages_) messages_->setMinimumHeight(narrow ? 2 * fontMetrics().lineSpacing() : 0);
+  const bool two_lines = narrow || low();
+  if (messages_) messages_->setMinimumHeight(two_lines ? 2 * fontMetrics().lineSpacing() : 0);
   if (!standing_) return;
   const int column = standing_->usual_width();
   QBoxLayout* holder = narrow && below_ ? whole_ : halves_;

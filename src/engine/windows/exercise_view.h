@@ -27,6 +27,9 @@ namespace tonarix {
 /// the keys printed on the answers press them, and the letters that are marked for Alt press the
 /// actions without Alt too, as nothing here takes typed text; the way out they don't, for a letter
 /// is struck by accident.
+///
+/// Where something takes the width below the row and the window is low, question and message stand
+/// still above what scrolls.
 class ExerciseView : public WindowView {
  public:
   /// `sounding` is the same window where its rows are heard, else null.
@@ -71,6 +74,9 @@ class ExerciseView : public WindowView {
     return grid;
   }
 
+  /// Whether letters press the actions without Alt too.
+  virtual bool letters_press() const { return true; }
+
   void applied() override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -86,19 +92,24 @@ class ExerciseView : public WindowView {
   bool press_answer(int key);
   void press_return();
   bool press_letter(const QString& text);
+  bool low() const;
+  void place_question();
 
   ExerciseWindow& window_;
   SoundingWindow* sounding_;
   QBoxLayout* whole_ = nullptr;
   QBoxLayout* halves_ = nullptr;  ///< row and answers, standing
   QBoxLayout* head_ = nullptr;
+  QBoxLayout* row_head_ = nullptr;
   QVBoxLayout* middle_ = nullptr;
   StandingColumn* standing_ = nullptr;
   QWidget* below_ = nullptr;
+  QWidget* still_ = nullptr;  ///< above what scrolls, in a low window
   AnswerRow* row_ = nullptr;
   const PlaceControls* places_ = nullptr;
   ActionLine* action_line_ = nullptr;
   Button* answer_button_ = nullptr;
+  Label* question_ = nullptr;
   Label* explained_ = nullptr;
   Place* messages_ = nullptr;
   Label* clock_ = nullptr;

@@ -9,6 +9,11 @@
 #include "engine/windows/standing.h"
 
 namespace tonarix {
+namespace {
+
+constexpr int kFlat = 600;  // from here all that is compact has room side by side
+
+}  // namespace
 
 StandingColumn::StandingColumn(const Source& source, Shape shape, QWidget* parent)
     : QWidget(parent), from_(source), shape_(shape), cards_(new QVBoxLayout(this)) {
@@ -43,21 +48,37 @@ void StandingColumn::build_cards() {
 
 void StandingColumn::build_compact() {
   Card* card = add_card(text::standing);
-  add_counters(card->body(), 2);
-  const auto part = [card] {
+  compact_ = &card->body();
+  add_counters(*compact_, 2);
+  const auto part = [this, card] {
     auto* lines = new QVBoxLayout(new QWidget(card));
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(theme::inside);
-    card->body().addWidget(lines->parentWidget());
+    compact_->addWidget(lines->parentWidget());
     return lines;
   };
   QVBoxLayout* training = part();
   add_training(*training);
   QVBoxLayout* test = part();
   add_test(*test);
-  card->body().addStretch(1);
+  compact_->addStretch(1);
   training_ = training->parentWidget();
   test_ = test->parentWidget();
+}
+
+void StandingColumn::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (!compact_) return;
+  const bool flat = width() >= kFlat;
+  const auto direction = flat ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+  if (compact_->direction() == direction) return;
+  compact_->setDirection(direction);
+  for (QWidget* part : {training_, test_}) {
+    static_cast<QBoxLayout*>(part->layout())->setDirection(direction);
+  }
+  const int rest = compact_->count() - 1;
+  for (int i = 0; i < rest; ++i) compact_->setStretch(i, flat ? 1 : 0);
+  compact_->setStretch(rest, flat ? 0 : 1);
 }
 
 void StandingColumn::show_level(Level level) {
@@ -65,7 +86,7 @@ void StandingColumn::show_level(Level level) {
   test_->setVisible(is_test(level));
 }
 
-void StandingColumn::add_training(QVBoxLayout& into) {
+void StandingColumn::add_training(QBoxLayout& into) {
   const ExerciseWindow& window = from_.window;
   auto* place = new Place(this);
   place->add(*label(window.ergebnis_anz[0], TextRole::title));
@@ -74,7 +95,7 @@ void StandingColumn::add_training(QVBoxLayout& into) {
     from_.bindings.bind(*verdict, window.ergebnis_anz[end]);
     place->add(*verdict);
   }
-  into.addWidget(place);
+  into.addWidget(place, 0, Qt::AlignVCenter);
   const Control& value = window.matboxanz[window.matboxanz.last];
   auto* bar = new PercentBar(
       {word(text::percent), word(text::bar_solved), word(text::bar_too_difficult)}, this);
@@ -88,17 +109,20 @@ void StandingColumn::add_training(QVBoxLayout& into) {
   into.addWidget(bar);
 }
 
-void StandingColumn::add_test(QVBoxLayout& into) {
+void StandingColumn::add_test(QBoxLayout& into) {
+  auto* lines = new QVBoxLayout;
+  lines->setSpacing(theme::inside);
+  into.addLayout(lines);
   for (const Control* line : {&from_.window.lab_aufgaben, &from_.window.stop_uhr}) {
     Label* shown = label(*line, TextRole::choice, {.keep_place = true});
     shown->setWordWrap(true);
-    into.addWidget(shown);
+    lines->addWidget(shown);
   }
   test_buttons_ = new Place(this);
   into.addWidget(test_buttons_);
 }
 
-void StandingColumn::add_counters(QVBoxLayout& into, int columns) {
+void StandingColumn::add_counters(QBoxLayout& into, int columns) {
   struct Line {
     const Control& number;
     const Control& name;

@@ -12,6 +12,9 @@
 namespace tonarix {
 namespace {
 
+constexpr int kLowestPiano = 110;
+constexpr int kBesidePiano = 190;  // the question, the line above the keys and the actions
+
 static_assert(kPianoKeys == kLastKey + 1);
 
 bool is_return(const QKeyEvent& event) {
@@ -57,6 +60,7 @@ void Arbeitsblatt3View::build_keyboard() {
   card->head().addWidget(label(window_.grdton_pic, TextRole::title));
 
   keyboard_ = new PianoKeyboard(card);
+  keyboard_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   keyboard_->set_locked_word(word(text::locked));
   keyboard_->setAccessibleDescription(word(text::field_says_spelling) + QLatin1Char(' ') +
                                       word(text::how_to_play));
@@ -107,15 +111,21 @@ void Arbeitsblatt3View::show_key(int key) {
 
 void Arbeitsblatt3View::show_row() {
   const auto shown = std::ranges::count_if(window_.ergPic, &Control::visible);
-  int asked = -1;
+  asked_ = -1;
   int tries = 0;
   for (const Control& number : window_.int_lb) {
     if (!number.visible) continue;
-    asked = *number.index();
-    const Control& left = window_.tries[asked];
+    asked_ = *number.index();
+    const Control& left = window_.tries[asked_];
     if (left.visible) tries = to_qstring(left.text).toInt();
   }
-  row_->show_state(static_cast<int>(shown), asked, tries);
+  row_->show_state(static_cast<int>(shown), asked_, tries);
+}
+
+void Arbeitsblatt3View::fit() {
+  if (!keyboard_) return;
+  const int usual = keyboard_->minimumSizeHint().height();
+  keyboard_->setMinimumHeight(std::min(std::max(height() - kBesidePiano, kLowestPiano), usual));
 }
 
 void Arbeitsblatt3View::applied() {
@@ -124,9 +134,12 @@ void Arbeitsblatt3View::applied() {
   const Phase phase = window_.phase();
   if (phase == shown_phase_) return;
   shown_phase_ = phase;
-  if (phase == Phase::sounding) bring_into_view(*row_);
+  if (phase == Phase::sounding || phase == Phase::control_sounding) {
+    bring_into_view(*row_->fields[static_cast<std::size_t>(std::max(asked_, 0))]);
+  }
   if (phase != Phase::answering) return;
-  bring_into_view(*keyboard_);
+  // With the line above the keys.
+  bring_into_view(*keyboard_->parentWidget());
   // The hand goes to the keys as soon as they are open.
   const QWidget* focus = focusWidget();
   if (!focus || focus == this) keyboard_->setFocus(Qt::OtherFocusReason);

@@ -15,6 +15,9 @@ class Arbeitsblatt3View final : public ExerciseView {
 
  protected:
   void applied() override;
+  void fit() override;
+  /// The actions' letters are names of tones too: "g" would check the keynote, and count.
+  bool letters_press() const override { return false; }
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -29,6 +32,7 @@ class Arbeitsblatt3View final : public ExerciseView {
 
   Arbeitsblatt3& window_;
   ToneRow* row_ = nullptr;
+  int asked_ = -1;
   PianoKeyboard* keyboard_ = nullptr;
   std::optional<KeyRange> keys_;  ///< as the keyboard shows them
   Phase shown_phase_ = Phase::starting;
