@@ -4,21 +4,25 @@
 #include <cstdint>
 #include <vector>
 
+#include "exercises/write/notation/windows/notation_picture.h"
+#include "exercises/write/notation/written_note.h"
+
 namespace tonarix {
 
-/// A scale on C as notes on a staff: Dur (0), moll (1) or Dur-moll (2). All its tones stand in one
-/// octave from the c on the first ledger line; a natural sign cancels the flat of the tone before.
+/// A note of a scale; `at` is its head in the picture of the upper staff.
+struct ScaleNote {
+  Pixel at;
+  DrawingCode code;
+};
+
+/// A scale on C, Dur (0), moll (1) or Dur-moll (2), from the c on the first ledger line on, in one
+/// line or two; a natural cancels the flat of the tone before. No sign or head touches another.
+std::vector<std::vector<ScaleNote>> scale_lines(std::int16_t tongeschl);
+
+/// Shows such a scale, as large as fits.
 class ScalePicture final : public QWidget {
  public:
-  enum class Sign : std::int8_t { none, flat, natural, sharp };
-  struct Note {
-    int step;  ///< above the lowest c, in steps of the staff
-    Sign sign;
-    friend bool operator==(const Note&, const Note&) = default;
-  };
-
   ScalePicture(std::int16_t tongeschl, QWidget* parent);
-  const std::vector<Note>& notes() const { return notes_; }
 
   QSize sizeHint() const override { return minimumSizeHint(); }
   QSize minimumSizeHint() const override;
@@ -27,7 +31,10 @@ class ScalePicture final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  std::vector<Note> notes_;
+  void draw(PictureFactor factor);
+
+  std::vector<std::vector<ScaleNote>> lines_;
+  std::vector<NotationPicture> pictures_;  ///< one for each line, as they were shown last
 };
 
 }  // namespace tonarix

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "base/arithmetic.h"
 #include "base/windows/presenter.h"
 #include "exercises/determine/windows/scale_picture.h"
 #include "flow/flow_bed.h"
@@ -232,14 +233,18 @@ TEST_F(Arbeitsblatt1ViewTest, AnswersKeepTheirPlacesAllFitAndNarrowWindowsScroll
 
 /// "C Db D= Eb" for the notes c, d flat, d natural, e flat.
 std::string written(std::int16_t tongeschl) {
-  using Sign = ScalePicture::Sign;
-  const std::map<Sign, std::string> signs{
-      {Sign::flat, "b "}, {Sign::natural, "= "}, {Sign::sharp, "# "}};
   std::string text;
-  const ScalePicture picture(tongeschl, nullptr);
-  for (const ScalePicture::Note& note : picture.notes()) {
-    const auto sign = signs.find(note.sign);
-    text += "CDEFGABc"[note.step] + (sign == signs.end() ? " " : sign->second);
+  for (const auto& line : scale_lines(tongeschl)) {
+    int end = 31;  // of the clef
+    for (const ScaleNote& note : line) {
+      const char sign = "b=#x "[static_cast<int>(note.code) - static_cast<int>(DrawingCode::flat)];
+      text += "CDEFGABc"[(104 - note.at.y) / kStepHeight];
+      text += note.code == DrawingCode::plain ? " " : std::string{sign, ' '};
+      EXPECT_GT(note.at.x - (note.code == DrawingCode::plain ? 4 : 12), end);
+      EXPECT_TRUE(is_odd(note.at.x));
+      end = note.at.x + 5;
+    }
+    EXPECT_TRUE(end > 175 && end < 200) << end;
   }
   return text;
 }
@@ -248,6 +253,19 @@ TEST(ScalePictureTest, WritesEachScaleOnC) {
   EXPECT_EQ(written(0), "C D E F G A B c ");
   EXPECT_EQ(written(1), "C D Eb F G Ab A= Bb B= c ");
   EXPECT_EQ(written(2), "C Db D= Eb E= F G Ab A= Bb B= c ");
+}
+
+TEST(ScalePictureTest, FillsItsRoomWithWholePixels) {
+  ScalePicture picture(2, nullptr);
+  for (const auto& [size, times] : {std::pair{QSize(204, 128), 1}, {QSize(400, 300), 2}}) {
+    picture.resize(size);
+    const QImage image = picture.grab().toImage();
+    for (int y = 0; y < 128 * times; ++y) {
+      const int at = y / times % 64 + 50;  // in the picture of the staff
+      const bool line = at >= 64 && at <= 96 && at % 8 == 0;
+      EXPECT_EQ(image.pixelColor(1, y) == QColor(Qt::black), line) << times << " " << y;
+    }
+  }
 }
 
 }  // namespace
