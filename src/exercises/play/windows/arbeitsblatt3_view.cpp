@@ -138,8 +138,12 @@ void Arbeitsblatt3View::applied() {
     bring_into_view(*row_->fields[static_cast<std::size_t>(std::max(asked_, 0))]);
   }
   if (phase != Phase::answering) return;
-  // With the line above the keys.
-  bring_into_view(*keyboard_->parentWidget());
+  // With the line above the keys, where both have room.
+  QWidget* card = keyboard_->parentWidget();
+  const QMargins edge = card->layout()->contentsMargins();
+  const int needed = card->height() - edge.top() - edge.bottom();
+  const bool fits = needed <= content().parentWidget()->height();
+  bring_into_view(fits ? *card : *keyboard_);
   // The hand goes to the keys as soon as they are open.
   const QWidget* focus = focusWidget();
   if (!focus || focus == this) keyboard_->setFocus(Qt::OtherFocusReason);

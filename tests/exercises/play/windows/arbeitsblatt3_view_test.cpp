@@ -216,6 +216,10 @@ TEST_F(Arbeitsblatt3ViewTest, ALowWindowShowsWhatEachStepNeeds) {
     for (; asked() >= 0; bed.scheduler.advance_ms(InputGuard::kSamePress)) click(right());
     window->CmdNextAufg_click();
   }
+  view->resize(512, 232);
+  bed.hear_row();
+  settle();
+  EXPECT_TRUE(seen("question") && seen("hint") && seen("Klavierrahmen")) << "the keys come first";
 }
 
 struct Arbeitsblatt3TestViewTest : Arbeitsblatt3ViewTest {
