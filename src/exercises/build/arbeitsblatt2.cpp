@@ -249,12 +249,8 @@ std::string Arbeitsblatt2::wrong_answer() {
     return word(232_text) + ":";
   }
   Control& field = ergebnis[kAsked];
-  const bool black_on_red = answers().book.wrong_tries(kAsked) % 2 == 1;
-  field.back = black_on_red ? signal::wrong : signal::black;
-  field.fore = black_on_red ? signal::black : signal::wrong;
-  field.text = word(232_text);
-  const std::string still = tries_left_words(answers().book.tries_left(kAsked), common().texts);
-  field.accessible_name = nriv[kAsked].text + ": " + word(text::spoken_wrong) + ", " + still;
+  const std::string still =
+      show_wrong_try(field, nriv[kAsked].text, answers().book, kAsked, common().texts);
   show_tries();
   tell_what_to_do();
   answers().open_next(kAsked);

@@ -294,12 +294,8 @@ std::string Arbeitsblatt3::wrong_answer(const Field& field) {
            ".";
   }
   Control& result = ergPic[tonNr_];
-  const bool black_on_red = answers().book.wrong_tries(place) % 2 == 1;
-  result.back = black_on_red ? signal::wrong : signal::black;
-  result.fore = black_on_red ? signal::black : signal::wrong;
-  result.text = word(232_text);
-  const std::string still = tries_left_words(answers().book.tries_left(place), common().texts);
-  result.accessible_name = int_lb[tonNr_].text + ": " + word(text::spoken_wrong) + ", " + still;
+  const std::string still =
+      show_wrong_try(result, int_lb[tonNr_].text, answers().book, place, common().texts);
   tasteGesperrt_.set(static_cast<std::size_t>(field.key));
   taste[field.key].back = std::nullopt;
   open_answers(true);
